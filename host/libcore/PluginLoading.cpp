@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// From a folder to plug-ins that run: what is taken, what is refused and how a library goes again.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QPluginLoader>
+
+#include "IBasePlugin.h"
+#include "PluginContainer.h"
+
+/** A text with storage of its own: what a plug-in hands out may lie in its library, which goes before our records do.
+ */
+static QString ownCopy(const QString& text)
+{
+    return QString(text.constData(), text.size());
+}
+
+void PluginContainer::loadFolder(const QString& folder)
+{
+    const QFileInfo root(folder);
+    if (!root.isDir() || !root.isReadable() || !root.isExecutable()) {
+        refuse(folder, QLatin1String("there is no such folder, or it cannot be read"));
+        return;
+    }
+    const QFileInfoList subfolders = QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QFileInfo& subfolder : subfolders) {
+        const QFileInfo file(QDir(subfolder.filePath()),
+                             QLatin1String("lib") + subfolder.fileName() + QLatin1String(".so"));
+        // What cannot be looked into may hold a plug-in; a folder that certainly has none is no fault.
+        if (file.exists() || file.isSymLink() || !subfolder.isExecutable())
+            load(file);
+    }
+}
+
+void PluginContainer::load(const QFileInfo& file)
+{
+    // A pipe or device would make the loader wait for ever.
+    if (!file.isReadable()) {
+        refuse(file.filePath(), QLatin1String("the file cannot be read"));
+        return;
+    }
+    if (!file.isFile()) {
+        refuse(file.filePath(), QLatin1String("it is not a regular file"));
+        return;
+    }
+    Plugin plugin = {file.canonicalFilePath(), nullptr, nullptr, nullptr, QString(), QString()};
+    for (const Plugin& other : m_plugins) {
+        if (other.file == plugin.file) {
+            refuse(file.filePath(), QLatin1String("this file is loaded already"));
+            return;
+        }
+    }
+    plugin.loader = new QPluginLoader(plugin.file);
+    // By default a library stays mapped for good.
+    plugin.loader->setLoadHints(QLibrary::LoadHints());
+    if (plugins().contains(plugin.loader->instance())) {
+        // Another name of a loaded file: the object is the other's, and unloading would delete it.
+        delete plugin.loader;
+        refuse(file.filePath(), QLatin1String("this file is loaded already"));
+        return;
+    }
+    const QString reason = take(plugin);
+    if (reason.isEmpty()) {
+        m_plugins.append(plugin);
+        return;
+    }
+    unload(plugin);
+    refuse(file.filePath(), reason);
+}
+
+/** Asks a library for its plug-in and starts it. Empty when it runs, else why it does not. */
+QString PluginContainer::take(Plugin& plugin)
+{
+    plugin.object = plugin.loader->instance();
+    if (!plugin.object)
+        return QLatin1String("it is not a plug-in that can be loaded: ") + plugin.loader->errorString().simplified();
+    plugin.base = qobject_cast<IBasePlugin*>(plugin.object);
+    if (!plugin.base)
+        return QLatin1String("the plug-in has no IBasePlugin");
+    plugin.clsid = ownCopy(plugin.base->GetCLSID());
+    plugin.name = ownCopy(plugin.base->GetPluginName());
+    if (hasClassIdentifier(plugin.clsid))
+        return QLatin1String("its class identifier is in use already: ") + plugin.clsid;
+    if (!plugin.base->Init()) {
+        plugin.base->OnDestroy();
+        return QLatin1String("its Init failed");
+    }
+    return QString();
+}
+
+void PluginContainer::unload(const Plugin& plugin)
+{
+    // Destructors of the library must not be waiting when their code goes.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    plugin.loader->unload();
+    delete plugin.loader;
+}
+
+void PluginContainer::refuse(const QString& file, const QString& reason)
+{
+    const Refusal refusal = {file, reason};
+    m_refusals.append(refusal);
+    qWarning("Plug-in refused: %s: %s", file.toUtf8().constData(), reason.toUtf8().constData());
+}

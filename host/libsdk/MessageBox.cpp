@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// CommonUtils::ShowMessage().
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+
+#include "Change.h"
+#include "CommonUtils.h"
+#include "PlainMessage.h"
+
+namespace
+{
+
+/** Keeps Escape and the close button from a message that must be answered by one of its buttons. */
+class CloseGuard : public QObject
+{
+public:
+    explicit CloseGuard(QObject* box)
+        : QObject(box)
+    {
+        box->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* box, QEvent* event) override
+    {
+        const bool isEscape =
+            event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+        if (event->type() == QEvent::Close)
+            event->ignore();
+        return isEscape || event->type() == QEvent::Close || QObject::eventFilter(box, event);
+    }
+};
+
+void addButton(QMessageBox* box, QMessageBox::StandardButton number, const QString& key)
+{
+    if (!key.isEmpty())
+        box->addButton(number)->setText(Change::tr(key, QLatin1String("QuickLinkUIPlugin")));
+}
+
+} // namespace
+
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString title, QString text, QString firstButton,
+                             QString secondButton, QString thirdButton, bool beep, QFlags<Qt::WindowType> flags,
+                             QDialog** dialogOut, QString details, bool closable)
+{
+    // On the heap: with its parent it may be deleted while it is open.
+    const QPointer<QMessageBox> box = newPlainMessage(icon, parent, title, text, flags);
+    addButton(box, QMessageBox::Ok, firstButton);
+    addButton(box, QMessageBox::Cancel, secondButton);
+    addButton(box, QMessageBox::Ignore, thirdButton);
+    if (box->buttons().isEmpty())
+        box->addButton(QMessageBox::Ok);
+    const QMessageBox::StandardButton closed = secondButton.isEmpty() ? QMessageBox::Ok : QMessageBox::Cancel;
+    box->setDefaultButton(QMessageBox::Ok);
+    box->setEscapeButton(closed);
+    if (!details.isEmpty())
+        box->setDetailedText(details);
+    if (!closable) {
+        // Only a customised window may lack the close button that the toolkit gives to every message box.
+        box->setWindowFlags((box->windowFlags() | Qt::CustomizeWindowHint) & ~Qt::WindowCloseButtonHint);
+        new CloseGuard(box);
+    }
+    if (beep)
+        QApplication::beep();
+
+    if (dialogOut)
+        *dialogOut = box;
+    const int answer = box->exec();
+    if (dialogOut)
+        *dialogOut = nullptr;
+    const bool isButton = box && box->button(QMessageBox::StandardButton(answer));
+    delete box;
+    return isButton ? answer : closed;
+}

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "PlainMessage.h"
+
+QMessageBox* newPlainMessage(QMessageBox::Icon icon, QWidget* parent, const QString& title, const QString& text,
+                             Qt::WindowFlags flags)
+{
+    QMessageBox* const box = new QMessageBox(icon, title, QString(), QMessageBox::NoButton, parent, flags);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    box->setAccessibleName(title);
+    box->setAccessibleDescription(text);
+    return box;
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// A plug-in that tells the host's component "recorder" what happens to it. Its name, its class identifier and the
+// answer of its Init come from the build.
+
+#include <QStringList>
+#include <QVariant>
+
+#include "IBasePlugin.h"
+#include "INotify.h"
+#include "IPluginContainer.h"
+#include "Startup.h"
+
+static void record(const QString& event)
+{
+    IPluginContainer* const container = Startup::GetPluginContainer();
+    QObject* const recorder = container ? container->GetPlugin(QStringLiteral("recorder"), 1) : nullptr;
+    if (recorder)
+        recorder->setProperty("events", recorder->property("events").toStringList()
+                                            << QStringLiteral(SAMPLE_NAME) + QLatin1Char(' ') + event);
+}
+
+/** Something that the plug-in leaves to the event loop to delete. */
+class LateObject : public QObject
+{
+public:
+    ~LateObject() override { record(QStringLiteral("late")); }
+};
+
+class SamplePlugin : public QObject, public IBasePlugin, public INotify
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.norvik.vellumconnect.plugin.IBasePlugin")
+    Q_INTERFACES(IBasePlugin INotify)
+
+public:
+    ~SamplePlugin() override { record(QStringLiteral("gone")); }
+
+    void Release() override {}
+    int GetLastError() override { return 0; }
+    int Init() override
+    {
+        record(QStringLiteral("Init"));
+        return SAMPLE_INIT;
+    }
+    int GetPluginType() override { return 0; }
+    // Data of the library itself, which the host must not keep beyond it.
+    QString GetCLSID() override { return QStringLiteral(SAMPLE_CLSID); }
+    int GetVersion() override { return 0x100; }
+    QString GetPluginName() override { return QStringLiteral(SAMPLE_NAME); }
+    int IsAllowRelease() override { return 1; }
+    int QueryInterface(int, QObject**) override { return 0; }
+    void OnDestroy() override
+    {
+        const bool isListed = Startup::GetPluginContainer()->GetPlugin(GetCLSID(), 0) == this;
+        record(isListed ? QStringLiteral("OnDestroy while listed") : QStringLiteral("OnDestroy"));
+        (new LateObject)->deleteLater();
+    }
+    int Notify(unsigned int code, unsigned int param1, unsigned int param2) override
+    {
+        record(QStringLiteral("%1 %2 %3").arg(code).arg(param1).arg(param2));
+        return 7;
+    }
+};
+
+#include "SamplePlugin.moc"

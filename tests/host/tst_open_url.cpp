@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// What reaches the browser, and what the user is told about the rest.
+
+#include <QDesktopServices>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QUrl>
+#include <QWindow>
+
+#include "CommonUtils.h"
+#include "MessageOnScreen.h"
+
+class OpenUrlTest : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void open(const QUrl& url) { m_opened << QString::fromLatin1(url.toEncoded()); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void handsOn_data();
+    void handsOn();
+    void refuses_data();
+    void refuses();
+    void tellsWhenNothingOpens();
+    void showsTheAddressAsItStands();
+    void cutsOffAVeryLongAddress();
+    void noticeCanBeClosedOverAModalMessage();
+    void noticeGoesWhenTheProgramEnds();
+
+private:
+    QStringList m_opened;
+};
+
+static const char* const schemes[] = {"http", "https", "ftp", "file", "javascript", "mailto"};
+
+static QMessageBox* notice()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        QMessageBox* const box = qobject_cast<QMessageBox*>(window);
+        if (box && box->isVisible() && !box->isModal())
+            return box;
+    }
+    return nullptr;
+}
+
+/** Clicks as the window system would, which does not reach a window blocked by a modal one. */
+static void clickOk(QMessageBox* box)
+{
+    const QAbstractButton* const button = box->button(QMessageBox::Ok);
+    QVERIFY(QTest::qWaitForWindowExposed(box));
+    QTest::mouseClick(box->windowHandle(), Qt::LeftButton, Qt::NoModifier, button->mapTo(box, button->rect().center()));
+}
+
+void OpenUrlTest::init()
+{
+    m_opened.clear();
+    for (const char* scheme : schemes)
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
+}
+
+void OpenUrlTest::cleanup()
+{
+    for (const char* scheme : schemes)
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+    while (QMessageBox* const box = notice())
+        delete box;
+}
+
+void OpenUrlTest::handsOn_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("opened");
+    QTest::newRow("complete") << QStringLiteral("https://example.com/a?b=c&d")
+                              << QStringLiteral("https://example.com/a?b=c&d");
+    QTest::newRow("www") << QStringLiteral("www.example.com") << QStringLiteral("http://www.example.com");
+    QTest::newRow("ftp") << QStringLiteral("ftp.example.com") << QStringLiteral("ftp://ftp.example.com");
+    QTest::newRow("other") << QStringLiteral("example.com") << QStringLiteral("http://example.com");
+    QTest::newRow("upper case") << QStringLiteral("HTTP://example.com") << QStringLiteral("http://example.com");
+}
+
+void OpenUrlTest::handsOn()
+{
+    QFETCH(QString, address);
+    QFETCH(QString, opened);
+    CommonUtils::OpenUrl(address);
+    QCOMPARE(m_opened, QStringList() << opened);
+    QVERIFY(!notice());
+}
+
+void OpenUrlTest::refuses_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("script") << QStringLiteral("javascript:alert(1)");
+    QTest::newRow("file") << QStringLiteral("file:///etc/passwd");
+    QTest::newRow("mail") << QStringLiteral("mailto:someone@example.com");
+    QTest::newRow("no host") << QStringLiteral("http:///x");
+    QTest::newRow("empty") << QString();
+}
+
+void OpenUrlTest::refuses()
+{
+    QFETCH(QString, address);
+    CommonUtils::OpenUrl(address);
+    QVERIFY(m_opened.isEmpty());
+    const QPointer<QMessageBox> box = notice();
+    QVERIFY(box);
+    QVERIFY2(box->text().endsWith(QStringLiteral("\n\n") + address), qPrintable(box->text()));
+    QVERIFY(box->text().contains(QStringLiteral("https")));
+    QVERIFY(!box->windowTitle().isEmpty());
+    QCOMPARE(box->icon(), QMessageBox::Warning);
+    clickOk(box);
+    QTRY_VERIFY(!box);
+}
+
+void OpenUrlTest::tellsWhenNothingOpens()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("does not support")));
+    CommonUtils::OpenUrl(QStringLiteral("www.example.com"));
+    QMessageBox* const box = notice();
+    QVERIFY(box);
+    QVERIFY(box->text().contains(QStringLiteral("www.example.com")));
+    QVERIFY(box->text().contains(QStringLiteral("No program")));
+}
+
+void OpenUrlTest::showsTheAddressAsItStands()
+{
+    CommonUtils::OpenUrl(QStringLiteral("x:<b>bold</b> %1"));
+    QVERIFY(notice());
+    QCOMPARE(notice()->textFormat(), Qt::PlainText);
+    QVERIFY(notice()->text().contains(QStringLiteral("x:<b>bold</b> %1")));
+}
+
+void OpenUrlTest::cutsOffAVeryLongAddress()
+{
+    const QString address = QStringLiteral("x:") + QString(5000, QLatin1Char('y'));
+    CommonUtils::OpenUrl(address);
+    QVERIFY(notice());
+    QVERIFY(notice()->text().size() < 300);
+    QCOMPARE(notice()->detailedText(), address);
+    const QString shortAddress = QStringLiteral("x:") + QString(118, QLatin1Char('y'));
+    delete notice();
+    CommonUtils::OpenUrl(shortAddress);
+    QVERIFY(notice()->text().endsWith(shortAddress));
+    QVERIFY(notice()->detailedText().isEmpty());
+}
+
+void OpenUrlTest::noticeCanBeClosedOverAModalMessage()
+{
+    QPointer<QMessageBox> box;
+    bool wasShown = false, isGone = false;
+    whenMessageShows([&](QMessageBox* modal) {
+        CommonUtils::OpenUrl(QStringLiteral("x:y"));
+        box = notice();
+        wasShown = box;
+        if (box)
+            clickOk(box);
+        isGone = QTest::qWaitFor([&] { return !box; });
+        modal->close();
+    });
+    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), QString(), QStringLiteral("A"), QString(),
+                             QString(), false, Qt::WindowFlags(), nullptr, QString(), true);
+    QVERIFY(wasShown);
+    QVERIFY(isGone);
+}
+
+void OpenUrlTest::noticeGoesWhenTheProgramEnds()
+{
+    QWidget window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    CommonUtils::OpenUrl(QStringLiteral("x:y"));
+    QVERIFY(notice());
+    const QPointer<QMessageBox> box = notice();
+    QTimer::singleShot(0, &window, SLOT(close()));
+    QTimer::singleShot(10000, &window, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(!box);
+}
+
+QTEST_MAIN(OpenUrlTest)
+#include "tst_open_url.moc"
