@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The links as menu actions, which the host asks for.
+
+#include <QAction>
+
+#include "QuickLinkSettingPluginDlg.h"
+#include "Trace.h"
+
+int QuickLinkSettingPluginDlg::GetQuickLinkRecordSize()
+{
+    return m_recordList ? m_recordList->size() : -1;
+}
+
+QAction* QuickLinkSettingPluginDlg::GetActionFromQuickLink(int index)
+{
+    TRACE_START();
+    if (!m_recordList) {
+        TRACE_NULL();
+        return nullptr;
+    }
+    const QuickLinkRecord record = m_recordList->value(index);
+    // The action opens the link as it was now, also after the list has changed.
+    QAction* const action = new QAction(record.name, this);
+    m_actionMap.insert(action, record);
+    TRACE_END();
+    return action;
+}
