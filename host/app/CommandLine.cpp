@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+
+namespace
+{
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+/** The options, which the parser and the help text share. */
+struct Options {
+    Options()
+        : help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and exit."))
+        , version({QStringLiteral("v"), QStringLiteral("version")}, tr("Show the version and exit."))
+        , dataFolder(QStringLiteral("data-dir"), tr("Keep your own data in DIR."), QStringLiteral("DIR"))
+        , pluginFolder(QStringLiteral("plugin-dir"), tr("Load the plug-ins of DIR."), QStringLiteral("DIR"))
+        , language(QStringLiteral("language"), tr("Show texts in the language LANG, such as en or pt_BR."),
+                   QStringLiteral("LANG"))
+        , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no display."))
+    {
+        parser.setApplicationDescription(tr("Connection manager with quick links."));
+        parser.addOptions({help, version, dataFolder, pluginFolder, language, listLinks});
+    }
+
+    /** What is wrong with the arguments; empty when nothing is. */
+    QString error() const
+    {
+        if (!parser.errorText().isEmpty())
+            return parser.errorText();
+        if (!parser.positionalArguments().isEmpty())
+            return tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().first());
+        for (const QCommandLineOption& option : {dataFolder, pluginFolder, language}) {
+            if (parser.isSet(option) && parser.value(option).isEmpty())
+                return tr("Empty value after \"--%1\".").arg(option.names().first());
+        }
+        return QString();
+    }
+
+    CommandLine::Action action() const
+    {
+        if (parser.isSet(help))
+            return CommandLine::ShowHelp;
+        if (parser.isSet(version))
+            return CommandLine::ShowVersion;
+        return parser.isSet(listLinks) ? CommandLine::ListLinks : CommandLine::ShowWindow;
+    }
+
+    QCommandLineOption help, version, dataFolder, pluginFolder, language, listLinks;
+    QCommandLineParser parser;
+};
+} // namespace
+
+CommandLine CommandLine::parse(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QFile::decodeName(argv[i]));
+    Options options;
+    options.parser.parse(arguments);
+
+    CommandLine line;
+    line.error = options.error().simplified();
+    if (!line.error.isEmpty()) {
+        line.error += QStringLiteral(" Try --help.");
+        line.action = Refuse;
+        return line;
+    }
+    line.action = options.action();
+    line.dataFolder = options.parser.value(options.dataFolder);
+    line.pluginFolder = options.parser.value(options.pluginFolder);
+    line.language = options.parser.value(options.language);
+    return line;
+}
+
+QString CommandLine::helpText()
+{
+    return Options().parser.helpText();
+}
+
+QString CommandLine::versionText()
+{
+    return QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
+}

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "LinkTable.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QVector>
+
+#include <algorithm>
+#include <array>
+
+#include "IBasePlugin.h"
+#include "IQuickLinkPlugin.h"
+#include "LinkName.h"
+
+namespace
+{
+using Row = std::array<QString, 3>;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("LinkTable", text);
+}
+
+void addLinks(QVector<Row>& rows, QObject* plugin)
+{
+    IQuickLinkPlugin* const links = qobject_cast<IQuickLinkPlugin*>(plugin);
+    IBasePlugin* const base = qobject_cast<IBasePlugin*>(plugin);
+    const int count = links ? links->GetQuickLinkRecordSize() : 0;
+    for (int i = 0; i < count; ++i) {
+        if (QAction* const action = links->GetActionFromQuickLink(i))
+            rows.append(Row{QString::number(rows.size()), LinkName::onOneLine(action->text()),
+                            base ? base->GetPluginName() : QString()});
+    }
+}
+} // namespace
+
+QString linkTable(const QList<QObject*>& plugins)
+{
+    QVector<Row> rows{Row{QStringLiteral("#"), tr("Name"), tr("Plug-in")}};
+    for (QObject* plugin : plugins)
+        addLinks(rows, plugin);
+    if (rows.size() == 1)
+        return tr("No quick links") + QLatin1Char('\n');
+
+    std::array<int, 2> widths{};
+    for (const Row& row : qAsConst(rows)) {
+        for (std::size_t column = 0; column < widths.size(); ++column)
+            widths[column] = std::max(widths[column], int(row[column].size()));
+    }
+    QString table;
+    for (const Row& row : qAsConst(rows)) {
+        table += row[0].rightJustified(widths[0]) + QStringLiteral("  ") + row[1].leftJustified(widths[1]) +
+                 QStringLiteral("  ") + row[2] + QLatin1Char('\n');
+    }
+    return table;
+}

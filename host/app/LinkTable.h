@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QObject;
+
+/** The quick links of plugins as a table for a terminal: number, name and plug-in. Ends with a line feed. */
+QString linkTable(const QList<QObject*>& plugins);

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "MenuManager.h"
+
+#include <QPointer>
+#include <QTextDocument>
+
+#include "IQuickLinkPlugin.h"
+#include "LinkName.h"
+#include "PluginContainer.h"
+
+static const unsigned int quickLinksChanged = 2309;
+
+MenuManager::MenuManager(const PluginContainer& container)
+    : m_container(container)
+{
+}
+
+int MenuManager::Notify(unsigned int code, unsigned int param1, unsigned int param2)
+{
+    Q_UNUSED(param1);
+    Q_UNUSED(param2);
+    if (code == quickLinksChanged)
+        rebuild();
+    return 0;
+}
+
+void MenuManager::rebuild()
+{
+    const QList<QAction*> old = m_actions;
+    m_actions.clear();
+    const QList<QObject*> plugins = m_container.plugins();
+    for (QObject* plugin : plugins)
+        addLinks(plugin);
+    Q_EMIT rebuilt(m_actions);
+    // Later: one of them may be what asked for the change.
+    for (QAction* action : old)
+        action->deleteLater();
+}
+
+void MenuManager::clear()
+{
+    Q_EMIT rebuilt(QList<QAction*>());
+    qDeleteAll(m_actions);
+    m_actions.clear();
+}
+
+void MenuManager::addLinks(QObject* plugin)
+{
+    IQuickLinkPlugin* const links = qobject_cast<IQuickLinkPlugin*>(plugin);
+    const int count = links ? links->GetQuickLinkRecordSize() : 0;
+    for (int i = 0; i < count; ++i) {
+        if (QAction* const theirs = links->GetActionFromQuickLink(i))
+            m_actions.append(newAction(plugin, links, theirs));
+    }
+}
+
+QAction* MenuManager::newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs)
+{
+    const QString name = LinkName::onOneLine(theirs->text());
+    QAction* const action = new QAction(LinkName::withAmpersands(name), this);
+    action->setData(name);
+    // A name that looks like markup is shown as it stands.
+    action->setToolTip(Qt::convertFromPlainText(tr("Open %1").arg(name), Qt::WhiteSpaceNormal));
+    action->setStatusTip(tr("Open %1").arg(name));
+    connect(action, &QAction::triggered, this,
+            [plugin = QPointer<QObject>(plugin), links, theirs = QPointer<QAction>(theirs)] {
+                if (plugin && theirs)
+                    links->LaunchQuickLinkAction(theirs);
+            });
+    return action;
+}

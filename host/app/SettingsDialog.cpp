@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "SettingsDialog.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "PageArea.h"
+
+SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
+    : QDialog(parent)
+    , m_pages(SettingsPage::of(plugins))
+    , m_list(new QListWidget)
+    , m_area(new PageArea)
+{
+    setWindowTitle(tr("Settings"));
+    QVBoxLayout* const column = new QVBoxLayout(this);
+    QHBoxLayout* const row = new QHBoxLayout;
+    column->addLayout(row, 1);
+    row->addWidget(m_list);
+    row->addWidget(m_area, 1);
+    QLabel* const hint = new QLabel(tr("None of the loaded plug-ins has settings."));
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setMinimumSize(320, 120);
+    row->addWidget(hint);
+
+    for (const SettingsPage& page : qAsConst(m_pages))
+        m_list->addItem(page.caption());
+    m_list->setAccessibleName(tr("Pages"));
+    m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
+    m_list->setVisible(!m_pages.isEmpty());
+    m_area->setVisible(!m_pages.isEmpty());
+    hint->setVisible(m_pages.isEmpty());
+    connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
+
+    QDialogButtonBox* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
+    column->addWidget(buttons);
+}
+
+void SettingsDialog::accept()
+{
+    for (int i = 0; i < m_pages.size(); ++i) {
+        if (!m_pages.at(i).accept()) {
+            m_list->setCurrentRow(i);
+            return;
+        }
+    }
+    showPage(-1);
+    QDialog::accept();
+}
+
+void SettingsDialog::reject()
+{
+    for (const SettingsPage& page : qAsConst(m_pages))
+        page.reject();
+    QDialog::reject();
+}
+
+void SettingsDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (m_shown < 0 && !m_pages.isEmpty())
+        m_list->setCurrentRow(0);
+}
+
+void SettingsDialog::showPage(int index)
+{
+    if (m_shown >= 0)
+        m_pages.at(m_shown).hide();
+    m_area->setPage(nullptr);
+    m_shown = index;
+    if (m_shown < 0)
+        return;
+    m_area->setPage(m_pages.at(m_shown).show(m_area->ground(), m_area->ground()->rect()));
+    growToPage();
+}
+
+void SettingsDialog::growToPage()
+{
+    const QSize missing = (m_area->sizeHint() - m_area->size()).expandedTo(QSize(0, 0));
+    resize((size() + missing).boundedTo(screen()->availableSize()));
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QPointer>
+#include <QString>
+
+class ISettingUIPlugin;
+class QRect;
+class QWidget;
+
+/** One plug-in's page in the settings dialog. It stays the plug-in's; of an unloaded one nothing is asked any more. */
+class SettingsPage
+{
+public:
+    /** The pages of plugins, in their order: of each that has settings and a caption for them. */
+    static QList<SettingsPage> of(const QList<QObject*>& plugins);
+
+    QString caption() const;
+
+    /**
+     * Builds and shows the page inside parent, at area (pixels, coordinates of parent). Returns it, a child of parent
+     * that may go at any time, or null when there is none.
+     */
+    QPointer<QWidget> show(QWidget* parent, const QRect& area) const;
+
+    /** The dialog leaves the page. */
+    void hide() const;
+
+    /** The user pressed OK. Whether the dialog may close. */
+    bool accept() const;
+
+    /** The user cancelled. A shown page then is no longer in the dialog. */
+    void reject() const;
+
+private:
+    SettingsPage(QObject* plugin, ISettingUIPlugin* settings, const QString& caption);
+
+    QPointer<QObject> m_plugin;
+    ISettingUIPlugin* m_settings;
+    QString m_caption;
+};
