@@ -35,10 +35,10 @@ struct Options {
         if (!parser.errorText().isEmpty())
             return parser.errorText();
         if (!parser.positionalArguments().isEmpty())
-            return tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().first());
+            return tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
         for (const QCommandLineOption& option : {dataFolder, pluginFolder, language}) {
             if (parser.isSet(option) && parser.value(option).isEmpty())
-                return tr("Empty value after \"--%1\".").arg(option.names().first());
+                return tr("Empty value after \"--%1\".").arg(option.names().constFirst());
         }
         return QString();
     }

@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 // xdg-open may last as long as the program that it started, whose end then is no failure to open.
-static const qint64 openingTakesAtMost = 60 * 1000; // ms
+static const qint64 openingTakesAtMost = 60000; // ms
 
 /** What xdg-open means by its exit code. */
 static QString reasonOf(int exitCode)

@@ -72,7 +72,8 @@ void Host::showSettings()
 void Host::showRefusals()
 {
     QStringList names;
-    for (const PluginContainer::Refusal& refusal : m_container.refusals())
+    const QList<PluginContainer::Refusal> refusals = m_container.refusals();
+    for (const PluginContainer::Refusal& refusal : refusals)
         names.append(QFileInfo(refusal.file).fileName());
     if (!names.isEmpty())
         m_window->statusBar()->showMessage(MainWindow::tr("Not loaded: %1").arg(names.join(QStringLiteral(", "))));

@@ -14,7 +14,7 @@
 namespace
 {
 const int columns = 2;
-const int longestName = 24; // in wide letters; the rest is in the tool tip
+const int longestName = 17; // in wide letters; the rest is in the tool tip
 
 QLabel* newHint(const QString& text)
 {
@@ -36,10 +36,12 @@ void LinkButtons::setActions(const QList<QAction*>& actions)
     QWidget* const content = new QWidget;
     QGridLayout* const grid = new QGridLayout(content);
     grid->setContentsMargins(0, 0, 0, 0);
+    for (int column = 0; column < columns; ++column)
+        grid->setColumnStretch(column, 1);
     for (int i = 0; i < actions.size(); ++i)
         grid->addWidget(newButton(actions.at(i)), i / columns, i % columns);
     if (actions.isEmpty())
-        grid->addWidget(newHint(tr("No quick links yet. Add some with Tools > Settings.")), 0, 0);
+        grid->addWidget(newHint(tr("No quick links yet. Add some with Tools > Settings.")), 0, 0, 1, columns);
     else
         grid->setRowStretch(grid->rowCount(), 1);
     // Later: one of the former buttons may be what asked for the change.
@@ -68,6 +70,8 @@ QPushButton* LinkButtons::newButton(QAction* action)
     button->setMinimumHeight(3 * metrics.height());
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setAccessibleName(name);
+    // The tool tip is markup, which a screen reader would speak.
+    button->setAccessibleDescription(action->statusTip());
     button->setToolTip(action->toolTip());
     button->setStatusTip(action->statusTip());
     button->installEventFilter(this);

@@ -42,8 +42,6 @@ QString LinkPath::of(const QUrl& address)
 {
     const QString decoded = address.isLocalFile() ? address.toLocalFile() : withoutScheme(address);
     const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(decoded));
-    if (QFileInfo::exists(path))
-        return path;
     QString found = QStringLiteral("/");
     const QStringList names = path.split(QLatin1Char('/'));
     for (const QString& name : names)

@@ -26,6 +26,8 @@ static QLabel* newHeading(const QString& text, int points)
 
 MainWindow::MainWindow()
 {
+    // Without a title of its own the window is shown with the program's name, but a screen reader does not hear it.
+    setWindowTitle(QGuiApplication::applicationDisplayName());
     QWidget* const content = new QWidget;
     QVBoxLayout* const column = new QVBoxLayout(content);
     m_linkButtons = new LinkButtons;
@@ -53,14 +55,14 @@ void MainWindow::buildMenus()
 {
     QMenu* const connection = menuBar()->addMenu(tr("&Connection"));
     QAction* const quit = connection->addAction(tr("&Quit"), this, &QWidget::close);
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
     quit->setStatusTip(tr("Close the program"));
 
     m_linkMenu = menuBar()->addMenu(tr("&Quick Links"));
 
     QMenu* const tools = menuBar()->addMenu(tr("&Tools"));
     QAction* const settings = tools->addAction(tr("&Settings…"), this, &MainWindow::settingsRequested);
-    settings->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    settings->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
     settings->setStatusTip(tr("Add, change and order quick links"));
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));

@@ -63,7 +63,6 @@ private:
     PluginContainer& operator=(const PluginContainer&);
 
     struct Plugin {
-        QString file; ///< canonical path
         QPluginLoader* loader;
         QPointer<QObject> object;
         IBasePlugin* base;

@@ -13,8 +13,7 @@
 #include "IBasePlugin.h"
 #include "PluginContainer.h"
 
-/** A text with storage of its own: what a plug-in hands out may lie in its library, which goes before our records do.
- */
+/** A text with storage of its own: a plug-in's may lie in its library, which goes before our records do. */
 static QString ownCopy(const QString& text)
 {
     return QString(text.constData(), text.size());
@@ -48,14 +47,7 @@ void PluginContainer::load(const QFileInfo& file)
         refuse(file.filePath(), QLatin1String("it is not a regular file"));
         return;
     }
-    Plugin plugin = {file.canonicalFilePath(), nullptr, nullptr, nullptr, QString(), QString()};
-    for (const Plugin& other : m_plugins) {
-        if (other.file == plugin.file) {
-            refuse(file.filePath(), QLatin1String("this file is loaded already"));
-            return;
-        }
-    }
-    plugin.loader = new QPluginLoader(plugin.file);
+    Plugin plugin = {new QPluginLoader(file.canonicalFilePath()), nullptr, nullptr, QString(), QString()};
     // By default a library stays mapped for good.
     plugin.loader->setLoadHints(QLibrary::LoadHints());
     if (plugins().contains(plugin.loader->instance())) {

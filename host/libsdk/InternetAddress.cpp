@@ -20,8 +20,7 @@ static QString schemeOf(const QString& text)
         const QChar c = text.at(i);
         if (c == QLatin1Char(':'))
             return text.left(i).toLower();
-        const bool isInnerSign = isDigit(c) || c == QLatin1Char('+') || c == QLatin1Char('-') || c == QLatin1Char('.');
-        if (!isLetter(c) && (i == 0 || !isInnerSign))
+        if (!isLetter(c) && !isDigit(c) && !QString::fromLatin1("+-.").contains(c))
             return QString();
     }
     return QString();
@@ -35,8 +34,7 @@ static bool beginsWithPort(const QString& text)
         ++end;
     if (end < text.size() && !QString::fromLatin1("/?#").contains(text.at(end)))
         return false;
-    const int port = text.left(end).toInt();
-    return port > 0 && port <= 65535;
+    return text.left(end).toInt() > 0;
 }
 
 static bool isOpenedScheme(const QString& scheme)

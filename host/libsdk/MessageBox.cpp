@@ -53,8 +53,6 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString ti
     addButton(box, QMessageBox::Ok, firstButton);
     addButton(box, QMessageBox::Cancel, secondButton);
     addButton(box, QMessageBox::Ignore, thirdButton);
-    if (box->buttons().isEmpty())
-        box->addButton(QMessageBox::Ok);
     const QMessageBox::StandardButton closed = secondButton.isEmpty() ? QMessageBox::Ok : QMessageBox::Cancel;
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(closed);

@@ -13,9 +13,11 @@ void showNotice(const QString& title, const QString& text, const QString& subjec
     const int longest = 120;
     const bool isLong = subject.size() > longest;
     const QString shown = isLong ? subject.left(longest) + QChar(0x2026) : subject;
-    // Over a modal window, a window that is not its child would not get any input.
-    QMessageBox* const box = newPlainMessage(QMessageBox::Warning, QApplication::activeModalWidget(), title,
-                                             text + QLatin1String("\n\n") + shown, Qt::Dialog);
+    // Over a modal window, a window that is not its child would not get any input; a child also stays above its parent.
+    QWidget* const modal = QApplication::activeModalWidget();
+    QWidget* const parent = modal ? modal : QApplication::activeWindow();
+    QMessageBox* const box =
+        newPlainMessage(QMessageBox::Warning, parent, title, text + QLatin1String("\n\n") + shown, Qt::Dialog);
     if (isLong)
         box->setDetailedText(subject);
     box->addButton(QMessageBox::Ok);

@@ -9,7 +9,7 @@ QMessageBox* newPlainMessage(QMessageBox::Icon icon, QWidget* parent, const QStr
     QMessageBox* const box = new QMessageBox(icon, title, QString(), QMessageBox::NoButton, parent, flags);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);
-    box->setAccessibleName(title);
+    // Its name is the title anyway.
     box->setAccessibleDescription(text);
     return box;
 }

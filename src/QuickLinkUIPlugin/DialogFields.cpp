@@ -21,6 +21,20 @@ QString flag(bool isSet)
 {
     return isSet ? QLatin1String("1") : QLatin1String("0");
 }
+
+/**
+ * Lets the user choose a file; empty when there is no choice. As QFileDialog::getOpenFileName(), whose chooser lies on
+ * the stack and does not survive a host that deletes its parent meanwhile.
+ */
+QString chooseFile(QWidget* parent)
+{
+    const QPointer<QFileDialog> chooser(new QFileDialog(parent, QLatin1String("Open"), QDir::currentPath()));
+    chooser->setFileMode(QFileDialog::ExistingFile);
+    const bool isChosen = chooser->exec() == QDialog::Accepted;
+    const QString path = isChosen && chooser ? chooser->selectedFiles().value(0) : QString();
+    delete chooser.data();
+    return path;
+}
 } // namespace
 
 void QuickLinkSettingNewEditDlg::OnSelectComboItem(int index)
@@ -104,7 +118,7 @@ void QuickLinkSettingNewEditDlg::onClickBrowseButton()
 {
     TRACE_START();
     const QPointer<QObject> self(this);
-    const QString path = QFileDialog::getOpenFileName(m_mainWidget, QLatin1String("Open"), QDir::currentPath());
+    const QString path = chooseFile(m_mainWidget);
     // While the chooser was open the page may have disposed of this dialog, or the host of the frame.
     if (!self)
         return;

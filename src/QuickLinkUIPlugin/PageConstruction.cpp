@@ -113,8 +113,6 @@ void QuickLinkSettingPluginDlg::setDisplayLayout()
     m_pageWidget->setLayout(m_pageLayout);
 
     m_QLinkTabWidget->setFixedSize(280, 340);
-    // What a screen reader calls the table.
-    m_launchOrderLbl->setBuddy(m_QLinkListTblView);
     TRACE_END();
 }
 
@@ -126,6 +124,9 @@ void QuickLinkSettingPluginDlg::setDisplayString()
         return;
     }
     m_launchOrderLbl->setText(tr(QLatin1String("IDS_LINK_SETTING_ORDER")));
+    // What a screen reader calls the table; a buddy would not do, tables do not ask for it.
+    if (m_QLinkListTblView)
+        m_QLinkListTblView->setAccessibleName(m_launchOrderLbl->text());
     m_upBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_UP")));
     m_downBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_DOWN")));
     m_QLinkTabWidget->setTabText(m_QLinkTabWidget->indexOf(m_QLinkTab), tr(QLatin1String("IDS_LINK_SETTING_TAB")));

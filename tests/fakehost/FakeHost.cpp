@@ -19,8 +19,7 @@ public:
     {
         FakeHost& host = FakeHost::instance();
         host.notifications.append(QString::fromLatin1("%1 %2 %3 %4").arg(pluginName).arg(code).arg(param1).arg(param2));
-        if (host.duringNotification)
-            host.duringNotification();
+        FakeHost::run(host.duringNotification);
         return 0;
     }
 };
@@ -144,8 +143,7 @@ IPluginContainer* FakeHost::container()
 void FakeHost::opened(const QString& who, const QString& what)
 {
     openings.append(who + QLatin1Char(' ') + what);
-    if (duringOpening)
-        duringOpening();
+    run(duringOpening);
 }
 
 QString shown(const char* key)

@@ -99,6 +99,13 @@ public:
     IPluginContainer* container();
     void opened(const QString& who, const QString& what);
 
+    /** Runs what a test gave, if anything. By value: the test may give something else meanwhile. */
+    static void run(std::function<void()> meanwhile)
+    {
+        if (meanwhile)
+            meanwhile();
+    }
+
 private:
     FakeHost();
 

@@ -44,8 +44,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString ti
                                   firstButton, secondButton, thirdButton,       beep,  flags,
                                   dialogOut,   details,      closable};
     host.messages.append(message);
-    if (host.duringMessage)
-        host.duringMessage();
+    FakeHost::run(host.duringMessage);
     return host.messageAnswer;
 }
 

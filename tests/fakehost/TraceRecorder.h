@@ -23,7 +23,8 @@ public:
     /** How many warning lines match the whole regular expression. */
     int countWarnings(const QString& pattern) const;
 
-    /** Empty when the debug lines are exactly these, one regular expression a line, in order; else what is different. */
+    /** Empty when the debug lines are exactly these, one regular expression a line, in order; else what is different.
+     */
     QString debugDifference(const QStringList& patterns) const;
 
 private:

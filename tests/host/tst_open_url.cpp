@@ -32,7 +32,8 @@ private Q_SLOTS:
     void showsTheAddressAsItStands();
     void cutsOffAVeryLongAddress();
     void noticeCanBeClosedOverAModalMessage();
-    void noticeGoesWhenTheProgramEnds();
+    void noticeDoesNotKeepTheProgramAlive();
+    void noticeGoesWithTheProgram();
 
 private:
     QStringList m_opened;
@@ -172,17 +173,25 @@ void OpenUrlTest::noticeCanBeClosedOverAModalMessage()
     QVERIFY(isGone);
 }
 
-void OpenUrlTest::noticeGoesWhenTheProgramEnds()
+void OpenUrlTest::noticeDoesNotKeepTheProgramAlive()
 {
     QWidget window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     CommonUtils::OpenUrl(QStringLiteral("x:y"));
     QVERIFY(notice());
-    const QPointer<QMessageBox> box = notice();
     QTimer::singleShot(0, &window, SLOT(close()));
     QTimer::singleShot(10000, &window, [] { QCoreApplication::exit(1); });
     QCOMPARE(QApplication::exec(), 0);
+}
+
+void OpenUrlTest::noticeGoesWithTheProgram()
+{
+    CommonUtils::OpenUrl(QStringLiteral("x:y"));
+    const QPointer<QMessageBox> box = notice();
+    QVERIFY(box);
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
     QVERIFY(!box);
 }
 

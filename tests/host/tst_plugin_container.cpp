@@ -147,6 +147,10 @@ void PluginContainerTest::forgetsDeletedComponents()
     }
     QVERIFY(!container.GetPlugin(name, 1));
     QCOMPARE(container.notify(name, 1, 2, 3), -1);
+    Listener successor(4);
+    container.registerComponent(name, 1, name, &successor);
+    QCOMPARE(container.GetPlugin(name, 1), static_cast<QObject*>(&successor));
+    QCOMPARE(container.notify(name, 1, 2, 3), 4);
 }
 
 void PluginContainerTest::notifiesPlugins()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void refusesAnotherNameOfALoadedFile_data();
     void refusesAnotherNameOfALoadedFile();
     void refusesAFolderThatIsNotThere();
+    void refusesALinkThatLeadsNowhere();
     void refusesToWaitForAPipe();
     void passesOverOtherFolders();
     void destroysWhatCouldNotInit();
@@ -215,6 +216,18 @@ void PluginLoadingTest::refusesAFolderThatIsNotThere()
     host.container.loadFolder(folder);
     QCOMPARE(host.container.refusals().size(), 1);
     QCOMPARE(host.container.refusals().first().file, folder);
+}
+
+void PluginLoadingTest::refusesALinkThatLeadsNowhere()
+{
+    const SampleFolder folder;
+    const QString name = QStringLiteral("SampleLink");
+    QVERIFY(QDir(folder.path()).mkdir(name));
+    QCOMPARE(symlink("nonexistent", folder.file(name).toLocal8Bit().constData()), 0);
+    RecordingContainer host;
+    expectWarning(folder, name, QStringLiteral("the file cannot be read"));
+    host.container.loadFolder(folder.path());
+    QCOMPARE(host.container.refusals().size(), 1);
 }
 
 void PluginLoadingTest::refusesToWaitForAPipe()

@@ -38,6 +38,8 @@ class ShowMessageTest : public QObject
 private Q_SLOTS:
     void answers_data();
     void answers();
+    void closesAsTheFirstWithoutASecond_data();
+    void closesAsTheFirstWithoutASecond();
     void mustBeAnsweredWhenNotClosable_data();
     void mustBeAnsweredWhenNotClosable();
     void showsWhatItWasGiven();
@@ -132,6 +134,26 @@ void ShowMessageTest::answers()
     QVERIFY(!shown);
     QVERIFY(!seen);
     delete parent;
+}
+
+void ShowMessageTest::closesAsTheFirstWithoutASecond_data()
+{
+    QTest::addColumn<Ending>("ending");
+    QTest::newRow("Escape") << Ending::Escape;
+    QTest::newRow("closed") << Ending::Close;
+}
+
+void ShowMessageTest::closesAsTheFirstWithoutASecond()
+{
+    QFETCH(Ending, ending);
+    bool isClosed = false;
+    whenMessageShows([&](QMessageBox* box) {
+        end(box, ending, nullptr);
+        isClosed = !box->isVisible();
+        box->reject();
+    });
+    QCOMPARE(show(nullptr, QStringLiteral("A"), QString(), QStringLiteral("C")), int(QMessageBox::Ok));
+    QVERIFY(isClosed);
 }
 
 void ShowMessageTest::mustBeAnsweredWhenNotClosable_data()

@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# What the scripts of this folder share. Sourced; leaves the shell in the project's root.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# say TEXT: one line of progress.
+say() {
+    printf '%s\n' "$*"
+}
+
+# fail TEXT: one line that says what is wrong, and the end of the script.
+fail() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+# logged FILE COMMAND...: runs the command with its output in FILE, which is printed when the command fails.
+logged() {
+    local log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    "$@" </dev/null >"$log" 2>&1 && return
+    local status=$?
+    cat "$log" >&2
+    return "$status"
+}
+
+# wait_until SECONDS COMMAND...: waits for the command to succeed; fails when it has not within the time.
+wait_until() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < deadline)) || return 1
+        sleep 0.1
+    done
+}
+
+# build_for FOLDER PRESET [OPTION...]: configures and builds a preset in build/FOLDER; the log lies beside it.
+build_for() {
+    local folder=build/$1 preset=$2
+    shift 2
+    logged "$folder-configure.log" cmake --preset "$preset" -B "$folder" "$@" &&
+        logged "$folder-build.log" cmake --build "$folder"
+}

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+# Installs the Debian 12 packages that a purpose needs and that are missing; says nothing when none is.
+# Usage: scripts/packages.sh run|demo|test
+#   run   build with Qt 5 and start the program
+#   demo  and show it on a virtual display
+#   test  and build with Qt 6, run every test, and check format, lint and licences
+# Where each package is for: docs/dependencies.md
+
+source "$(dirname "$0")/common.sh"
+
+run=(cmake ninja-build g++ qtbase5-dev qttools5-dev xdg-utils fonts-dejavu-core xterm x11-apps)
+demo=(xvfb openbox xdotool imagemagick)
+test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools
+    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus procps x11-utils
+    clang-format-14 clang-tidy-14 clazy reuse shellcheck)
+
+case "${1-}" in
+run) wanted=("${run[@]}") ;;
+demo) wanted=("${run[@]}" "${demo[@]}") ;;
+test) wanted=("${run[@]}" "${demo[@]}" "${test[@]}") ;;
+*) fail "usage: scripts/packages.sh run|demo|test" ;;
+esac
+
+is_installed() {
+    [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+by_hand() {
+    fail "$1; install these Debian 12 packages and start again: ${missing[*]}"
+}
+
+missing=("${wanted[@]}")
+command -v dpkg-query >/dev/null || by_hand "this is not a Debian system"
+missing=()
+for package in "${wanted[@]}"; do
+    is_installed "$package" || missing+=("$package")
+done
+((${#missing[@]})) || exit 0
+
+as_root=(env)
+if ((EUID != 0)); then
+    command -v sudo >/dev/null || by_hand "packages are missing and there is no sudo"
+    as_root=(sudo env)
+    if [[ ! -t 0 ]]; then
+        # Nobody could answer a question for the password.
+        sudo -n true 2>/dev/null || by_hand "packages are missing and sudo asks for a password"
+    fi
+fi
+apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300)
+
+say "Installing: ${missing[*]}"
+mkdir -p build
+logged build/packages.log "${apt[@]}" update || by_hand "apt-get update failed"
+logged build/packages.log "${apt[@]}" install --no-install-recommends "${missing[@]}" || by_hand "apt-get install failed"

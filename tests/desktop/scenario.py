@@ -1,0 +1,150 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""What every scenario shares: the real program with the real plug-in on a desktop of its own."""
+
+import os
+import shutil
+import signal
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from links import document
+from screen import Application, press, start_accessibility
+from session import Program, Session
+from waiting import wait_for
+
+PROGRAM = os.environ["VELLUM_PROGRAM"]
+PICTURES = Path(os.environ.get("VELLUM_PICTURES", "."))
+HERE = Path(__file__).resolve().parent
+TITLE = "Vellum Connect"
+
+
+class Scenario(unittest.TestCase):
+    """A desktop for each class; a folder of links, a record of what was opened, and a program for each test."""
+
+    screen_size = "1280x1024"
+
+    @classmethod
+    def setUpClass(cls):
+        cls.session = Session(cls.screen_size)
+        cls.addClassCleanup(cls.session.close)
+        start_accessibility()
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="scenario-")
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+        self.data = self.folder / "data"
+        self.config = self.data / "plugins/QuickLinkUIPlugin/config.xml"
+        self.config.parent.mkdir(parents=True)
+        self._opened = self.folder / "opened"
+        self._opened.mkdir()
+        self.program = None
+
+    def start_with(self, *links):
+        """Starts the program with these links."""
+        self.config.write_bytes(document(len(links), *links))
+        self.start()
+
+    def start(self, *arguments, **environment):
+        """Starts the program and waits for its window."""
+        self.program = Program([PROGRAM, "--data-dir", str(self.data), *arguments], self.folder / "log",
+                               PATH=f"{HERE / 'bin'}:{os.environ['PATH']}", OPENED=str(self._opened), **environment)
+        self.addCleanup(self.program.close)
+        self.application = Application(self.program)
+        self.window = self.application.main_window(TITLE)
+
+    def links_in_menu(self):
+        """Opens the Quick Links menu, reads its entries from the screen and closes it again."""
+        menu = self.open_menu("Quick Links")
+        names = menu.names("menu item")
+        self.close_menu(menu)
+        return names
+
+    def open_menu(self, title):
+        menu = self.window.find("menu bar").find("menu item", title)
+        menu.click()
+        return menu.find("popup menu")
+
+    @staticmethod
+    def close_menu(menu):
+        press("Escape")
+        wait_for(lambda: not menu.is_showing(), f"the end of {menu}")
+
+    # -- What was opened --------------------------------------------------------------------------------------------
+
+    def calls(self):
+        """The arguments of every call of xdg-open so far, in order."""
+        records = sorted(self._opened.glob("*.call"))
+        return [record.read_text(encoding="utf-8").split("\0")[:-1] for record in records]
+
+    def staying_calls(self, count):
+        """Waits for `count` calls of xdg-open that stay: their process numbers."""
+        wait_for(lambda: len(self.calls()) == count, f"{count} calls of xdg-open")
+        pids = [int(record.stem.rsplit("-", 1)[1]) for record in self._opened.glob("*.call")]
+        for pid in pids:
+            self.addCleanup(end_by_number, pid)
+        return pids
+
+    def let_desktop_answer(self, code):
+        (self._opened / "answer").write_text(str(code), encoding="ascii")
+
+    def let_desktop_stay(self):
+        (self._opened / "stay").touch()
+
+    def make_application(self, folder, name):
+        """An executable file in a new folder; returns its path."""
+        path = self.folder / folder / name
+        path.parent.mkdir(parents=True)
+        shutil.copy(HERE / "bin/application", path)
+        return path
+
+    def started(self, application):
+        """Waits until the application runs: (process number, working directory, own path, arguments)."""
+        record = application.parent / "started"
+        wait_for(record.exists, f"{application} to be started")
+        pid, folder, path, *arguments = record.read_text(encoding="utf-8").split("\0")[:-1]
+        self.addCleanup(end_by_number, int(pid))
+        return int(pid), folder, path, arguments
+
+
+def end_by_number(pid):
+    try:
+        os.kill(pid, signal.SIGKILL)
+    except ProcessLookupError:
+        pass
+
+
+class _ResultWithPictures(unittest.TextTestResult):
+    """Shows the screen, and what the program said, of a test that fails."""
+
+    def addFailure(self, test, err):
+        self._show(test)
+        super().addFailure(test, err)
+
+    def addError(self, test, err):
+        self._show(test)
+        super().addError(test, err)
+
+    def addSubTest(self, test, subtest, err):
+        if err:
+            self._show(test)
+        super().addSubTest(test, subtest, err)
+
+    def _show(self, test):
+        if not isinstance(test, Scenario):
+            return
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        path = PICTURES / f"{test.id().replace('__main__', Path(sys.argv[0]).stem)}.png"
+        test.session.save_picture(str(path))
+        self.stream.writeln(f"\nThe screen at the failure: {path}")
+        if test.program:
+            self.stream.writeln("The program said:\n" + test.program.output())
+
+
+def main():
+    """To be called by every scenario file."""
+    unittest.main(testRunner=unittest.TextTestRunner(stream=sys.stdout, verbosity=2, resultclass=_ResultWithPictures))

@@ -1,0 +1,127 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""A desktop of its own: message bus, display, window manager, home; and the programs that run on it."""
+
+import ctypes
+import os
+import signal
+import subprocess
+import tempfile
+
+from waiting import wait_for
+
+_libc = ctypes.CDLL(None)
+
+
+def _die_with_parent():
+    """Even when the test is killed, nothing that it started stays behind."""
+    pr_set_pdeathsig = 1
+    _libc.prctl(pr_set_pdeathsig, signal.SIGKILL)
+
+
+def end(process):
+    """Ends a process started here and waits until it is gone."""
+    if process.poll() is None:
+        process.terminate()
+        try:
+            process.wait(10)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+
+class Session:
+    """Becomes the environment of this process, and so of what it starts. `close` ends everything."""
+
+    def __init__(self, screen):
+        self._started = []
+        self._home = tempfile.TemporaryDirectory(prefix="desktop-", ignore_cleanup_errors=True)
+        try:
+            self._set_environment(self._home.name)
+            os.environ["DISPLAY"] = ":" + self._start_telling(
+                lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{screen}x24", "-nolisten", "tcp",
+                            "-noreset"])
+            # Knows the display, so that the accessibility bus is where Qt 5 looks for it.
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
+                lambda fd: ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={fd}"])
+            self._start(["openbox", "--sm-disable"])
+            wait_for(self._has_window_manager, "openbox on the display")
+        except BaseException:
+            self.close()
+            raise
+
+    @staticmethod
+    def _set_environment(home):
+        """Nothing of the real user's desktop may reach in, and nothing of the tests out."""
+        kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
+                if name in os.environ}
+        runtime = os.path.join(home, "runtime")
+        os.mkdir(runtime, 0o700)
+        for name in list(os.environ):
+            if not name.startswith("VELLUM_"):
+                del os.environ[name]
+        os.environ.update(kept, HOME=home, XDG_RUNTIME_DIR=runtime, XDG_DATA_HOME=f"{home}/data",
+                          XDG_CONFIG_HOME=f"{home}/config", XDG_CACHE_HOME=f"{home}/cache", LC_ALL="C.UTF-8",
+                          GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
+                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+
+    def _start(self, command, **options):
+        self._started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                              stderr=subprocess.DEVNULL, preexec_fn=_die_with_parent, **options))
+
+    def _start_telling(self, command):
+        """Starts `command(fd)`, which writes one line to that descriptor when it is ready; returns the line."""
+        read_end, write_end = os.pipe()
+        with open(read_end, encoding="ascii") as pipe:
+            with open(write_end, "wb"):
+                self._start(command(write_end), pass_fds=[write_end])
+            line = pipe.readline().strip()
+        assert line, f"{command(write_end)[0]} did not start"
+        return line
+
+    @staticmethod
+    def _has_window_manager():
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True,
+                                check=False)
+        return "window id" in answer.stdout
+
+    @staticmethod
+    def save_picture(path):
+        """The whole screen as a file."""
+        subprocess.run(["import", "-silent", "-window", "root", path], check=True)
+
+    def close(self):
+        for process in reversed(self._started):
+            end(process)
+        self._started = []
+        self._home.cleanup()
+
+
+class Program:
+    """A program on the desktop, its output in a log file. `close` ends it; what it opened may live on."""
+
+    def __init__(self, command, log, **environment):
+        self._log = log
+        with open(log, "wb") as output:
+            self._process = subprocess.Popen(command, env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
+                                             stdout=output, stderr=output, preexec_fn=_die_with_parent)
+
+    @property
+    def pid(self):
+        return self._process.pid
+
+    def is_running(self):
+        return self._process.poll() is None
+
+    def exit_code(self):
+        """Waits until the program has ended by itself."""
+        wait_for(lambda: not self.is_running(), "the end of the program")
+        return self._process.returncode
+
+    def output(self):
+        with open(self._log, encoding="utf-8", errors="replace") as text:
+            return text.read()
+
+    def close(self):
+        end(self._process)

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The host deletes the widget that the dialog was shown over: the dialog is as before its first showing.
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QtTest>
+
+#include "DialogFixture.h"
+#include "ExtendDialog.h"
+#include "FakeHost.h"
+#include "TraceRecorder.h"
+
+class DialogHostDeletes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void memberIsForgotten_data();
+    void memberIsForgotten();
+    void frameAloneIsDeleted();
+    void stateStays();
+    void operationDoesNothing_data();
+    void operationDoesNothing();
+    void cancelStillTells();
+    void deletedAfterClosing();
+    void showingAgainBuildsAnew();
+    void oldFrameDoesNotTakeTheNewOne();
+    void deletedBeforeTheFirstShowing();
+    void hundredTimes();
+};
+
+void DialogHostDeletes::memberIsForgotten_data()
+{
+    QTest::addColumn<QString>("member");
+    QuickLinkSettingNewEditDlg dialog;
+    const QList<Member> members = membersOf(&dialog);
+    for (const Member& member : members)
+        QTest::newRow(member.name) << QString::fromLatin1(member.name);
+}
+
+void DialogHostDeletes::memberIsForgotten()
+{
+    QFETCH(QString, member);
+    OpenDialog dialog;
+    const QPointer<QObject> object = memberOf(dialog.get(), member).object;
+    QVERIFY(object);
+    dialog.deleteHost();
+    QVERIFY(!object);
+    QVERIFY(memberOf(dialog.get(), member).isNull());
+}
+
+void DialogHostDeletes::frameAloneIsDeleted()
+{
+    OpenDialog dialog;
+    delete dialog->m_frameDialog;
+    const QList<Member> members = membersOf(dialog.get());
+    for (const Member& member : members)
+        QVERIFY2(member.isNull(), member.name);
+    QVERIFY(dialog.host());
+}
+
+void DialogHostDeletes::stateStays()
+{
+    OpenDialog dialog;
+    dialog->onNewEditClicked(true, QString::fromLatin1("News"));
+    dialog.fill(0, "News", "/no/such/file");
+    dialog->onSelectLaunchOnConnect(true);
+    dialog.pressOk();
+    const QuickLinkRecord* const record = dialog->m_record;
+    QVERIFY(record);
+    dialog.deleteHost();
+    QCOMPARE(dialog->m_record, record);
+    QCOMPARE(dialog->m_isEdit, true);
+    QCOMPARE(dialog->m_editedName, QString::fromLatin1("News"));
+    QCOMPARE(dialog->m_launchOnConnect, QString::fromLatin1("1"));
+}
+
+void DialogHostDeletes::operationDoesNothing_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    QTest::addColumn<QByteArray>("argument");
+    const char* const plain[] = {"onClickOkButton", "onEnterNameInApplication", "onDeleteNameInApplication",
+                                 "SetLanguage"};
+    for (const char* operation : plain)
+        QTest::newRow(operation) << QByteArray(operation) << QByteArray();
+    const char* const types[] = {"0", "1", "2"};
+    for (const char* type : types) {
+        const QByteArray title = QByteArray("OnSelectComboItem ") + type;
+        QTest::newRow(title.constData()) << QByteArray("OnSelectComboItem") << QByteArray(type);
+    }
+}
+
+void DialogHostDeletes::operationDoesNothing()
+{
+    QFETCH(QByteArray, operation);
+    QFETCH(QByteArray, argument);
+    OpenDialog dialog;
+    dialog.fill(2, "News", "www.example.org");
+    dialog->onSelectLaunchOnConnect(true);
+    dialog.deleteHost();
+    const TraceRecorder trace;
+    if (operation == "SetLanguage")
+        dialog->SetLanguage();
+    else if (argument.isEmpty())
+        QVERIFY(QMetaObject::invokeMethod(dialog.get(), operation.constData()));
+    else
+        QVERIFY(QMetaObject::invokeMethod(dialog.get(), operation.constData(), Q_ARG(int, argument.toInt())));
+    QCOMPARE(trace.countDebug(nullTrace(operation.constData())), 1);
+    QCOMPARE(trace.warningLines, QStringList());
+    QVERIFY(dialog.added.isEmpty());
+    QVERIFY(FakeHost::instance().messages.isEmpty());
+    QCOMPARE(dialog->m_launchOnConnect, QString::fromLatin1("1"));
+}
+
+void DialogHostDeletes::cancelStillTells()
+{
+    OpenDialog dialog;
+    dialog.deleteHost();
+    dialog->onButtonClickCancelNew();
+    QCOMPARE(dialog.wasOpenWhenCancelled.size(), 1);
+}
+
+void DialogHostDeletes::deletedAfterClosing()
+{
+    OpenDialog dialog;
+    dialog.fill(1, "Mail", "");
+    dialog.pressOk();
+    dialog.deleteHost();
+    QVERIFY(!dialog->m_frameDialog);
+    QCOMPARE(dialog->m_record, dialog.addedObjects.first());
+}
+
+void DialogHostDeletes::showingAgainBuildsAnew()
+{
+    OpenDialog dialog;
+    dialog.fill(2, "News", "www.example.org");
+    dialog.deleteHost();
+    QWidget other;
+    dialog->ShowNewEditDlg(&other);
+    QCOMPARE(FakeHost::instance().frames.size(), 2);
+    QVERIFY(dialog->m_frameDialog);
+    QCOMPARE(dialog->m_frameDialog->parentWidget(), &other);
+    QVERIFY(dialog.isOpen());
+    QVERIFY(!dialog.isOkEnabled());
+    QCOMPARE(dialog->m_appNameEdit->text(), QString());
+    QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
+    QCOMPARE(dialog->m_appTabWidget->count(), 1);
+    dialog.fill(1, "Mail", "");
+    dialog.pressOk();
+    QCOMPARE(dialog.added.size(), 1);
+}
+
+void DialogHostDeletes::oldFrameDoesNotTakeTheNewOne()
+{
+    OpenDialog dialog;
+    QWidget* const other = new QWidget;
+    dialog.deleteHost();
+    dialog->ShowNewEditDlg(other);
+    const QPointer<ExtendDialog> frame = dialog->m_frameDialog;
+    QVERIFY(frame);
+    delete other;
+    QVERIFY(!frame);
+    QVERIFY(!dialog->m_frameDialog);
+    QVERIFY(!dialog->m_okBtn);
+}
+
+void DialogHostDeletes::deletedBeforeTheFirstShowing()
+{
+    FakeHost::instance().reset();
+    QuickLinkSettingNewEditDlg dialog;
+    const TraceRecorder trace;
+    dialog.SetLanguage();
+    dialog.OnSelectComboItem(1);
+    dialog.onEnterNameInApplication();
+    dialog.onDeleteNameInApplication();
+    QCOMPARE(trace.countDebug(nullTrace("[A-Za-z]+")), 4);
+    QVERIFY(FakeHost::instance().frames.isEmpty());
+}
+
+void DialogHostDeletes::hundredTimes()
+{
+    const TraceRecorder quiet;
+    OpenDialog dialog;
+    dialog.deleteHost();
+    for (int i = 0; i < 100; ++i) {
+        QWidget host;
+        dialog->ShowNewEditDlg(&host);
+        QVERIFY(dialog.isOpen());
+    }
+    QVERIFY(!dialog->m_frameDialog);
+    QCOMPARE(FakeHost::instance().frames.size(), 101);
+}
+
+QTEST_MAIN(DialogHostDeletes)
+#include "tst_dialog_host_deletes.moc"

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPointer>
+#include <QPushButton>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QTableWidget>
+#include <QWidget>
+
+#include "ExtendDialog.h"
+#include "LoadedPlugin.h"
+
+class QuickLinkSettingNewEditDlg;
+
+/** A widget or layout member of the page. */
+struct PageMember {
+    const char* name;
+    void* address;   ///< of the member itself
+    QObject* object; ///< what it points at
+};
+
+/** The ten widgets, then the four layouts, of a page that may be half built. */
+QList<PageMember> membersOf(QuickLinkSettingPluginDlg* page);
+
+/** The one of that name. */
+PageMember memberOf(QuickLinkSettingPluginDlg* page, const QString& name);
+
+/** Makes a widget or layout member null while it lives; the object it pointed at stays. */
+class NullPageMember
+{
+public:
+    NullPageMember(QuickLinkSettingPluginDlg* page, const QString& name);
+    ~NullPageMember();
+
+private:
+    NullPageMember(const NullPageMember&);
+    NullPageMember& operator=(const NullPageMember&);
+
+    void* m_address;
+    void* m_value;
+};
+
+/** Gives a pointer variable another value while it lives. */
+template <class T>
+class Replaced
+{
+public:
+    Replaced(T*& pointer, T* value)
+        : m_pointer(pointer)
+        , m_before(pointer)
+    {
+        m_pointer = value;
+    }
+    ~Replaced() { m_pointer = m_before; }
+
+private:
+    Replaced(const Replaced&);
+    Replaced& operator=(const Replaced&);
+
+    T*& m_pointer;
+    T* m_before;
+};
+
+/** Adds a test row "no <name>" for each of the names, which blanks separate, with the name in the column "member". */
+void addMemberRows(const char* names);
+
+/** The pattern of the line that function leaves when a pointer that it needs is null. */
+QString nullTrace(const char* function);
+
+/** Links of the given names, which blanks separate: Internet, e-mail and application in turn, with ids from 0. */
+QuickLinkRecordList links(const char* names);
+
+/** A file that exists wherever the test runs. */
+QString existingFile();
+
+/** Knows whether a record has been freed. It marks the record's para, which the table does not show. */
+class RecordProbe
+{
+public:
+    explicit RecordProbe(QuickLinkRecord* record);
+    bool isFreed() const { return m_mark.isDetached(); }
+
+private:
+    QString m_mark;
+};
+
+/** The plug-in with its settings page on the screen, in a widget of the host. */
+class ShownPage : public LoadedPlugin
+{
+public:
+    /** Starts the plug-in on a file that holds these links (hidden ones would not be read) and shows the page. */
+    void begin(const QuickLinkRecordList& records);
+
+    /** The same, but without the page. */
+    void beginHidden(const QuickLinkRecordList& records);
+
+    /** The host shows the page in its widget. */
+    void show(QRect area = QRect(0, 0, 450, 400));
+
+    /** Ends the plug-in, then the host's widget. Frees the records that the dialogs leave. Harmless before begin(). */
+    void end();
+
+    QPointer<QWidget> host;
+
+    // What is seen.
+    QTableWidget* table() const;
+    QPushButton* button(const char* name) const;
+    QString enabledButtons() const; ///< "New Edit Delete Up Down", less the disabled ones
+    QString shownNames() const;     ///< names in the rows, separated by blanks
+    QString listNames() const;      ///< names in the record list; "none" where there is no list
+    int currentRow() const { return table()->currentRow(); }
+    QuickLinkRecord* recordOf(int row) const; ///< by the number in the row's first item; null for 0
+
+    /** Empty while every row shows the element of the list in its place and owns a copy of it, the id aside. */
+    QString disorder() const;
+
+    // What the user does.
+    void click(const char* buttonName);
+    void select(int row, int column = 0);
+
+    // The dialog opened last.
+    int liveFrames() const; ///< how many dialogs of this test exist
+    ExtendDialog* frame() const;
+    template <class T>
+    T* inDialog(const char* name) const
+    {
+        return frame()->findChild<T*>(QLatin1String(name));
+    }
+    void enter(const char* editName, const QString& text);
+    void chooseType(int index);
+    void pressOk() { pressInDialog("m_okBtn"); }
+    void pressCancel() { pressInDialog("m_cancelBtn"); }
+    /** Presses New, fills the dialog and presses its OK. type is 0 application, 1 e-mail, 2 Internet. */
+    void addLink(int type, const char* name, const QString& target = QString());
+
+    /** The file, if it is written now from the list with this counter: ids as they are in memory. */
+    QByteArray expectedFile(const char* currentId) const;
+
+private:
+    void pressInDialog(const char* buttonName);
+    static void freeLeftRecord(QuickLinkSettingNewEditDlg* dialog);
+};

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// Building the page where something is missing, and building it again.
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include "PageFixture.h"
+
+class PageBuilding : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { m_page.end(); }
+
+    void initializeWithout_data();
+    void initializeWithout();
+    void namesWithout_data();
+    void namesWithout();
+    void layoutWithout_data();
+    void layoutWithout();
+    void textsWithout_data();
+    void textsWithout();
+    void textsWithoutTab();
+    void membersBeforeTheFirstShow_data();
+    void membersBeforeTheFirstShow();
+    void secondShowLeavesOnePage();
+    void rebuildFreesTheOldPage_data();
+    void rebuildFreesTheOldPage();
+    void rebuildFreesInOrder();
+    void rebuildFreesTheRowRecords();
+    void buildingAloneLeavesNoTableParts();
+    void laterOperationsRunOnAHalfBuiltPage();
+
+private:
+    void buildWidgets();
+
+    ShownPage m_page;
+};
+
+void PageBuilding::buildWidgets()
+{
+    m_page.beginHidden(links("One Two"));
+    m_page.page->createWidgetMemory(m_page.host);
+}
+
+void PageBuilding::initializeWithout_data()
+{
+    addMemberRows("m_pageWidget m_QLinkTabWidget m_QLinkTab m_QLinkListTblView m_launchOrderLbl m_upBtn m_downBtn "
+                  "m_newBtn m_editBtn m_deleteBtn m_pageLayout m_tabLayout m_buttonColumnLayout m_orderButtonsLayout");
+}
+
+void PageBuilding::initializeWithout()
+{
+    QFETCH(QString, member);
+    buildWidgets();
+    {
+        const NullPageMember missing(m_page.page, member);
+        TraceRecorder trace;
+        m_page.page->initializeUI();
+        QCOMPARE(trace.countDebug(tracePattern("%F: initializeUI: Cell-Log UI Intialization Failed: ")), 1);
+        QCOMPARE(trace.countDebug(QLatin1String("Arg is NULL.*")), 0);
+        QCOMPARE(trace.countDebug(QLatin1String("End of .*")), 0);
+        QCOMPARE(trace.warningLines, QStringList());
+    }
+    const QList<PageMember> members = membersOf(m_page.page);
+    for (const PageMember& each : members) {
+        QCOMPARE(each.object->objectName(), QString());
+        QVERIFY(!QObject::disconnect(each.object, nullptr, m_page.page, nullptr));
+    }
+    QCOMPARE(m_page.page->m_QLinkTabWidget->count(), 0);
+    QVERIFY(m_page.page->m_upBtn->isEnabled());
+}
+
+void PageBuilding::namesWithout_data()
+{
+    addMemberRows("m_QLinkTabWidget m_QLinkTab m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_newBtn "
+                  "m_editBtn m_deleteBtn");
+}
+
+void PageBuilding::namesWithout()
+{
+    QFETCH(QString, member);
+    buildWidgets();
+    {
+        const NullPageMember missing(m_page.page, member);
+        TraceRecorder trace;
+        m_page.page->setObjectNameDlg();
+        QCOMPARE(trace.countDebug(nullTrace("setObjectNameDlg")), 1);
+    }
+    const QList<PageMember> members = membersOf(m_page.page);
+    for (const PageMember& each : members)
+        QCOMPARE(each.object->objectName(), QString());
+}
+
+void PageBuilding::layoutWithout_data()
+{
+    addMemberRows("m_pageLayout m_tabLayout m_orderButtonsLayout m_buttonColumnLayout m_QLinkTabWidget "
+                  "m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_QLinkTab m_newBtn m_editBtn m_deleteBtn "
+                  "m_pageWidget");
+}
+
+void PageBuilding::layoutWithout()
+{
+    QFETCH(QString, member);
+    buildWidgets();
+    {
+        const NullPageMember missing(m_page.page, member);
+        TraceRecorder trace;
+        m_page.page->setDisplayLayout();
+        QCOMPARE(trace.countDebug(nullTrace("setDisplayLayout")), 1);
+    }
+    const QLayout* const layouts[] = {m_page.page->m_pageLayout, m_page.page->m_tabLayout,
+                                      m_page.page->m_buttonColumnLayout, m_page.page->m_orderButtonsLayout};
+    for (const QLayout* layout : layouts) {
+        QCOMPARE(layout->count(), 0);
+        QVERIFY(!layout->parent());
+    }
+    QCOMPARE(m_page.page->m_QLinkTabWidget->minimumSize(), QSize(0, 0));
+}
+
+void PageBuilding::textsWithout_data()
+{
+    addMemberRows("m_launchOrderLbl m_upBtn m_downBtn m_QLinkTabWidget m_newBtn m_editBtn m_deleteBtn");
+}
+
+void PageBuilding::textsWithout()
+{
+    QFETCH(QString, member);
+    m_page.begin(links("One"));
+    FakeHost::instance().language = QLatin1String("de");
+    {
+        const NullPageMember missing(m_page.page, member);
+        TraceRecorder trace;
+        m_page.page->setDisplayString();
+        QCOMPARE(trace.countDebug(nullTrace("setDisplayString")), 1);
+    }
+    const char* const captioned[] = {"m_launchOrderLbl", "m_upBtn",   "m_downBtn",
+                                     "m_newBtn",         "m_editBtn", "m_deleteBtn"};
+    for (const char* name : captioned) {
+        const QString text = memberOf(m_page.page, QLatin1String(name)).object->property("text").toString();
+        QVERIFY2(text.startsWith(QLatin1String("en:")), name);
+    }
+    QVERIFY(m_page.page->m_QLinkTabWidget->tabText(0).startsWith(QLatin1String("en:")));
+}
+
+void PageBuilding::textsWithoutTab()
+{
+    // The tab page is not among what is checked: the other texts are set all the same.
+    m_page.begin(links("One"));
+    FakeHost::instance().language = QLatin1String("de");
+    const NullPageMember missing(m_page.page, QLatin1String("m_QLinkTab"));
+    m_page.page->setDisplayString();
+    QCOMPARE(m_page.page->m_deleteBtn->text(), shown("IDS_LINK_SETTING_DEL"));
+    QCOMPARE(m_page.page->m_QLinkTabWidget->tabText(0), QString::fromLatin1("en:IDS_LINK_SETTING_TAB"));
+}
+
+void PageBuilding::membersBeforeTheFirstShow_data()
+{
+    initializeWithout_data();
+}
+
+void PageBuilding::membersBeforeTheFirstShow()
+{
+    QFETCH(QString, member);
+    m_page.beginHidden(links("One"));
+    QVERIFY(!memberOf(m_page.page, member).object);
+    QVERIFY(!m_page.page->m_nameHeaderItem && !m_page.page->m_typeHeaderItem && !m_page.page->m_gridDelegate);
+    QVERIFY(!m_page.page->m_newDlg && !m_page.page->m_editDlg && !m_page.page->m_isEditing);
+    QVERIFY(!m_page.page->m_parentWidget);
+}
+
+void PageBuilding::secondShowLeavesOnePage()
+{
+    m_page.begin(links("One Two"));
+    m_page.show();
+    QCOMPARE(m_page.host->children().size(), 1);
+    QCOMPARE(m_page.host->children().first(), static_cast<QObject*>(m_page.page->m_pageWidget));
+    QCOMPARE(m_page.host->findChildren<QTableWidget*>().size(), 1);
+    QCOMPARE(m_page.host->findChildren<QPushButton*>().size(), 5);
+    QCOMPARE(m_page.table()->horizontalHeaderItem(0), m_page.page->m_nameHeaderItem);
+    QCOMPARE(m_page.table()->horizontalHeaderItem(1), m_page.page->m_typeHeaderItem);
+    QCOMPARE(m_page.disorder(), QString());
+}
+
+void PageBuilding::rebuildFreesTheOldPage_data()
+{
+    initializeWithout_data();
+}
+
+void PageBuilding::rebuildFreesTheOldPage()
+{
+    QFETCH(QString, member);
+    m_page.begin(links("One Two"));
+    const QPointer<QObject> old = memberOf(m_page.page, member).object;
+    m_page.show();
+    QVERIFY(!old);
+    QVERIFY(memberOf(m_page.page, member).object);
+}
+
+/** Writes down the names of what is destroyed. */
+class Obituary : public QObject
+{
+    Q_OBJECT
+
+public:
+    void follow(QObject* object, const char* name)
+    {
+        object->setProperty("name", QLatin1String(name));
+        connect(object, SIGNAL(destroyed(QObject*)), this, SLOT(note(QObject*)));
+        m_names.insert(object, QLatin1String(name));
+    }
+
+    QStringList gone;
+
+private Q_SLOTS:
+    void note(QObject* object) { gone.append(m_names.value(object)); }
+
+private:
+    QHash<QObject*, QString> m_names;
+};
+
+void PageBuilding::rebuildFreesInOrder()
+{
+    m_page.begin(links("One Two"));
+    Obituary obituary;
+    obituary.follow(m_page.page->m_gridDelegate, "delegate");
+    obituary.follow(m_page.page->m_QLinkListTblView, "table");
+    obituary.follow(m_page.page->m_pageWidget, "page");
+    obituary.follow(m_page.page->m_upBtn, "a child");
+    m_page.show();
+    QCOMPARE(obituary.gone.join(QLatin1String(", ")), QString::fromLatin1("delegate, table, page, a child"));
+}
+
+void PageBuilding::rebuildFreesTheRowRecords()
+{
+    m_page.begin(links("One Two Three"));
+    const RecordProbe first(m_page.recordOf(0));
+    const RecordProbe last(m_page.recordOf(2));
+    m_page.show();
+    QVERIFY(first.isFreed());
+    QVERIFY(last.isFreed());
+    QCOMPARE(m_page.disorder(), QString());
+}
+
+void PageBuilding::buildingAloneLeavesNoTableParts()
+{
+    m_page.begin(links("One"));
+    m_page.page->createWidgetMemory(m_page.host);
+    QVERIFY(!m_page.page->m_nameHeaderItem);
+    QVERIFY(!m_page.page->m_typeHeaderItem);
+    QVERIFY(!m_page.page->m_gridDelegate);
+}
+
+void PageBuilding::laterOperationsRunOnAHalfBuiltPage()
+{
+    buildWidgets();
+    {
+        const NullPageMember missing(m_page.page, QLatin1String("m_orderButtonsLayout"));
+        m_page.page->initializeUI();
+    }
+    m_page.page->fillTable();
+    QCOMPARE(m_page.page->m_QLinkListTblView->rowCount(), 2);
+    QCOMPARE(m_page.page->m_QLinkListTblView->item(1, 0)->text(), QString::fromLatin1("Two"));
+}
+
+QTEST_MAIN(PageBuilding)
+#include "tst_page_building.moc"

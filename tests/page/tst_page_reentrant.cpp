@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The host comes back in while the page waits for it: in Delete's question and in the notification of the menu.
+
+#include <QtTest>
+
+#include "PageFixture.h"
+
+class PageReentrant : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { m_page.end(); }
+
+    void duringTheQuestion_data();
+    void duringTheQuestion();
+    void pageBuiltAgainDuringTheQuestion_data();
+    void pageBuiltAgainDuringTheQuestion();
+    void linkAddedDuringTheQuestion();
+    void deletedDuringTheQuestion_data();
+    void deletedDuringTheQuestion();
+    void questionDuringTheQuestion();
+    void duringTheNotification_data();
+    void duringTheNotification();
+    void pageBuiltAgainDuringTheNotification_data();
+    void pageBuiltAgainDuringTheNotification();
+
+private:
+    /** What the host does meanwhile. */
+    void disturb(const QString& how);
+    /** Presses what leads to a notification. */
+    void change(const QString& what);
+    static void changeRows();
+
+    ShownPage m_page;
+};
+
+void PageReentrant::disturb(const QString& how)
+{
+    // Only once: what is done may come back here itself.
+    FakeHost::instance().duringMessage = std::function<void()>();
+    FakeHost::instance().duringNotification = std::function<void()>();
+    if (how == QLatin1String("host widget deleted")) {
+        delete m_page.host;
+    } else if (how == QLatin1String("page deleted")) {
+        delete m_page.page->m_pageWidget;
+    } else {
+        m_page.page->OnDestroy();
+        if (how == QLatin1String("object deleted")) {
+            delete m_page.page;
+            m_page.page = nullptr;
+        }
+    }
+}
+
+void PageReentrant::duringTheQuestion_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<int>("answer");
+    const char* const ways[] = {"OnDestroy", "object deleted", "host widget deleted", "page deleted"};
+    for (const char* way : ways) {
+        QTest::newRow(qPrintable(QString::fromLatin1("%1, OK").arg(QLatin1String(way))))
+            << QString::fromLatin1(way) << int(QMessageBox::Ok);
+        QTest::newRow(qPrintable(QString::fromLatin1("%1, Cancel").arg(QLatin1String(way))))
+            << QString::fromLatin1(way) << int(QMessageBox::Cancel);
+    }
+}
+
+void PageReentrant::duringTheQuestion()
+{
+    QFETCH(QString, how);
+    QFETCH(int, answer);
+    m_page.begin(links("a b c"));
+    m_page.select(1);
+    const QByteArray before = FakeHost::instance().readConfig();
+    const QPointer<QWidget> deleteButton = m_page.button("m_deleteBtn");
+    FakeHost::instance().messageAnswer = answer;
+    FakeHost::instance().duringMessage = [this, how] {
+        disturb(how);
+    };
+    m_page.click("m_deleteBtn");
+    QVERIFY(!deleteButton);
+    QCOMPARE(FakeHost::instance().messages.size(), 1);
+    QCOMPARE(FakeHost::instance().notifications, QStringList());
+    QCOMPARE(FakeHost::instance().readConfig(), before);
+    if (how.endsWith(QLatin1String("deleted")) && m_page.page)
+        QCOMPARE(m_page.listNames(), QString::fromLatin1("a b c"));
+}
+
+void PageReentrant::pageBuiltAgainDuringTheQuestion_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("OK") << int(QMessageBox::Ok) << QString::fromLatin1("b c");
+    QTest::newRow("Cancel") << int(QMessageBox::Cancel) << QString::fromLatin1("a b c");
+}
+
+void PageReentrant::pageBuiltAgainDuringTheQuestion()
+{
+    QFETCH(int, answer);
+    QFETCH(QString, names);
+    m_page.begin(links("a b c"));
+    m_page.select(1);
+    FakeHost::instance().messageAnswer = answer;
+    FakeHost::instance().duringMessage = [this] {
+        m_page.show();
+    };
+    m_page.click("m_deleteBtn");
+    // The page that is there now has its first row selected.
+    QCOMPARE(m_page.shownNames(), names);
+    QCOMPARE(m_page.listNames(), names);
+    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(FakeHost::instance().notifications.size(), 1);
+}
+
+void PageReentrant::linkAddedDuringTheQuestion()
+{
+    m_page.begin(links("a b c"));
+    FakeHost::instance().duringMessage = [this] {
+        FakeHost::instance().duringMessage = std::function<void()>();
+        m_page.addLink(1, "d");
+    };
+    m_page.click("m_deleteBtn");
+    QCOMPARE(m_page.shownNames(), QString::fromLatin1("a b c"));
+    QCOMPARE(m_page.listNames(), QString::fromLatin1("a b c"));
+    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(FakeHost::instance().readConfig(), m_page.expectedFile("4"));
+    QCOMPARE(FakeHost::instance().notifications.size(), 2);
+}
+
+void PageReentrant::deletedDuringTheQuestion_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("three links") << QByteArray("a b c") << QString::fromLatin1("c");
+    QTest::newRow("two links") << QByteArray("a b") << QString();
+    QTest::newRow("one link") << QByteArray("a") << QString();
+}
+
+void PageReentrant::deletedDuringTheQuestion()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QString, after);
+    m_page.begin(links(before.constData()));
+    FakeHost::instance().duringMessage = [this] {
+        FakeHost::instance().duringMessage = std::function<void()>();
+        m_page.page->onDeleteBtnClick();
+    };
+    m_page.click("m_deleteBtn");
+    QCOMPARE(m_page.shownNames(), after);
+    QCOMPARE(m_page.listNames(), after);
+    QCOMPARE(m_page.disorder(), QString());
+}
+
+void PageReentrant::questionDuringTheQuestion()
+{
+    m_page.begin(links("a b c"));
+    int depth = 0;
+    FakeHost::instance().duringMessage = [this, &depth] {
+        if (++depth < 5)
+            m_page.page->onDeleteBtnClick();
+    };
+    m_page.click("m_deleteBtn");
+    QCOMPARE(FakeHost::instance().messages.size(), 5);
+    QCOMPARE(m_page.listNames(), QString());
+    QCOMPARE(FakeHost::instance().readConfig(), m_page.expectedFile("3"));
+    // Three found a link, two found none and returned early.
+    QCOMPARE(FakeHost::instance().notifications.size(), 3);
+}
+
+void PageReentrant::changeRows()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("New") << QString::fromLatin1("New") << QString::fromLatin1("a b c d");
+    QTest::newRow("Edit") << QString::fromLatin1("Edit") << QString::fromLatin1("x b c");
+    QTest::newRow("Delete") << QString::fromLatin1("Delete") << QString::fromLatin1("b c");
+}
+
+void PageReentrant::change(const QString& what)
+{
+    if (what == QLatin1String("New")) {
+        m_page.addLink(1, "d");
+    } else if (what == QLatin1String("Edit")) {
+        m_page.click("m_editBtn");
+        m_page.enter("m_appNameEdit", QLatin1String("x"));
+        m_page.pressOk();
+    } else {
+        m_page.click("m_deleteBtn");
+    }
+}
+
+void PageReentrant::duringTheNotification_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("how");
+    const char* const changes[] = {"New", "Edit", "Delete"};
+    const char* const ways[] = {"OnDestroy", "object deleted", "host widget deleted", "page deleted"};
+    for (const char* each : changes) {
+        for (const char* way : ways)
+            QTest::newRow(qPrintable(QString::fromLatin1("%1, %2").arg(QLatin1String(each), QLatin1String(way))))
+                << QString::fromLatin1(each) << QString::fromLatin1(way);
+    }
+}
+
+void PageReentrant::duringTheNotification()
+{
+    QFETCH(QString, what);
+    QFETCH(QString, how);
+    m_page.begin(links("a b c"));
+    QByteArray file;
+    const QPointer<QWidget> table = m_page.table();
+    FakeHost::instance().duringNotification = [this, how, &file] {
+        file = FakeHost::instance().readConfig();
+        disturb(how);
+    };
+    change(what);
+    QVERIFY(!table);
+    QCOMPARE(FakeHost::instance().notifications.size(), 1);
+    QVERIFY(!file.isEmpty());
+    QCOMPARE(FakeHost::instance().readConfig(), file);
+    // What goes with the host's widget, or with the plug-in, leaves no dialog open.
+    if (how != QLatin1String("page deleted"))
+        QCOMPARE(m_page.liveFrames(), 0);
+}
+
+void PageReentrant::pageBuiltAgainDuringTheNotification_data()
+{
+    changeRows();
+}
+
+void PageReentrant::pageBuiltAgainDuringTheNotification()
+{
+    QFETCH(QString, what);
+    QFETCH(QString, names);
+    m_page.begin(links("a b c"));
+    FakeHost::instance().duringNotification = [this] {
+        m_page.show();
+    };
+    change(what);
+    QCOMPARE(m_page.shownNames(), names);
+    QCOMPARE(m_page.currentRow(), 0);
+    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(FakeHost::instance().notifications.size(), 1);
+}
+
+QTEST_MAIN(PageReentrant)
+#include "tst_page_reentrant.moc"
