@@ -16,6 +16,8 @@ function(vellum_add_test name)
     endif()
     get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
     add_executable(${name} ${ARG_SOURCES})
+    # Tests are many and run for a moment: the time that counts is the compiler's.
+    target_compile_options(${name} PRIVATE -O0 -g0)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/include")
     target_link_libraries(${name} PRIVATE ${ARG_LIBS} Vellum::QtWidgets Vellum::QtTest)
     add_test(NAME ${folder}.${name} COMMAND ${name})

@@ -9,6 +9,7 @@
 #include <QLoggingCategory>
 
 #include "LaunchEvents.h"
+#include "Trace.h"
 
 class NotifyTest : public QObject
 {
@@ -225,7 +226,9 @@ void NotifyTest::connectionSlotLaunches()
 
 void NotifyTest::silentWithoutDebugChannel()
 {
+    QVERIFY(Trace::isOn());
     QLoggingCategory::setFilterRules(QLatin1String("default.debug=false"));
+    const bool isOn = Trace::isOn();
     host().isConnected = true;
     {
         TraceRecorder trace;
@@ -237,6 +240,8 @@ void NotifyTest::silentWithoutDebugChannel()
         QCOMPARE(trace.debugLines, QStringList());
         QCOMPARE(trace.warningLines, QStringList());
     }
+    // Off means that not even the arguments of a line are worked out.
+    QVERIFY(!isOn);
     QCOMPARE(host().openings.size(), 3);
     TraceRecorder trace;
     m_plugin.page->Notify(1536, 0, 0);
