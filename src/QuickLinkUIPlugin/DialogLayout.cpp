@@ -104,6 +104,29 @@ void QuickLinkSettingNewEditDlg::createTabForInternet()
     TRACE_END();
 }
 
+void QuickLinkSettingNewEditDlg::setKeyboardOrder()
+{
+    // From top to bottom, whatever order the widgets were made in; typing goes to the name at once.
+    QWidget* const order[] = {m_appNameEdit,
+                              m_appTypeChoice,
+                              m_appPathEdit,
+                              m_browseBtn,
+                              m_appParamEdit,
+                              m_launchWhenSWLaunchCB,
+                              m_launchWhenConnectCB,
+                              m_launchWhenSWLaunchCBForEmail,
+                              m_launchWhenConnectCBForEmail,
+                              m_EditUrlName,
+                              m_launchWhenSWLaunchCBForInternet,
+                              m_launchWhenConnectCBForInternet,
+                              m_okBtn,
+                              m_cancelBtn};
+    const size_t count = sizeof order / sizeof *order;
+    for (size_t i = 1; i < count; ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+    m_appNameEdit->setFocus();
+}
+
 void QuickLinkSettingNewEditDlg::setDisplayLayout()
 {
     TRACE_START();
@@ -140,6 +163,7 @@ void QuickLinkSettingNewEditDlg::setDisplayLayout()
     m_mainLayout->addLayout(m_buttonLayout);
     m_mainWidget->setLayout(m_mainLayout);
 
+    setKeyboardOrder();
     // A buddy is what a screen reader calls the field.
     m_nameLbl->setBuddy(m_appNameEdit);
     m_typeLbl->setBuddy(m_appTypeChoice);

@@ -134,6 +134,7 @@ private:
     void createTabForEmail();
     void createTabForInternet();
     void setDisplayLayout();
+    void setKeyboardOrder();
     void setObjectNameNewDialog();
     void setDisplayString();
     bool hasTexts() const;

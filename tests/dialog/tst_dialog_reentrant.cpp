@@ -68,6 +68,27 @@ private:
     OpenDialog& m_dialog;
     int m_disposal;
 };
+
+/** Disposes of the dialog's object while its frame closes. */
+class CloseDisposer : public QObject
+{
+public:
+    explicit CloseDisposer(OpenDialog& dialog)
+        : m_dialog(dialog)
+    {
+        FakeHost::instance().frames.first().frame->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* frame, QEvent* event) override
+    {
+        if (event->type() == QEvent::Close)
+            dispose(m_dialog, Object);
+        return QObject::eventFilter(frame, event);
+    }
+
+private:
+    OpenDialog& m_dialog;
+};
 } // namespace
 
 class DialogReentrant : public QObject
@@ -81,6 +102,8 @@ private Q_SLOTS:
     void duringAddRecord();
     void duringCancel_data() { addDisposals(); }
     void duringCancel();
+    void cancelWhileTheFrameCloses();
+    void okWhileTheFrameCloses();
     void okInsideTheMessage();
     void pageGoesDuringTheMessage_data();
     void pageGoesDuringTheMessage();
@@ -133,6 +156,26 @@ void DialogReentrant::duringCancel()
     dialog->m_cancelBtn->click();
     QCOMPARE(dialog.wasOpenWhenCancelled.size(), 1);
     QCOMPARE(dialog.get() == nullptr, disposal != Host);
+}
+
+void DialogReentrant::cancelWhileTheFrameCloses()
+{
+    OpenDialog dialog;
+    CloseDisposer disposer(dialog);
+    dialog->m_cancelBtn->click();
+    QVERIFY(!dialog.get());
+    // Nobody is left to say that the user cancelled.
+    QCOMPARE(dialog.wasOpenWhenCancelled.size(), 0);
+}
+
+void DialogReentrant::okWhileTheFrameCloses()
+{
+    OpenDialog dialog;
+    dialog.fill(1, "Mail", "");
+    CloseDisposer disposer(dialog);
+    dialog->m_okBtn->click();
+    QVERIFY(!dialog.get());
+    QCOMPARE(dialog.added.size(), 1);
 }
 
 void DialogReentrant::okInsideTheMessage()
