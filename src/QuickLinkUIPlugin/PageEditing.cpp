@@ -61,15 +61,14 @@ void QuickLinkSettingPluginDlg::onEditBtnClick()
         TRACE_NULL();
         return;
     }
-    bool hasSelection = false;
-    const QuickLinkRecord* const record = selectedRecord(&hasSelection);
-    if (!hasSelection) {
+    const QTableWidgetItem* const item = selectedItem();
+    if (!item) {
         TRACE_NULL();
         return;
     }
-    if (!record)
+    if (!recordOf(item))
         return;
-    fillEditDialog(*record);
+    fillEditDialog(*recordOf(item));
     m_editDlg->onNewEditClicked(true, m_editDlg->m_appNameEdit->text());
     m_isEditing = true;
     connectDialog(m_editDlg);
@@ -230,13 +229,11 @@ bool QuickLinkSettingPluginDlg::deleteCurrentLink()
         return false;
     }
     const int row = m_QLinkListTblView->currentRow();
-    bool hasSelection = false;
-    const QuickLinkRecord* const selected = selectedRecord(&hasSelection);
-    if (!hasSelection) {
+    if (!selectedItem()) {
         TRACE_NULL();
         return false;
     }
-    if (!selected)
+    if (!recordOf(selectedItem()))
         return false;
     if (!isRowOfList(row)) {
         TRACE_REFUSED("no link in the current row");

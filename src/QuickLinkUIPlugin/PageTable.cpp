@@ -25,16 +25,6 @@ QVariant recordToData(QuickLinkRecord* record)
 {
     return QVariant(static_cast<qulonglong>(reinterpret_cast<quintptr>(record)));
 }
-
-/** The record behind an item; null where there is none, no item included. */
-QuickLinkRecord* recordOf(const QTableWidgetItem* item)
-{
-    if (!item)
-        return nullptr;
-    bool isNumber = false;
-    const qulonglong address = item->data(Qt::UserRole).toULongLong(&isNumber);
-    return isNumber ? reinterpret_cast<QuickLinkRecord*>(static_cast<quintptr>(address)) : nullptr;
-}
 } // namespace
 
 void QuickLinkSettingPluginDlg::fillTable()
@@ -170,11 +160,19 @@ void QuickLinkSettingPluginDlg::freeRecord(QuickLinkRecord* record)
         delete record;
 }
 
-QuickLinkRecord* QuickLinkSettingPluginDlg::selectedRecord(bool* hasSelection) const
+QuickLinkRecord* QuickLinkSettingPluginDlg::recordOf(const QTableWidgetItem* item)
+{
+    if (!item)
+        return nullptr;
+    bool isNumber = false;
+    const qulonglong address = item->data(Qt::UserRole).toULongLong(&isNumber);
+    return isNumber ? reinterpret_cast<QuickLinkRecord*>(static_cast<quintptr>(address)) : nullptr;
+}
+
+const QTableWidgetItem* QuickLinkSettingPluginDlg::selectedItem() const
 {
     const QList<QTableWidgetItem*> items = m_QLinkListTblView->selectedItems();
-    *hasSelection = !items.isEmpty() && items.first();
-    return *hasSelection ? recordOf(items.first()) : nullptr;
+    return items.isEmpty() ? nullptr : items.first();
 }
 
 void QuickLinkSettingPluginDlg::enableDeleteEditButton()
@@ -184,12 +182,12 @@ void QuickLinkSettingPluginDlg::enableDeleteEditButton()
         TRACE_NULL();
         return;
     }
-    bool hasSelection = false;
-    const QuickLinkRecord* const record = selectedRecord(&hasSelection);
-    if (!hasSelection) {
+    const QTableWidgetItem* const item = selectedItem();
+    if (!item) {
         TRACE_NULL();
         return;
     }
+    const QuickLinkRecord* const record = recordOf(item);
     if (!record)
         return;
     m_deleteBtn->setEnabled(record->delete_ == QLatin1String("1"));

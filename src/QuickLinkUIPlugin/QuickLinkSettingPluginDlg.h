@@ -167,7 +167,8 @@ private:
     bool fillRows();
     bool setCell(int row, int column, const QString& text, QuickLinkRecord* record);
     QuickLinkRecord* rowRecord(int row) const;
-    QuickLinkRecord* selectedRecord(bool* hasSelection) const;
+    static QuickLinkRecord* recordOf(const QTableWidgetItem* item); ///< null where there is none, no item included
+    const QTableWidgetItem* selectedItem() const;                   ///< null when no row is selected
     bool isRowOfList(int row) const;
     void freeRecord(QuickLinkRecord* record);
     void selectRow(int row);

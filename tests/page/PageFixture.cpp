@@ -257,6 +257,20 @@ void ShownPage::pressInDialog(const char* buttonName)
     QTest::mouseClick(inDialog<QPushButton>(buttonName), Qt::LeftButton);
 }
 
+void ShownPage::change(const QString& what)
+{
+    if (what == QLatin1String("New")) {
+        addLink(1, "d");
+    } else if (what == QLatin1String("Edit")) {
+        click("m_editBtn");
+        enter("m_appNameEdit", QLatin1String("x"));
+        pressOk();
+    } else {
+        const QByteArray button = "m_" + what.toLower().toLatin1() + "Btn";
+        click(button.constData());
+    }
+}
+
 void ShownPage::addLink(int type, const char* name, const QString& target)
 {
     click("m_newBtn");

@@ -137,6 +137,10 @@ public:
     /** Presses New, fills the dialog and presses its OK. type is 0 application, 1 e-mail, 2 Internet. */
     void addLink(int type, const char* name, const QString& target = QString());
 
+    /** Makes one change to the selected link by mouse and keyboard: "New" (d), "Edit" (to x), "Delete", "Up" or "Down".
+     */
+    void change(const QString& what);
+
     /** The file, if it is written now from the list with this counter: ids as they are in memory. */
     QByteArray expectedFile(const char* currentId) const;
 

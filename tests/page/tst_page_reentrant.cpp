@@ -30,8 +30,6 @@ private Q_SLOTS:
 private:
     /** What the host does meanwhile. */
     void disturb(const QString& how);
-    /** Presses what leads to a notification. */
-    void change(const QString& what);
     static void changeRows();
 
     ShownPage m_page;
@@ -179,19 +177,6 @@ void PageReentrant::changeRows()
     QTest::newRow("Delete") << QString::fromLatin1("Delete") << QString::fromLatin1("b c");
 }
 
-void PageReentrant::change(const QString& what)
-{
-    if (what == QLatin1String("New")) {
-        m_page.addLink(1, "d");
-    } else if (what == QLatin1String("Edit")) {
-        m_page.click("m_editBtn");
-        m_page.enter("m_appNameEdit", QLatin1String("x"));
-        m_page.pressOk();
-    } else {
-        m_page.click("m_deleteBtn");
-    }
-}
-
 void PageReentrant::duringTheNotification_data()
 {
     QTest::addColumn<QString>("what");
@@ -216,7 +201,7 @@ void PageReentrant::duringTheNotification()
         file = FakeHost::instance().readConfig();
         disturb(how);
     };
-    change(what);
+    m_page.change(what);
     QVERIFY(!table);
     QCOMPARE(FakeHost::instance().notifications.size(), 1);
     QVERIFY(!file.isEmpty());
@@ -239,7 +224,7 @@ void PageReentrant::pageBuiltAgainDuringTheNotification()
     FakeHost::instance().duringNotification = [this] {
         m_page.show();
     };
-    change(what);
+    m_page.change(what);
     QCOMPARE(m_page.shownNames(), names);
     QCOMPARE(m_page.currentRow(), 0);
     QCOMPARE(m_page.disorder(), QString());

@@ -79,16 +79,7 @@ void PageSavingFails::change()
 {
     QFETCH(QString, what);
     m_page.select(1);
-    if (what == QLatin1String("New")) {
-        m_page.addLink(1, "d");
-    } else if (what == QLatin1String("Edit")) {
-        m_page.click("m_editBtn");
-        m_page.enter("m_appNameEdit", QLatin1String("x"));
-        m_page.pressOk();
-    } else {
-        const QByteArray button = "m_" + what.toLower().toLatin1() + "Btn";
-        m_page.click(button.constData());
-    }
+    m_page.change(what);
 }
 
 void PageSavingFails::checkPage()
