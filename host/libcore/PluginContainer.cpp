@@ -43,11 +43,13 @@ void PluginContainer::registerComponent(const QString& clsid, int kind, const QS
 
 QObject* PluginContainer::GetPlugin(const QString& clsid, int kind)
 {
-    for (const Component& component : m_components) {
+    const QList<Component>& components = m_components;
+    for (const Component& component : components) {
         if (component.object && component.clsid == clsid && component.kind == kind)
             return component.object;
     }
-    for (const Plugin& plugin : m_plugins) {
+    const QList<Plugin>& loaded = m_plugins;
+    for (const Plugin& plugin : loaded) {
         if (plugin.object && plugin.clsid == clsid)
             return plugin.object;
     }

@@ -31,7 +31,7 @@ QString chooseFile(QWidget* parent)
     const QPointer<QFileDialog> chooser(new QFileDialog(parent, QLatin1String("Open"), QDir::currentPath()));
     chooser->setFileMode(QFileDialog::ExistingFile);
     const bool isChosen = chooser->exec() == QDialog::Accepted;
-    const QString path = isChosen && chooser ? chooser->selectedFiles().value(0) : QString();
+    QString path = isChosen && chooser ? chooser->selectedFiles().value(0) : QString();
     delete chooser.data();
     return path;
 }
