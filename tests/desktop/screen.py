@@ -158,6 +158,15 @@ class Widget:
             _xdotool("type", "--delay", 1, "--", text)
         wait_for(lambda: self.text == text, f"\"{text}\" in {self}, which shows \"{self.text}\"")
 
+    def type_against_completion(self, text):
+        """As `type`, for a field whose completion may replace what is typed while it still looks for matches."""
+        for _ in range(2):
+            try:
+                return self.type(text)
+            except AssertionError:
+                pass
+        return self.type(text)
+
     def choose(self, item):
         """Opens a combo box and clicks an item."""
         self.click()

@@ -98,7 +98,7 @@ class LinkDialog:
         """Picks a file in the file dialog by typing its path."""
         self.window.find("push button", "Browse…").click()
         chooser = self._application.window("Open")
-        chooser.find("text", "File name:").type(str(path))
+        chooser.find("text", "File name:").type_against_completion(str(path))
         press("Return")
         self._application.wait_until_gone(chooser)
 
