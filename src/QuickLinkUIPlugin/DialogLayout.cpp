@@ -107,8 +107,7 @@ void QuickLinkSettingNewEditDlg::createTabForInternet()
 void QuickLinkSettingNewEditDlg::setKeyboardOrder()
 {
     // From top to bottom, whatever order the widgets were made in; typing goes to the name at once.
-    QWidget* const order[] = {m_appNameEdit,
-                              m_appTypeChoice,
+    QWidget* const order[] = {m_appTypeChoice,
                               m_appPathEdit,
                               m_browseBtn,
                               m_appParamEdit,
@@ -121,9 +120,11 @@ void QuickLinkSettingNewEditDlg::setKeyboardOrder()
                               m_launchWhenConnectCBForInternet,
                               m_okBtn,
                               m_cancelBtn};
-    const size_t count = sizeof order / sizeof *order;
-    for (size_t i = 1; i < count; ++i)
-        QWidget::setTabOrder(order[i - 1], order[i]);
+    QWidget* previous = m_appNameEdit;
+    for (QWidget* const next : order) {
+        QWidget::setTabOrder(previous, next);
+        previous = next;
+    }
     m_appNameEdit->setFocus();
 }
 
