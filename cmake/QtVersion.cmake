@@ -1,15 +1,18 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# One set of names for the chosen Qt: Vellum::QtCore, Vellum::QtWidgets (Gui and Widgets) and Vellum::QtTest.
+# One set of names for the chosen Qt: Vellum::QtCore, Vellum::QtDBus (of the application), Vellum::QtWidgets
+# (Gui and Widgets) and Vellum::QtTest.
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_INCLUDE_CURRENT_DIR OFF)
 
 add_library(VellumQtCore INTERFACE)
+add_library(VellumQtDBus INTERFACE)
 add_library(VellumQtWidgets INTERFACE)
 add_library(VellumQtTest INTERFACE)
 add_library(Vellum::QtCore ALIAS VellumQtCore)
+add_library(Vellum::QtDBus ALIAS VellumQtDBus)
 add_library(Vellum::QtWidgets ALIAS VellumQtWidgets)
 add_library(Vellum::QtTest ALIAS VellumQtTest)
 
@@ -19,8 +22,9 @@ if(QT_MAJOR EQUAL 4)
     target_link_libraries(VellumQtWidgets INTERFACE Qt4::QtCore Qt4::QtGui)
     target_link_libraries(VellumQtTest INTERFACE Qt4::QtTest)
 elseif(QT_MAJOR EQUAL 5 OR QT_MAJOR EQUAL 6)
-    find_package(Qt${QT_MAJOR} REQUIRED COMPONENTS Core Gui Widgets Test LinguistTools)
+    find_package(Qt${QT_MAJOR} REQUIRED COMPONENTS Core DBus Gui Widgets Test LinguistTools)
     target_link_libraries(VellumQtCore INTERFACE Qt${QT_MAJOR}::Core)
+    target_link_libraries(VellumQtDBus INTERFACE Qt${QT_MAJOR}::DBus)
     target_link_libraries(VellumQtWidgets INTERFACE Qt${QT_MAJOR}::Core Qt${QT_MAJOR}::Gui Qt${QT_MAJOR}::Widgets)
     target_link_libraries(VellumQtTest INTERFACE Qt${QT_MAJOR}::Test)
 else()

@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 
 namespace
 {
@@ -23,10 +24,14 @@ struct Options {
         , pluginFolder(QStringLiteral("plugin-dir"), tr("Load the plug-ins of DIR."), QStringLiteral("DIR"))
         , language(QStringLiteral("language"), tr("Show texts in the language LANG, such as en or pt_BR."),
                    QStringLiteral("LANG"))
+        , connection(QStringLiteral("connection"),
+                     tr("Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a "
+                        "default route) or manual (you press a button)."),
+                     QStringLiteral("KIND"))
         , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no display."))
     {
         parser.setApplicationDescription(tr("Connection manager with quick links."));
-        parser.addOptions({help, version, dataFolder, pluginFolder, language, listLinks});
+        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, listLinks});
     }
 
     /** What is wrong with the arguments; empty when nothing is. */
@@ -36,11 +41,21 @@ struct Options {
             return parser.errorText();
         if (!parser.positionalArguments().isEmpty())
             return tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
-        for (const QCommandLineOption& option : {dataFolder, pluginFolder, language}) {
+        for (const QCommandLineOption& option : {dataFolder, pluginFolder, language, connection}) {
             if (parser.isSet(option) && parser.value(option).isEmpty())
                 return tr("Empty value after \"--%1\".").arg(option.names().constFirst());
         }
+        if (parser.isSet(connection) && !kinds().contains(parser.value(connection)))
+            return tr("No such kind of connection: \"%1\".").arg(parser.value(connection));
         return QString();
+    }
+
+    /** What the user may write after --connection. */
+    static QHash<QString, ConnectionKind> kinds()
+    {
+        return {{QStringLiteral("mobile"), ConnectionKind::Mobile},
+                {QStringLiteral("any"), ConnectionKind::Any},
+                {QStringLiteral("manual"), ConnectionKind::Manual}};
     }
 
     CommandLine::Action action() const
@@ -52,7 +67,7 @@ struct Options {
         return parser.isSet(listLinks) ? CommandLine::ListLinks : CommandLine::ShowWindow;
     }
 
-    QCommandLineOption help, version, dataFolder, pluginFolder, language, listLinks;
+    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, listLinks;
     QCommandLineParser parser;
 };
 } // namespace
@@ -76,6 +91,7 @@ CommandLine CommandLine::parse(int argc, char** argv)
     line.dataFolder = options.parser.value(options.dataFolder);
     line.pluginFolder = options.parser.value(options.pluginFolder);
     line.language = options.parser.value(options.language);
+    line.connection = Options::kinds().value(options.parser.value(options.connection), ConnectionKind::Mobile);
     return line;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include "SystemSource.h"
+
 /** What the user asked for on the command line. */
 struct CommandLine {
     enum Action { ShowWindow, ListLinks, ShowHelp, ShowVersion, Refuse };
@@ -13,7 +15,8 @@ struct CommandLine {
     QString error;        ///< with Refuse: one line that says what is wrong
     QString dataFolder;   ///< empty for the default
     QString pluginFolder; ///< empty for the installed one
-    QString language;     ///< empty for the system's
+    QString language;     ///< empty for the one chosen in the program, or else the system's
+    ConnectionKind connection = ConnectionKind::Mobile;
 
     /** Reads the arguments. Needs no application object. */
     static CommandLine parse(int argc, char** argv);

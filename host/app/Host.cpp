@@ -3,24 +3,34 @@
 
 #include "Host.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QStatusBar>
 
 #include "CommonUtils.h"
+#include "ConnectionPanel.h"
 #include "FirstStart.h"
+#include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "Places.h"
+#include "PluginNotifications.h"
 #include "SettingsDialog.h"
 #include "StartupContainer.h"
+#include "Translator.h"
+#include "Tray.h"
+#include "UserSettings.h"
 
 namespace
 {
 const int notifyServiceKind = 0x2011;
 const int menuManagerKind = 0x2012;
+const int dialupServiceKind = 0x4011;
 } // namespace
 
-Host::Host()
-    : m_notifyService(m_container)
+Host::Host(Translator& translator)
+    : m_translator(translator)
+    , m_dialupService(m_monitor)
+    , m_notifyService(m_container)
     , m_menuManager(m_container)
 {
     installPluginContainer(&m_container);
@@ -28,11 +38,14 @@ Host::Host()
                                   QStringLiteral("NotifyService"), &m_notifyService);
     m_container.registerComponent(QStringLiteral("0F6E2B94-83D1-4C57-A6B0-91E5D27C3A48"), menuManagerKind,
                                   QStringLiteral("MenuMgrPlugin"), &m_menuManager);
+    m_container.registerComponent(QStringLiteral("61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E"), dialupServiceKind,
+                                  QStringLiteral("DialupService"), &m_dialupService);
 }
 
 Host::~Host()
 {
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
+    m_tray.reset();
     m_window.reset();
     m_menuManager.clear();
     m_container.shutdown();
@@ -53,14 +66,64 @@ QList<QObject*> Host::plugins() const
     return m_container.plugins();
 }
 
-void Host::showWindow()
+void Host::showWindow(ConnectionKind kind)
 {
-    m_window = std::make_unique<MainWindow>();
-    QObject::connect(&m_menuManager, &MenuManager::rebuilt, m_window.get(), &MainWindow::setLinks);
-    QObject::connect(m_window.get(), &MainWindow::settingsRequested, m_window.get(), [this] { showSettings(); });
+    // Whether the program ends with its window depends on the tray.
+    QApplication::setQuitOnLastWindowClosed(false);
+    m_panel = new ConnectionPanel(m_monitor, kind);
+    LanguageMenu* const languages = new LanguageMenu(Translator::languages(), UserSettings::language());
+    QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& language) {
+        UserSettings::setLanguage(language);
+        setLanguage(language);
+    });
+    m_window = std::make_unique<MainWindow>(m_panel, languages);
+    m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
+    connectWindow();
     m_menuManager.rebuild();
     showRefusals();
+    // Before the window shows, so that it does not show what is not so.
+    m_monitor.start(newSystemSource(kind));
     m_window->show();
+}
+
+void Host::connectWindow()
+{
+    MainWindow* const window = m_window.get();
+    QObject::connect(&m_menuManager, &MenuManager::rebuilt, window, &MainWindow::setLinks);
+    QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
+    QObject::connect(window, &MainWindow::appeared, window, [this] { PluginNotifications::tellStarted(m_container); });
+    QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
+    QObject::connect(window, &MainWindow::quitRequested, qApp, &QCoreApplication::quit);
+    QObject::connect(m_tray.get(), &Tray::quitRequested, qApp, &QCoreApplication::quit);
+    QObject::connect(&m_monitor, &ConnectionMonitor::changed, window, [this] { showConnection(); });
+    QObject::connect(&m_monitor, &ConnectionMonitor::announced, window, [this](bool isUp, const QString& reason) {
+        PluginNotifications::tellConnectionChanged(m_container, isUp, reason);
+    });
+    QObject::connect(&m_sleepWatch, &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
+    QObject::connect(&m_sleepWatch, &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+void Host::setLanguage(const QString& language)
+{
+    m_translator.use(language);
+    PluginNotifications::tellLanguageChanged(m_container, m_translator.current());
+    m_menuManager.retranslate();
+    if (m_window)
+        showConnection();
+}
+
+void Host::showConnection()
+{
+    m_tray->setState(m_monitor.state().isUp, m_panel->summary());
+    m_window->setStanding(m_monitor.lacksService() ? MainWindow::tr("NetworkManager is not running") : QString());
+}
+
+void Host::windowClosed()
+{
+    if (Tray::isThere())
+        m_tray->sayThatItGoesOn();
+    else
+        QCoreApplication::quit();
 }
 
 void Host::showSettings()

@@ -8,19 +8,29 @@
 
 #include <memory>
 
+#include "ConnectionMonitor.h"
+#include "DialupService.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
 #include "NotifyService.h"
 #include "PluginContainer.h"
+#include "SleepWatch.h"
+#include "SystemSource.h"
 
+class ConnectionPanel;
 class MainWindow;
+class Tray;
+class Translator;
 
 /** The program put together: container, services, plug-ins and window, in the order in which they need each other. */
 class Host
 {
 public:
-    /** Installs the container and registers the host's own components. One Host at a time. */
-    Host();
+    /**
+     * Installs the container and registers the host's own components. Texts come from translator, which must outlive
+     * the host. One Host at a time.
+     */
+    explicit Host(Translator& translator);
 
     /** Closes the window, then takes the plug-ins down. */
     ~Host();
@@ -34,16 +44,31 @@ public:
     /** The loaded plug-ins in load order, which stay the host's. */
     QList<QObject*> plugins() const;
 
-    /** Builds the menu from the plug-ins and shows the main window. */
-    void showWindow();
+    /**
+     * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
+     * plug-ins are told of the start when the window stands on the screen.
+     */
+    void showWindow(ConnectionKind kind);
+
+    /** Shows every text in language from now on, and tells the plug-ins; empty stands for the system's language. */
+    void setLanguage(const QString& language);
 
 private:
+    void connectWindow();
+    void showConnection();
+    void windowClosed();
     void showSettings();
     void showRefusals();
 
+    Translator& m_translator;
     PluginContainer m_container;
+    ConnectionMonitor m_monitor;
+    SleepWatch m_sleepWatch;
+    DialupService m_dialupService;
     NotifyService m_notifyService;
     MenuManager m_menuManager;
     LinkOpener m_linkOpener;
     std::unique_ptr<MainWindow> m_window;
+    ConnectionPanel* m_panel = nullptr; ///< in the window
+    std::unique_ptr<Tray> m_tray;
 };

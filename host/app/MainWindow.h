@@ -6,8 +6,10 @@
 #include <QList>
 #include <QMainWindow>
 
+class ConnectionPanel;
 class LinkButtons;
 class QAction;
+class QLabel;
 class QMenu;
 
 /** The window: the state of the connection, the quick links as buttons below it, and the menus. */
@@ -16,21 +18,55 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** Makes a hidden window without links. */
-    MainWindow();
+    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it takes both. */
+    MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
 
     /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
     void setLinks(const QList<QAction*>& actions);
 
+    /** The menu of the quick links, which stays the window's. */
+    QMenu& linkMenu();
+
+    /** A line that stays in the status bar until the next one; empty for none. */
+    void setStanding(const QString& text);
+
 Q_SIGNALS:
+    /** The window stands on the screen for the first time, or was put away before it did. */
+    void appeared();
+
     /** The user wants to see the settings. */
     void settingsRequested();
 
+    /** The user wants to end the program. */
+    void quitRequested();
+
+    /** The user closed the window, which is now hidden. */
+    void closed();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
 private:
-    void buildMenus();
-    QWidget* newConnectionPanel();
+    void buildMenus(QMenu* languageMenu);
+    void setTexts();
+    void appear();
     void showAbout();
 
-    QMenu* m_linkMenu = nullptr;
     LinkButtons* m_linkButtons = nullptr;
+    QLabel* m_linkHeading = nullptr;
+    QLabel* m_standing = nullptr;
+    bool m_hasAppeared = false;
+
+    QMenu* m_connectionMenu = nullptr;
+    QMenu* m_linkMenu = nullptr;
+    QMenu* m_toolsMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
+    QMenu* m_helpMenu = nullptr;
+    QAction* m_quit = nullptr;
+    QAction* m_settings = nullptr;
+    QAction* m_showStatusBar = nullptr;
+    QAction* m_about = nullptr;
+    QAction* m_noLinks = nullptr;
 };

@@ -39,6 +39,13 @@ void MenuManager::rebuild()
         action->deleteLater();
 }
 
+void MenuManager::retranslate()
+{
+    for (QAction* action : qAsConst(m_actions))
+        setTexts(action);
+    Q_EMIT rebuilt(m_actions);
+}
+
 void MenuManager::clear()
 {
     Q_EMIT rebuilt(QList<QAction*>());
@@ -56,14 +63,20 @@ void MenuManager::addLinks(QObject* plugin)
     }
 }
 
+void MenuManager::setTexts(QAction* action)
+{
+    const QString tip = tr("Open %1").arg(action->data().toString());
+    // A name that looks like markup is shown as it stands.
+    action->setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
+    action->setStatusTip(tip);
+}
+
 QAction* MenuManager::newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs)
 {
     const QString name = LinkName::onOneLine(theirs->text());
     QAction* const action = new QAction(LinkName::withAmpersands(name), this);
     action->setData(name);
-    // A name that looks like markup is shown as it stands.
-    action->setToolTip(Qt::convertFromPlainText(tr("Open %1").arg(name), Qt::WhiteSpaceNormal));
-    action->setStatusTip(tr("Open %1").arg(name));
+    setTexts(action);
     connect(action, &QAction::triggered, this,
             [plugin = QPointer<QObject>(plugin), links, theirs = QPointer<QAction>(theirs)] {
                 if (plugin && theirs)

@@ -34,6 +34,9 @@ public:
      */
     void rebuild();
 
+    /** Shows the texts of the actions in the language of now. Asks no plug-in. */
+    void retranslate();
+
     /** Lets go of all links, before their plug-ins go. */
     void clear();
 
@@ -43,6 +46,7 @@ Q_SIGNALS:
 
 private:
     void addLinks(QObject* plugin);
+    static void setTexts(QAction* action);
     QAction* newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs);
 
     const PluginContainer& m_container;

@@ -4,6 +4,7 @@
 #include "SettingsDialog.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -17,25 +18,23 @@ SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
     , m_pages(SettingsPage::of(plugins))
     , m_list(new QListWidget)
     , m_area(new PageArea)
+    , m_hint(new QLabel)
 {
-    setWindowTitle(tr("Settings"));
     QVBoxLayout* const column = new QVBoxLayout(this);
     QHBoxLayout* const row = new QHBoxLayout;
     column->addLayout(row, 1);
     row->addWidget(m_list);
     row->addWidget(m_area, 1);
-    QLabel* const hint = new QLabel(tr("None of the loaded plug-ins has settings."));
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setMinimumSize(320, 120);
-    row->addWidget(hint);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setMinimumSize(320, 120);
+    row->addWidget(m_hint);
 
-    for (const SettingsPage& page : qAsConst(m_pages))
-        m_list->addItem(page.caption());
-    m_list->setAccessibleName(tr("Pages"));
-    m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_list->addItem(QString());
+    setTexts();
     m_list->setVisible(!m_pages.isEmpty());
     m_area->setVisible(!m_pages.isEmpty());
-    hint->setVisible(m_pages.isEmpty());
+    m_hint->setVisible(m_pages.isEmpty());
     connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
 
     QDialogButtonBox* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -68,6 +67,23 @@ void SettingsDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (m_shown < 0 && !m_pages.isEmpty())
         m_list->setCurrentRow(0);
+}
+
+void SettingsDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+    QDialog::changeEvent(event);
+}
+
+void SettingsDialog::setTexts()
+{
+    setWindowTitle(tr("Settings"));
+    m_hint->setText(tr("None of the loaded plug-ins has settings."));
+    m_list->setAccessibleName(tr("Pages"));
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_list->item(i)->setText(m_pages.at(i).caption());
+    m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
 }
 
 void SettingsDialog::showPage(int index)

@@ -9,6 +9,7 @@
 #include "SettingsPage.h"
 
 class PageArea;
+class QLabel;
 class QListWidget;
 
 /** The settings: a list of the plug-ins' pages and the page chosen there. Made anew each time it is opened. */
@@ -30,8 +31,11 @@ protected:
     /** Shows the first page, now that the dialog has its size. */
     void showEvent(QShowEvent* event) override;
 
+    /** Follows a change of the language. The pages are told by their plug-ins. */
+    void changeEvent(QEvent* event) override;
+
 private:
-    void buildPages(QWidget* row);
+    void setTexts();
     void showPage(int index);
     void growToPage();
 
@@ -39,4 +43,5 @@ private:
     int m_shown = -1; ///< index of the page in the area
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
+    QLabel* m_hint = nullptr; ///< stands where there are no pages
 };

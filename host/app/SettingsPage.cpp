@@ -8,10 +8,9 @@
 
 #include "ISettingUIPlugin.h"
 
-SettingsPage::SettingsPage(QObject* plugin, ISettingUIPlugin* settings, const QString& caption)
+SettingsPage::SettingsPage(QObject* plugin, ISettingUIPlugin* settings)
     : m_plugin(plugin)
     , m_settings(settings)
-    , m_caption(caption)
 {
 }
 
@@ -20,16 +19,15 @@ QList<SettingsPage> SettingsPage::of(const QList<QObject*>& plugins)
     QList<SettingsPage> pages;
     for (QObject* plugin : plugins) {
         ISettingUIPlugin* const settings = qobject_cast<ISettingUIPlugin*>(plugin);
-        const QString caption = settings ? settings->GetModuleName() : QString();
-        if (!caption.isEmpty())
-            pages.append(SettingsPage(plugin, settings, caption));
+        if (settings && !settings->GetModuleName().isEmpty())
+            pages.append(SettingsPage(plugin, settings));
     }
     return pages;
 }
 
 QString SettingsPage::caption() const
 {
-    return m_caption;
+    return m_plugin ? m_settings->GetModuleName() : QString();
 }
 
 QPointer<QWidget> SettingsPage::show(QWidget* parent, const QRect& area) const

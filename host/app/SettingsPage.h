@@ -18,6 +18,7 @@ public:
     /** The pages of plugins, in their order: of each that has settings and a caption for them. */
     static QList<SettingsPage> of(const QList<QObject*>& plugins);
 
+    /** In the language of now. */
     QString caption() const;
 
     /**
@@ -36,9 +37,8 @@ public:
     void reject() const;
 
 private:
-    SettingsPage(QObject* plugin, ISettingUIPlugin* settings, const QString& caption);
+    SettingsPage(QObject* plugin, ISettingUIPlugin* settings);
 
     QPointer<QObject> m_plugin;
     ISettingUIPlugin* m_settings;
-    QString m_caption;
 };

@@ -3,11 +3,15 @@
 
 #include "Translator.h"
 
-#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 
 #include "Places.h"
+
+static const QString catalogue = QStringLiteral("vellumconnect");
 
 static QString toolkitFolder()
 {
@@ -18,23 +22,49 @@ static QString toolkitFolder()
 #endif
 }
 
-bool Translator::install(const QString& language)
+/** What a catalogue's file name has between its first underscore and its suffix. */
+static QString languageOf(const QString& file)
 {
-    if (m_english.load(QStringLiteral("vellumconnect_en"), Places::translationFolder()))
+    return QFileInfo(file).completeBaseName().section(QLatin1Char('_'), 1);
+}
+
+QStringList Translator::languages()
+{
+    QStringList languages;
+    const QDir folder(Places::translationFolder());
+    const QStringList files = folder.entryList({catalogue + QStringLiteral("_*.qm")}, QDir::Files, QDir::Name);
+    for (const QString& file : files)
+        languages.append(languageOf(file));
+    return languages;
+}
+
+bool Translator::use(const QString& language)
+{
+    if (m_english.isEmpty() && m_english.load(catalogue + QStringLiteral("_en"), Places::translationFolder()))
         QCoreApplication::installTranslator(&m_english);
+    QCoreApplication::removeTranslator(&m_toolkit);
+    QCoreApplication::removeTranslator(&m_language);
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     // A name that is none gives the "C" locale, which is English without being asked for.
     const bool isKnown = language.isEmpty() || locale.language() != QLocale::C;
-    if (isKnown && loadLanguage(locale))
-        return true;
-    if (!language.isEmpty())
+    const bool isThere = isKnown && load(locale);
+    if (!isThere && !language.isEmpty())
         qWarning("There are no texts in the language \"%s\"; they are shown in English", qUtf8Printable(language));
-    return false;
+    const QLocale shown(current());
+    // Times and dates as the system has them, as long as the user chooses nothing else.
+    QLocale::setDefault(language.isEmpty() ? QLocale::system() : shown);
+    QGuiApplication::setLayoutDirection(shown.textDirection());
+    return isThere;
 }
 
-bool Translator::loadLanguage(const QLocale& locale)
+QString Translator::current() const
 {
-    if (!m_language.load(locale, QStringLiteral("vellumconnect"), QStringLiteral("_"), Places::translationFolder()))
+    return m_language.isEmpty() ? QStringLiteral("en") : languageOf(m_language.filePath());
+}
+
+bool Translator::load(const QLocale& locale)
+{
+    if (!m_language.load(locale, catalogue, QStringLiteral("_"), Places::translationFolder()))
         return false;
     // The toolkit's own buttons follow, but never in a language that the program does not speak.
     if (m_toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), toolkitFolder()))

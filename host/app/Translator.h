@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 /** The texts of the program and its plug-ins, from the installed vellumconnect_<language>.qm. */
@@ -13,14 +14,22 @@ public:
     /** Has no texts yet. Must live as long as texts are shown. */
     Translator() = default;
 
+    /** The installed languages, such as "de" or "zh_CN", in the order of these names. */
+    static QStringList languages();
+
     /**
      * Shows texts in language, such as "en" or "pt_BR"; empty stands for the system's. What it lacks is shown in
-     * English. False when there is no such language at all, which for a named one is written to the warning channel.
+     * English. Right-to-left languages mirror the windows. May be called again at any time; windows hear of it by
+     * QEvent::LanguageChange. False when there is no such language at all, which for a named one is written to the
+     * warning channel.
      */
-    bool install(const QString& language);
+    bool use(const QString& language);
+
+    /** The language that the texts are in, by the name that languages() has for it. */
+    QString current() const;
 
 private:
-    bool loadLanguage(const QLocale& locale);
+    bool load(const QLocale& locale);
 
     QTranslator m_english; ///< below the others
     QTranslator m_toolkit;

@@ -2,17 +2,18 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
-#include <QIcon>
 #include <QLoggingCategory>
 
 #include <clocale>
 #include <cstdio>
 
 #include "CommandLine.h"
+#include "ConnectionIcon.h"
 #include "Host.h"
 #include "LinkTable.h"
 #include "Translator.h"
 #include "UserFolder.h"
+#include "UserSettings.h"
 
 namespace
 {
@@ -51,21 +52,21 @@ int main(int argc, char** argv)
 
     describeApplication();
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("network-wireless")));
+    QApplication::setWindowIcon(connectionIcon(true));
     // The trace of the plug-ins is for developers: QT_LOGGING_RULES="default.debug=true" turns it on.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
-    translator.install(commandLine.language);
+    translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
     if (commandLine.action == CommandLine::ShowHelp)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
 
-    UserFolder::setPath(commandLine.dataFolder);
-    Host host;
+    Host host(translator);
     host.loadPlugins(commandLine.pluginFolder);
     if (commandLine.action == CommandLine::ListLinks)
         return print(linkTable(host.plugins()));
-    host.showWindow();
+    host.showWindow(commandLine.connection);
     return QApplication::exec();
 }

@@ -44,18 +44,23 @@ class Scenario(unittest.TestCase):
         self._opened.mkdir()
         self.program = None
 
-    def start_with(self, *links):
+    def start_with(self, *links, arguments=()):
         """Starts the program with these links."""
         self.config.write_bytes(document(len(links), *links))
-        self.start()
+        self.start(*arguments)
 
     def start(self, *arguments, **environment):
-        """Starts the program and waits for its window."""
+        """Starts the program and waits for its window and for its word that the start is complete."""
         self.program = Program([PROGRAM, "--data-dir", str(self.data), *arguments], self.folder / "log",
                                PATH=f"{HERE / 'bin'}:{os.environ['PATH']}", OPENED=str(self._opened), **environment)
         self.addCleanup(self.program.close)
         self.application = Application(self.program)
         self.window = self.application.main_window(TITLE)
+        self.wait_for_log("notification 258 sent")
+
+    def wait_for_log(self, line, count=1):
+        """Waits until the program has said something this many times."""
+        wait_for(lambda: self.program.output().count(line) >= count, f"\"{line}\" in the log")
 
     def links_in_menu(self):
         """Opens the Quick Links menu, reads its entries from the screen and closes it again."""
@@ -63,6 +68,13 @@ class Scenario(unittest.TestCase):
         names = menu.names("menu item")
         self.close_menu(menu)
         return names
+
+    def link_buttons(self):
+        """The buttons of the quick links in the window."""
+        return self.window.find("filler", "Quick Links").all("push button")
+
+    def names_on_buttons(self):
+        return [button.name for button in self.link_buttons()]
 
     def open_menu(self, title):
         menu = self.window.find("menu bar").find("menu item", title)
@@ -78,13 +90,14 @@ class Scenario(unittest.TestCase):
 
     def calls(self):
         """The arguments of every call of xdg-open so far, in order."""
-        records = sorted(self._opened.glob("*.call"))
+        # Process numbers tell the order of the calls better than the times at which the processes got so far.
+        records = sorted(self._opened.glob("*.call"), key=process_number)
         return [record.read_text(encoding="utf-8").split("\0")[:-1] for record in records]
 
     def staying_calls(self, count):
         """Waits for `count` calls of xdg-open that stay: their process numbers."""
         wait_for(lambda: len(self.calls()) == count, f"{count} calls of xdg-open")
-        pids = [int(record.stem.rsplit("-", 1)[1]) for record in self._opened.glob("*.call")]
+        pids = [process_number(record) for record in self._opened.glob("*.call")]
         for pid in pids:
             self.addCleanup(end_by_number, pid)
         return pids
@@ -109,6 +122,11 @@ class Scenario(unittest.TestCase):
         pid, folder, path, *arguments = record.read_text(encoding="utf-8").split("\0")[:-1]
         self.addCleanup(end_by_number, int(pid))
         return int(pid), folder, path, arguments
+
+
+def process_number(record):
+    """Of the call of xdg-open that left a record."""
+    return int(record.stem.rsplit("-", 1)[1])
 
 
 def end_by_number(pid):

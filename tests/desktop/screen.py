@@ -35,6 +35,21 @@ def _click_at(x, y):
     _xdotool("mousemove", x * Widget.scale, y * Widget.scale, "click", 1)
 
 
+def active_window():
+    return _xdotool("getactivewindow")
+
+
+def windows_of_class(name):
+    """The visible windows of this class, among them those that the screen reader does not see."""
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--class", name], capture_output=True, text=True,
+                          check=False).stdout.split()
+
+
+def click_in_window(window, x, y, button=1):
+    """Clicks inside such a window, so many pixels from its corner."""
+    _xdotool("mousemove", "--window", window, x, y, "click", button)
+
+
 def active_window_title():
     answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True,
                             check=False)
@@ -48,7 +63,7 @@ def park_mouse():
 
 def save_active_window(path):
     """The active window with its frame as a file, once it has come to rest."""
-    window = _xdotool("getactivewindow")
+    window = active_window()
     pictures = []
 
     def is_at_rest():

@@ -14,7 +14,7 @@ from waiting import wait_for
 _libc = ctypes.CDLL(None)
 
 
-def _die_with_parent():
+def die_with_parent():
     """Even when the test is killed, nothing that it started stays behind."""
     pr_set_pdeathsig = 1
     _libc.prctl(pr_set_pdeathsig, signal.SIGKILL)
@@ -43,8 +43,9 @@ class Session:
                 lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{screen}x24", "-nolisten", "tcp",
                             "-noreset"])
             # Knows the display, so that the accessibility bus is where Qt 5 looks for it.
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
-                lambda fd: ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={fd}"])
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+            # The computer's own network must not be seen.
+            os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = self._start_bus()
             self._start(["openbox", "--sm-disable"])
             wait_for(self._has_window_manager, "openbox on the display")
         except BaseException:
@@ -68,7 +69,11 @@ class Session:
 
     def _start(self, command, **options):
         self._started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                              stderr=subprocess.DEVNULL, preexec_fn=_die_with_parent, **options))
+                                              stderr=subprocess.DEVNULL, preexec_fn=die_with_parent, **options))
+
+    def _start_bus(self):
+        return self._start_telling(
+            lambda fd: ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={fd}"])
 
     def _start_telling(self, command):
         """Starts `command(fd)`, which writes one line to that descriptor when it is ready; returns the line."""
@@ -105,7 +110,7 @@ class Program:
         self._log = log
         with open(log, "wb") as output:
             self._process = subprocess.Popen(command, env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
-                                             stdout=output, stderr=output, preexec_fn=_die_with_parent)
+                                             stdout=output, stderr=output, preexec_fn=die_with_parent)
 
     @property
     def pid(self):

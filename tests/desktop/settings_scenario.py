@@ -26,5 +26,5 @@ class SettingsScenario(Scenario):
 
     def expect_menu(self, *names):
         """What the window offers while the settings may be open: the buttons, which show what the menu does."""
-        wait_for(lambda: self.window.names("push button") == list(names),
-                 f"buttons {names}; there are {self.window.names('push button')}")
+        wait_for(lambda: self.names_on_buttons() == list(names),
+                 f"buttons {names}; there are {self.names_on_buttons()}")

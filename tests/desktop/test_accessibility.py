@@ -30,12 +30,12 @@ class Accessibility(SettingsScenario):
 
     def test_main_window(self):
         self.assertEqual(self.labels(self.window), {
-            "push button": ["News & weather", "Mail"],
+            "push button": ["Connect", "News & weather", "Mail"],
             "menu item": ["Connection", "Quick Links", "Tools", "View", "Help"]})
         self.assertEqual(self.window.name, TITLE)
 
     def test_descriptions_are_plain_text(self):
-        self.assertEqual([button.description for button in self.window.all("push button")],
+        self.assertEqual([button.description for button in self.link_buttons()],
                          ["Open News & weather", "Open Mail"])
 
     def test_settings_page(self):

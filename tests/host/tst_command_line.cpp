@@ -15,6 +15,8 @@ private Q_SLOTS:
     void readsTheAction_data();
     void readsTheAction();
     void readsValues();
+    void readsTheKindOfConnection_data();
+    void readsTheKindOfConnection();
     void refusesInOneLine_data();
     void refusesInOneLine();
     void helpNamesEveryOption_data();
@@ -67,6 +69,25 @@ void CommandLineTest::readsValues()
     QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
 }
 
+void CommandLineTest::readsTheKindOfConnection_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("kind");
+    const QString option = QStringLiteral("--connection");
+    QTest::newRow("none") << QStringList() << int(ConnectionKind::Mobile);
+    QTest::newRow("mobile") << QStringList{option, QStringLiteral("mobile")} << int(ConnectionKind::Mobile);
+    QTest::newRow("any") << QStringList{option, QStringLiteral("any")} << int(ConnectionKind::Any);
+    QTest::newRow("manual") << QStringList{option, QStringLiteral("manual")} << int(ConnectionKind::Manual);
+}
+
+void CommandLineTest::readsTheKindOfConnection()
+{
+    QFETCH(QStringList, arguments);
+    const CommandLine line = parsed(arguments);
+    QTEST(int(line.connection), "kind");
+    QCOMPARE(line.error, QString());
+}
+
 void CommandLineTest::refusesInOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -77,6 +98,7 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::newRow("argument") << QStringList{QStringLiteral("a\nb")} << QStringLiteral("\"a b\"");
     QTest::newRow("no value") << QStringList{QStringLiteral("--language")} << QStringLiteral("--language");
     QTest::newRow("empty value") << QStringList{QStringLiteral("--data-dir=")} << QStringLiteral("--data-dir");
+    QTest::newRow("no such kind") << QStringList{QStringLiteral("--connection=Any")} << QStringLiteral("\"Any\"");
     QTest::newRow("value too much") << QStringList{QStringLiteral("--list-links=1")} << QStringLiteral("--list-links");
     QTest::newRow("error beside help") << QStringList{QStringLiteral("--help"), QStringLiteral("--sing")}
                                        << QStringLiteral("sing");
@@ -95,7 +117,8 @@ void CommandLineTest::refusesInOneLine()
 void CommandLineTest::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
-    for (const char* option : {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--list-links"})
+    for (const char* option :
+         {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--list-links"})
         QTest::newRow(option) << QString::fromLatin1(option);
 }
 

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "LanguageMenu.h"
+
+#include <QActionGroup>
+#include <QEvent>
+#include <QLocale>
+
+/** As its speakers call it, with a capital as befits a menu. */
+static QString nameOf(const QString& language)
+{
+    if (language == QLatin1String("en"))
+        return QStringLiteral("English"); // The toolkit knows only American and British English.
+    const QLocale locale(language);
+    QString name = locale.nativeLanguageName();
+    return name.replace(0, 1, locale.toUpper(name.left(1)));
+}
+
+LanguageMenu::LanguageMenu(const QStringList& languages, const QString& current)
+    : m_group(new QActionGroup(this))
+{
+    m_system = add(QString(), current);
+    addSeparator();
+    for (const QString& language : languages)
+        add(language, current)->setText(nameOf(language));
+    setTexts();
+    connect(m_group, &QActionGroup::triggered, this,
+            [this](const QAction* action) { Q_EMIT languageChosen(action->data().toString()); });
+}
+
+void LanguageMenu::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+    QMenu::changeEvent(event);
+}
+
+QAction* LanguageMenu::add(const QString& language, const QString& current)
+{
+    QAction* const action = addAction(QString());
+    action->setData(language);
+    action->setCheckable(true);
+    action->setChecked(language == current);
+    m_group->addAction(action);
+    return action;
+}
+
+void LanguageMenu::setTexts()
+{
+    setTitle(tr("&Language"));
+    m_system->setText(tr("&System Language"));
+}

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The menus of the window, and the texts that follow the language.
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include "LinkButtons.h"
+#include "MainWindow.h"
+
+void MainWindow::buildMenus(QMenu* languageMenu)
+{
+    m_connectionMenu = menuBar()->addMenu(QString());
+    m_quit = m_connectionMenu->addAction(QString(), this, &MainWindow::quitRequested);
+    m_quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+
+    m_linkMenu = menuBar()->addMenu(QString());
+    m_noLinks = new QAction(this);
+    m_noLinks->setEnabled(false);
+
+    m_toolsMenu = menuBar()->addMenu(QString());
+    m_settings = m_toolsMenu->addAction(QString(), this, &MainWindow::settingsRequested);
+    m_settings->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
+
+    m_viewMenu = menuBar()->addMenu(QString());
+    m_showStatusBar = m_viewMenu->addAction(QString());
+    m_showStatusBar->setCheckable(true);
+    m_showStatusBar->setChecked(true);
+    connect(m_showStatusBar, &QAction::toggled, statusBar(), &QWidget::setVisible);
+    languageMenu->setParent(m_viewMenu, languageMenu->windowFlags());
+    m_viewMenu->addMenu(languageMenu);
+
+    m_helpMenu = menuBar()->addMenu(QString());
+    m_about = m_helpMenu->addAction(QString(), this, &MainWindow::showAbout);
+}
+
+void MainWindow::setTexts()
+{
+    m_connectionMenu->setTitle(tr("&Connection"));
+    m_quit->setText(tr("&Quit"));
+    m_quit->setStatusTip(tr("Close the program"));
+    m_linkMenu->setTitle(tr("&Quick Links"));
+    m_noLinks->setText(tr("No quick links"));
+    m_toolsMenu->setTitle(tr("&Tools"));
+    m_settings->setText(tr("&Settings…"));
+    m_settings->setStatusTip(tr("Add, change and order quick links"));
+    m_viewMenu->setTitle(tr("&View"));
+    m_showStatusBar->setText(tr("&Status Bar"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_about->setText(tr("&About Vellum Connect"));
+    m_linkHeading->setText(tr("Quick Links"));
+    m_linkButtons->setAccessibleName(tr("Quick Links"));
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Vellum Connect"),
+                       tr("<h3>Vellum Connect %1</h3><p>Connection manager with quick links.</p>"
+                          "<p>Free software under the MIT licence.</p>")
+                           .arg(QApplication::applicationVersion()));
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+class PluginContainer;
+
+/**
+ * What every plug-in is told, in load order. Each notification is one line in the log, with what the plug-ins answered.
+ */
+namespace PluginNotifications
+{
+
+/** 258: the program has started and its window is up. */
+void tellStarted(const PluginContainer& container);
+
+/** 1536: a data connection came up or went down; which, a plug-in asks the dial-up service. */
+void tellConnectionChanged(const PluginContainer& container, bool isUp, const QString& reason);
+
+/** ChangeLang and 1024: texts are now shown in language, such as "de" or "zh_CN". */
+void tellLanguageChanged(const PluginContainer& container, const QString& language);
+
+} // namespace PluginNotifications

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/** The user's choices in the program itself, kept in vellumconnect.ini in the user's folder. */
+namespace UserSettings
+{
+
+/** The chosen language, such as "de"; empty for the system's. */
+QString language();
+
+/** Keeps language for the next start. Failure is written to the warning channel. */
+void setLanguage(const QString& language);
+
+} // namespace UserSettings

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/** What is known of the data connection at one moment. */
+struct ConnectionState {
+    /** How far the network lets us go. */
+    enum class Reach {
+        Unknown, ///< nobody has looked yet
+        Limited, ///< not into the Internet
+        Portal,  ///< a page of the network wants a login first
+        Full,    ///< into the Internet
+    };
+
+    bool isUp = false;
+    bool isComingUp = false; ///< only while it is not up
+    Reach reach = Reach::Unknown;
+    QString id;           ///< the same each time this connection comes up; empty while down
+    QString name;         ///< as the user knows it; empty where nobody named it
+    QString device;       ///< such as "wwan0"; empty when unknown
+    QString operatorName; ///< of the mobile network; empty when unknown
+};

@@ -1,0 +1,129 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""NetworkManager, ModemManager and logind as the program meets them on the system bus, played by dbusmock."""
+
+import os
+import subprocess
+import sys
+
+import dbus
+
+from session import die_with_parent, end
+from waiting import wait_for
+
+MOCK = "org.freedesktop.DBus.Mock"
+MANAGER = "/org/freedesktop/NetworkManager"
+SETTINGS = "/org/freedesktop/NetworkManager/Settings"
+MODEM = "/org/freedesktop/ModemManager1/Modem/0"
+
+
+class _Service:
+    """A played service on the system bus of this environment, there when the constructor returns."""
+
+    def __init__(self, name, *arguments):
+        self.name = name
+        self._process = subprocess.Popen([sys.executable, "-m", "dbusmock", *arguments], stdin=subprocess.DEVNULL,
+                                         stdout=subprocess.DEVNULL, preexec_fn=die_with_parent)
+        self._bus = dbus.bus.BusConnection(os.environ["DBUS_SYSTEM_BUS_ADDRESS"])
+        wait_for(lambda: self._bus.name_has_owner(name), f"{name} on the bus")
+
+    def at(self, path, interface=MOCK):
+        return dbus.Interface(self._bus.get_object(self.name, path), interface)
+
+    def kill(self):
+        """Ends it in the midst of whatever it does."""
+        self._process.kill()
+        self._process.wait()
+        wait_for(lambda: not self._bus.name_has_owner(self.name), f"the end of {self.name}")
+
+    def close(self):
+        end(self._process)
+        self._bus.close()
+
+
+class NetworkManager(_Service):
+    """NetworkManager with one modem, "wwan0", and one cable, "eth0", which are not connected."""
+
+    FULL, LIMITED, PORTAL = 4, 3, 2
+
+    def __init__(self):
+        super().__init__("org.freedesktop.NetworkManager", "--template", "networkmanager")
+        self._manager = self.at(MANAGER)
+        self._devices = {"gsm": self._add_device("modem", "cdc-wdm0", "wwan0", 8, MODEM),
+                         "802-3-ethernet": self._add_device("cable", "eth0", "eth0", 1, "cable")}
+        self._connections = {}  # stored ones: (name, kind) -> path
+        self._number = 0
+
+    def _add_device(self, name, interface, ip_interface, kind, udi):
+        # The mock itself knows no modems.
+        path = f"/org/freedesktop/NetworkManager/Devices/{name}"
+        disconnected = dbus.UInt32(30)
+        self._manager.AddObject(path, "org.freedesktop.NetworkManager.Device", {
+            "DeviceType": dbus.UInt32(kind), "Udi": udi, "Interface": interface, "IpInterface": ip_interface,
+            "State": disconnected, "StateReason": dbus.Struct((disconnected, dbus.UInt32(0))), "Managed": True,
+            "ActiveConnection": dbus.ObjectPath("/"), "AvailableConnections": dbus.Array([], signature="o"),
+        }, dbus.Array([], signature="(ssss)"))
+        devices = self.at(MANAGER, dbus.PROPERTIES_IFACE).Get(self.name, "Devices")
+        self._manager.SetProperty(MANAGER, self.name, "Devices", dbus.Array([*devices, path], signature="o"))
+        self._manager.EmitSignal(self.name, "DeviceAdded", "o", [path])
+        return path
+
+    def activate(self, name, kind="gsm"):
+        """Brings a connection up at once; returns its path, for the other calls."""
+        return self._activate(name, kind, 2)
+
+    def start_to_activate(self, name, kind="gsm"):
+        """Begins to bring a connection up; `set_state` goes on."""
+        return self._activate(name, kind, 1)
+
+    def _activate(self, name, kind, state):
+        self._number += 1
+        stored = self._connections.get((name, kind)) or self._store(name, kind)
+        return self._manager.AddActiveConnection([self._devices[kind]], stored, "/", str(self._number),
+                                                 dbus.UInt32(state))
+
+    def _store(self, name, kind):
+        settings = {"connection": {"id": name, "type": kind, "uuid": f"00000000-{name}-{kind}"}, kind: {}}
+        path = self.at(SETTINGS, "org.freedesktop.NetworkManager.Settings").AddConnection(
+            dbus.Dictionary({section: dbus.Dictionary(values, signature="sv") for section, values in settings.items()},
+                            signature="sa{sv}"))
+        self._connections[name, kind] = path
+        return path
+
+    def set_state(self, connection, state):
+        """Goes on to state 1 (activating), 2 (activated), 3 (deactivating) or 4 (deactivated)."""
+        self._manager.SetProperty(connection, "org.freedesktop.NetworkManager.Connection.Active", "State",
+                                  dbus.UInt32(state))
+
+    def take_down(self, connection, kind="gsm"):
+        self._manager.RemoveActiveConnection(self._devices[kind], connection)
+
+    def set_reach(self, connectivity):
+        self._manager.SetConnectivity(dbus.UInt32(connectivity))
+
+
+class ModemManager(_Service):
+    """ModemManager with one modem, registered with an operator."""
+
+    _interface = "org.freedesktop.ModemManager1.Modem.Modem3gpp"
+
+    def __init__(self, operator):
+        super().__init__("org.freedesktop.ModemManager1", "--system", "org.freedesktop.ModemManager1",
+                         "/org/freedesktop/ModemManager1", "org.freedesktop.ModemManager1")
+        self.at("/org/freedesktop/ModemManager1").AddObject(
+            MODEM, self._interface, {"OperatorName": operator}, dbus.Array([], signature="(ssss)"))
+
+    def set_operator(self, operator):
+        self.at(MODEM).UpdateProperties(self._interface, {"OperatorName": operator})
+
+
+class Logind(_Service):
+    """logind, which tells of sleep."""
+
+    def __init__(self):
+        super().__init__("org.freedesktop.login1", "--template", "logind")
+
+    def prepare_for_sleep(self, starts):
+        self.at("/org/freedesktop/login1").EmitSignal("org.freedesktop.login1.Manager", "PrepareForSleep", "b",
+                                                      [starts])

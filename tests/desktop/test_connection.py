@@ -1,0 +1,204 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""Marked links open by themselves, once, when a connection comes up; the window shows the connection."""
+
+from links import APPLICATION, EMAIL, INTERNET, link
+from network import Logind, ModemManager, NetworkManager
+from scenario import Scenario, main
+from waiting import wait_for
+
+ACTIVATED, DEACTIVATED = 2, 4
+
+
+class Connection(Scenario):
+
+    def setUp(self):
+        super().setUp()
+        self.paper = self.folder / "paper.txt"
+        self.paper.write_text("paper\n", encoding="ascii")
+        self.expected = [[str(self.paper)], ["mailto:one@example.org"], ["mailto:two@example.org"],
+                         ["http://last.example.org/"]]
+
+    def play(self, service):
+        self.addCleanup(service.close)
+        return service
+
+    def start_marked(self, *arguments):
+        """Starts the program with links that are marked for a connection, and others."""
+        self.start_with(
+            link(0, "First", INTERNET, "http://first.example.org/", startconnect=1),
+            link(1, "Paper", APPLICATION, str(self.paper), startconnect=1),
+            link(2, "One", EMAIL, "mailto:one@example.org", startconnect=1),
+            link(3, "Not marked", EMAIL, "mailto:none@example.org"),
+            link(4, "Last", INTERNET, "http://last.example.org/", startconnect=1),
+            link(5, "Two", EMAIL, "mailto:two@example.org", startconnect=1),
+            link(6, "Oddly marked", EMAIL, "mailto:odd@example.org", startconnect="true"),
+            arguments=arguments)
+
+    def expect_opened(self, times):
+        """The marked links were opened this many times: all in order, only the last of the Internet links, and last."""
+        wait_for(lambda: len(self.calls()) >= times * len(self.expected), f"the links; so far {self.calls()}")
+        self.assertEqual(self.calls(), times * self.expected)
+
+    def expect_heading(self, text):
+        self.window.find("label", text)
+
+    def test_up_and_down(self):
+        network = self.play(NetworkManager())
+        self.start_marked()
+        self.expect_heading("Not connected")
+        connection = network.activate("Mobile plan")
+        self.expect_opened(1)
+        self.expect_heading("Connected")
+        network.take_down(connection)
+        self.expect_heading("Not connected")
+        self.wait_for_log("notification 1536 sent (connection down: down)")
+        network.activate("Mobile plan")
+        self.expect_opened(2)
+
+    def test_service_starts_late_is_killed_and_restarted(self):
+        self.start_marked()
+        self.expect_heading("Not connected")
+        self.window.find("label", "NetworkManager is not running")
+        self.window.find("push button", "Connect")
+        network = self.play(NetworkManager())
+        wait_for(lambda: not self.window.all("push button", "Connect"), "the end of the button")
+        network.activate("Mobile plan")
+        self.expect_opened(1)
+        network.kill()
+        self.expect_heading("Not connected")
+        self.window.find("label", "NetworkManager is not running")
+        again = self.play(NetworkManager())
+        self.wait_for_log("notification 1536 sent (connection down")
+        again.activate("Mobile plan")
+        self.expect_opened(2)
+
+    def test_flickering_opens_once(self):
+        network = self.play(NetworkManager())
+        self.start_marked()
+        connection = network.start_to_activate("Mobile plan")
+        self.expect_heading("Connecting…")
+        self.assertEqual(self.calls(), [])
+        network.set_state(connection, ACTIVATED)
+        self.expect_opened(1)
+        network.set_state(connection, ACTIVATED)
+        network.set_state(connection, DEACTIVATED)
+        self.expect_heading("Not connected")
+        network.take_down(connection)
+        network.activate("Roaming plan")
+        self.expect_heading("Connected")
+        self.wait_for_log("handed over")
+        self.expect_opened(1)
+
+    def test_sleep_and_resume_open_once(self):
+        logind = self.play(Logind())
+        network = self.play(NetworkManager())
+        self.start_marked()
+        connection = network.activate("Mobile plan")
+        self.expect_opened(1)
+        logind.prepare_for_sleep(True)
+        self.wait_for_log("falling asleep")
+        network.take_down(connection)
+        self.expect_heading("Not connected")
+        logind.prepare_for_sleep(False)
+        self.wait_for_log("woke up")
+        network.activate("Mobile plan")
+        self.wait_for_log("was up before sleep")
+        self.expect_opened(1)
+
+    def test_up_before_the_program(self):
+        network = self.play(NetworkManager())
+        network.activate("Mobile plan")
+        self.start_marked()
+        self.expect_heading("Connected")
+        self.wait_for_log("was up before the program was there")
+        self.window.find("label", "Since: before this program started")
+        self.assertEqual(self.calls(), [])
+
+    def test_other_kinds_do_not_count(self):
+        network = self.play(NetworkManager())
+        self.start_marked()
+        cable = network.activate("Cable", "802-3-ethernet")
+        network.activate("Mobile plan")
+        self.expect_opened(1)
+        network.take_down(cable, "802-3-ethernet")
+        self.expect_heading("Connected")
+        self.window.find("label", "Connection: Mobile plan")
+
+    def test_any_connection_with_a_default_route(self):
+        network = self.play(NetworkManager())
+        self.start_marked("--connection", "any")
+        network.activate("Cable", "802-3-ethernet")
+        self.expect_opened(1)
+        self.window.find("label", "Connection: Cable")
+
+    def test_two_default_routes_open_once(self):
+        network = self.play(NetworkManager())
+        self.start_marked("--connection", "any")
+        cable = network.activate("Cable", "802-3-ethernet")
+        self.expect_opened(1)
+        network.activate("Mobile plan")
+        network.take_down(cable, "802-3-ethernet")
+        self.window.find("label", "Connection: Mobile plan")
+        self.wait_for_log("another connection took over")
+        self.expect_opened(1)
+
+    def test_waits_for_the_internet(self):
+        network = self.play(NetworkManager())
+        network.set_reach(NetworkManager.LIMITED)
+        self.start_marked()
+        network.activate("Mobile plan")
+        self.window.find("label", "The Internet is out of reach.")
+        self.assertEqual(self.calls(), [])
+        network.set_reach(NetworkManager.FULL)
+        self.expect_opened(1)
+        wait_for(lambda: not self.window.all("label", "The Internet is out of reach."), "the end of the hint")
+
+    def test_portal_opens_and_says_so(self):
+        network = self.play(NetworkManager())
+        network.set_reach(NetworkManager.PORTAL)
+        self.start_marked()
+        network.activate("Mobile plan")
+        self.expect_opened(1)
+        self.window.find("label", "This network asks for a login first.")
+        self.wait_for_log("connection up: up, and a portal wants a login")
+
+    def test_manual(self):
+        self.play(NetworkManager()).activate("Mobile plan")
+        self.start_marked("--connection", "manual")
+        self.expect_heading("Not connected")
+        self.window.find("push button", "Connect").click()
+        self.expect_opened(1)
+        self.expect_heading("Connected")
+        self.window.find("push button", "Disconnect").click()
+        self.expect_heading("Not connected")
+        self.assertEqual(self.window.all("label", "NetworkManager is not running"), [])
+
+    def test_window_shows_the_connection(self):
+        modems = self.play(ModemManager("Northern Mobile"))
+        network = self.play(NetworkManager())
+        self.start_marked()
+        connection = network.activate("Mobile plan <b>&")
+        for text in ("Connected", "Connection: Mobile plan <b>&", "Device: wwan0", "Operator: Northern Mobile"):
+            self.window.find("label", text)
+        since = wait_for(lambda: [name for name in self.window.names("label") if name.startswith("Since: ")], "a time")
+        self.assertRegex(since[0], r"^Since: \d\d:\d\d(:\d\d)?$")
+        modems.set_operator("Southern Mobile")
+        self.window.find("label", "Operator: Southern Mobile")
+        network.take_down(connection)
+        self.expect_heading("Not connected")
+        self.assertEqual([name for name in self.window.names("label") if ":" in name], [])
+
+    def test_start_opens_links_once(self):
+        self.start_with(link(0, "A", INTERNET, "http://a.example.org/", startmobile=1),
+                              link(1, "Mail", EMAIL, "mailto:a@example.org", startmobile=1),
+                              link(2, "B", INTERNET, "http://b.example.org/", startmobile=1),
+                              link(3, "Other", EMAIL, "mailto:b@example.org", startconnect=1))
+        self.expected = [["mailto:a@example.org"], ["http://b.example.org/"]]
+        self.expect_opened(1)
+        self.assertEqual(self.program.output().count("notification 258 sent"), 1)
+
+
+if __name__ == "__main__":
+    main()
