@@ -74,11 +74,9 @@ Decision TransitionRules::staysUp(const ConnectionState& state)
 Decision TransitionRules::goDown(qint64 now)
 {
     m_phase = Phase::Gap;
-    m_gap = m_isAsleep || isJustAwake(now) ? Gap::Sleep : Gap::HandOver;
+    m_gap = Gap::Network;
     m_handOverEnds = m_isAsleep ? -1 : now + handOverLimit;
-    m_deadline = m_handOverEnds;
-    if (!m_isAsleep && isJustAwake(now))
-        m_deadline = std::max(m_handOverEnds, m_wokeUp + wakeUpLimit);
+    m_deadline = m_isAsleep ? -1 : std::max(m_handOverEnds, m_wokeUp + wakeUpLimit);
     return {Announcement::None, QStringLiteral("down, waiting whether it comes back")};
 }
 
@@ -88,7 +86,7 @@ Decision TransitionRules::inGap(const ConnectionState& state, qint64 now)
         return m_gap == Gap::ServiceIsBack ? tellDown(QStringLiteral("down since the service is back")) : Decision();
     if (now <= m_handOverEnds)
         return resume(state, QStringLiteral("handed over"));
-    if (state.id == m_id && m_gap == Gap::Sleep)
+    if (state.id == m_id && m_gap == Gap::Network)
         return resume(state, QStringLiteral("was up before sleep"));
     if (state.id == m_id && m_gap == Gap::ServiceIsBack)
         return resume(state, QStringLiteral("outlived a restart of the service"));
@@ -130,7 +128,7 @@ Decision TransitionRules::serviceLost(qint64 now)
     if (m_phase != Phase::Up && m_phase != Phase::Gap)
         return Decision();
     m_phase = Phase::Gap;
-    m_gap = Gap::Service;
+    m_gap = Gap::ServiceLost;
     m_handOverEnds = -1;
     m_deadline = now + handOverLimit;
     return {Announcement::None, QStringLiteral("the service is gone, waiting whether it comes back")};
@@ -138,25 +136,23 @@ Decision TransitionRules::serviceLost(qint64 now)
 
 void TransitionRules::serviceReturned()
 {
-    if (m_phase == Phase::Gap)
-        m_gap = Gap::ServiceIsBack;
+    m_gap = Gap::ServiceIsBack;
 }
 
 void TransitionRules::fallAsleep()
 {
     m_isAsleep = true;
-    if (m_phase != Phase::Gap || m_gap == Gap::Service || m_gap == Gap::ServiceIsBack)
-        return;
-    m_gap = Gap::Sleep;
-    m_handOverEnds = -1;
-    m_deadline = -1;
+    if (m_phase == Phase::Gap && m_gap == Gap::Network) {
+        m_handOverEnds = -1;
+        m_deadline = -1;
+    }
 }
 
 void TransitionRules::wakeUp(qint64 now)
 {
     m_isAsleep = false;
     m_wokeUp = now;
-    if (m_phase == Phase::Gap && m_gap == Gap::Sleep)
+    if (m_phase == Phase::Gap && m_gap == Gap::Network)
         m_deadline = now + wakeUpLimit;
 }
 
@@ -169,9 +165,4 @@ void TransitionRules::withdraw()
 qint64 TransitionRules::deadline() const
 {
     return m_deadline;
-}
-
-bool TransitionRules::isJustAwake(qint64 now) const
-{
-    return m_wokeUp >= 0 && now < m_wokeUp + wakeUpLimit;
 }

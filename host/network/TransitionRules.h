@@ -59,8 +59,8 @@ private:
         Up,
         Gap, ///< down and not told yet
     };
-    /** Why a connection may come back from a gap as the one that it was. */
-    enum class Gap { HandOver, Sleep, Service, ServiceIsBack };
+    /** What made the gap. */
+    enum class Gap { Network, ServiceLost, ServiceIsBack };
 
     Decision firstSight(const ConnectionState& state);
     Decision comeUp(const ConnectionState& state, qint64 now);
@@ -70,13 +70,12 @@ private:
     Decision inGap(const ConnectionState& state, qint64 now);
     Decision resume(const ConnectionState& state, const QString& reason);
     Decision tellDown(const QString& reason);
-    bool isJustAwake(qint64 now) const;
 
     Phase m_phase = Phase::Unseen;
-    Gap m_gap = Gap::HandOver;
+    Gap m_gap = Gap::Network;
     QString m_id; ///< of the connection that is, or last was, up
     bool m_isAsleep = false;
-    qint64 m_wokeUp = -1;
+    qint64 m_wokeUp = -wakeUpLimit;
     qint64 m_handOverEnds = -1; ///< until when a gap may end with any connection
     qint64 m_deadline = -1;
 };
