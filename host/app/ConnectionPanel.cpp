@@ -65,6 +65,13 @@ QString ConnectionPanel::summary() const
     return name.isEmpty() ? heading() : tr("%1: %2", "state and name of the connection").arg(heading(), name);
 }
 
+QString ConnectionPanel::shortcoming() const
+{
+    if (m_kind == ConnectionKind::Manual || !m_monitor.isManual())
+        return QString();
+    return m_monitor.lacksService() ? tr("NetworkManager is not running") : tr("Built without NetworkManager");
+}
+
 void ConnectionPanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)

@@ -24,6 +24,9 @@ public:
     /** The state in one line, such as for a tool tip. */
     QString summary() const;
 
+    /** Why the user is asked although something else was wanted; empty where that is not so. */
+    QString shortcoming() const;
+
 protected:
     /** Follows a change of the language. */
     void changeEvent(QEvent* event) override;

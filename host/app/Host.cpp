@@ -115,7 +115,7 @@ void Host::setLanguage(const QString& language)
 void Host::showConnection()
 {
     m_tray->setState(m_monitor.state().isUp, m_panel->summary());
-    m_window->setStanding(m_monitor.lacksService() ? MainWindow::tr("NetworkManager is not running") : QString());
+    m_window->setStanding(m_panel->shortcoming());
 }
 
 void Host::windowClosed()

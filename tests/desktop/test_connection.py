@@ -1,48 +1,21 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-"""Marked links open by themselves, once, when a connection comes up; the window shows the connection."""
+"""Marked links open by themselves, once, when NetworkManager brings a connection up; the window shows the connection."""
 
-from links import APPLICATION, EMAIL, INTERNET, link
+from connection_scenario import ConnectionScenario
 from network import Logind, ModemManager, NetworkManager
-from scenario import Scenario, main
+from scenario import main
 from waiting import wait_for
 
 ACTIVATED, DEACTIVATED = 2, 4
 
 
-class Connection(Scenario):
-
-    def setUp(self):
-        super().setUp()
-        self.paper = self.folder / "paper.txt"
-        self.paper.write_text("paper\n", encoding="ascii")
-        self.expected = [[str(self.paper)], ["mailto:one@example.org"], ["mailto:two@example.org"],
-                         ["http://last.example.org/"]]
+class Connection(ConnectionScenario):
 
     def play(self, service):
         self.addCleanup(service.close)
         return service
-
-    def start_marked(self, *arguments):
-        """Starts the program with links that are marked for a connection, and others."""
-        self.start_with(
-            link(0, "First", INTERNET, "http://first.example.org/", startconnect=1),
-            link(1, "Paper", APPLICATION, str(self.paper), startconnect=1),
-            link(2, "One", EMAIL, "mailto:one@example.org", startconnect=1),
-            link(3, "Not marked", EMAIL, "mailto:none@example.org"),
-            link(4, "Last", INTERNET, "http://last.example.org/", startconnect=1),
-            link(5, "Two", EMAIL, "mailto:two@example.org", startconnect=1),
-            link(6, "Oddly marked", EMAIL, "mailto:odd@example.org", startconnect="true"),
-            arguments=arguments)
-
-    def expect_opened(self, times):
-        """The marked links were opened this many times: all in order, only the last of the Internet links, and last."""
-        wait_for(lambda: len(self.calls()) >= times * len(self.expected), f"the links; so far {self.calls()}")
-        self.assertEqual(self.calls(), times * self.expected)
-
-    def expect_heading(self, text):
-        self.window.find("label", text)
 
     def test_up_and_down(self):
         network = self.play(NetworkManager())
@@ -133,6 +106,13 @@ class Connection(Scenario):
         self.expect_opened(1)
         self.window.find("label", "Connection: Cable")
 
+    def test_manual_does_not_listen_to_the_service(self):
+        self.play(NetworkManager()).activate("Mobile plan")
+        self.start_marked("--connection", "manual")
+        self.expect_heading("Not connected")
+        self.window.find("push button", "Connect")
+        self.assertEqual(self.calls(), [])
+
     def test_two_default_routes_open_once(self):
         network = self.play(NetworkManager())
         self.start_marked("--connection", "any")
@@ -164,17 +144,6 @@ class Connection(Scenario):
         self.window.find("label", "This network asks for a login first.")
         self.wait_for_log("connection up: up, and a portal wants a login")
 
-    def test_manual(self):
-        self.play(NetworkManager()).activate("Mobile plan")
-        self.start_marked("--connection", "manual")
-        self.expect_heading("Not connected")
-        self.window.find("push button", "Connect").click()
-        self.expect_opened(1)
-        self.expect_heading("Connected")
-        self.window.find("push button", "Disconnect").click()
-        self.expect_heading("Not connected")
-        self.assertEqual(self.window.all("label", "NetworkManager is not running"), [])
-
     def test_window_shows_the_connection(self):
         modems = self.play(ModemManager("Northern Mobile"))
         network = self.play(NetworkManager())
@@ -189,15 +158,6 @@ class Connection(Scenario):
         network.take_down(connection)
         self.expect_heading("Not connected")
         self.assertEqual([name for name in self.window.names("label") if ":" in name], [])
-
-    def test_start_opens_links_once(self):
-        self.start_with(link(0, "A", INTERNET, "http://a.example.org/", startmobile=1),
-                              link(1, "Mail", EMAIL, "mailto:a@example.org", startmobile=1),
-                              link(2, "B", INTERNET, "http://b.example.org/", startmobile=1),
-                              link(3, "Other", EMAIL, "mailto:b@example.org", startconnect=1))
-        self.expected = [["mailto:a@example.org"], ["http://b.example.org/"]]
-        self.expect_opened(1)
-        self.assertEqual(self.program.output().count("notification 258 sent"), 1)
 
 
 if __name__ == "__main__":

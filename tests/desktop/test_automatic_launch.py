@@ -1,0 +1,46 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""Marked links open by themselves when the user says that the connection is up, and when the program starts."""
+
+from connection_scenario import ConnectionScenario
+from links import EMAIL, INTERNET, link
+from scenario import main
+from waiting import wait_for
+
+# Why the user is asked, with a NetworkManager library and without.
+SHORTCOMINGS = ("NetworkManager is not running", "Built without NetworkManager")
+
+
+class AutomaticLaunch(ConnectionScenario):
+
+    def test_manual(self):
+        self.start_marked("--connection", "manual")
+        self.expect_heading("Not connected")
+        self.window.find("push button", "Connect").click()
+        self.expect_opened(1)
+        self.expect_heading("Connected")
+        self.window.find("push button", "Disconnect").click()
+        self.expect_heading("Not connected")
+        for text in SHORTCOMINGS:
+            self.assertEqual(self.window.all("label", text), [])
+
+    def test_manual_by_itself(self):
+        """There is no NetworkManager on the bus."""
+        self.start_marked()
+        wait_for(lambda: any(self.window.all("label", text) for text in SHORTCOMINGS), "a line in the status bar")
+        self.window.find("push button", "Connect").click()
+        self.expect_opened(1)
+
+    def test_start_opens_links_once(self):
+        self.start_with(link(0, "A", INTERNET, "http://a.example.org/", startmobile=1),
+                        link(1, "Mail", EMAIL, "mailto:a@example.org", startmobile=1),
+                        link(2, "B", INTERNET, "http://b.example.org/", startmobile=1),
+                        link(3, "Other", EMAIL, "mailto:b@example.org", startconnect=1))
+        self.expected = [["mailto:a@example.org"], ["http://b.example.org/"]]
+        self.expect_opened(1)
+        self.assertEqual(self.program.output().count("notification 258 sent"), 1)
+
+
+if __name__ == "__main__":
+    main()
