@@ -126,6 +126,8 @@ void QuickLinkSettingNewEditDlg::setKeyboardOrder()
         previous = next;
     }
     m_appNameEdit->setFocus();
+    // Return in a field must not press "Browse...", which comes first.
+    m_okBtn->setDefault(true);
 }
 
 void QuickLinkSettingNewEditDlg::setDisplayLayout()

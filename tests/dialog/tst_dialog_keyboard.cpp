@@ -16,6 +16,9 @@ class DialogKeyboard : public QObject
 private Q_SLOTS:
     void startsInTheName();
     void tabOrder();
+    void returnInAField_data();
+    void returnInAField();
+    void returnWhileOkIsDisabled();
 };
 
 void DialogKeyboard::startsInTheName()
@@ -44,6 +47,40 @@ void DialogKeyboard::tabOrder()
         widget = widget->nextInFocusChain();
     } while (widget != first);
     QCOMPARE(walked, order);
+}
+
+void DialogKeyboard::returnInAField_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("field");
+    QTest::newRow("application name") << 0 << QString::fromLatin1("m_appNameEdit");
+    QTest::newRow("application path") << 0 << QString::fromLatin1("m_appPathEdit");
+    QTest::newRow("application parameters") << 0 << QString::fromLatin1("m_appParamEdit");
+    QTest::newRow("e-mail name") << 1 << QString::fromLatin1("m_appNameEdit");
+    QTest::newRow("address") << 2 << QString::fromLatin1("m_EditUrlName");
+}
+
+void DialogKeyboard::returnInAField()
+{
+    QFETCH(int, type);
+    QFETCH(QString, field);
+    const TraceRecorder quiet;
+    OpenDialog dialog;
+    dialog.fill(type, "Name", type == 0 ? "/" : "http://example.org/");
+    QTest::keyClick(qobject_cast<QWidget*>(memberOf(dialog.get(), field).object), Qt::Key_Return);
+    QCOMPARE(dialog.added.size(), 1);
+    QVERIFY(!dialog.isOpen());
+}
+
+void DialogKeyboard::returnWhileOkIsDisabled()
+{
+    const TraceRecorder quiet;
+    const OpenDialog dialog;
+    QVERIFY(!dialog.isOkEnabled());
+    QTest::keyClick(qobject_cast<QWidget*>(memberOf(dialog.get(), QLatin1String("m_appNameEdit")).object),
+                    Qt::Key_Return);
+    QVERIFY(dialog.isOpen());
+    QVERIFY(dialog.added.isEmpty());
 }
 
 QTEST_MAIN(DialogKeyboard)
