@@ -8,6 +8,7 @@
 Q_LOGGING_CATEGORY(connectionLog, "vellum.connection")
 
 ConnectionMonitor::ConnectionMonitor()
+    : m_deadline(this)
 {
     m_clock.start();
     m_deadline.setSingleShot(true);
@@ -52,22 +53,21 @@ bool ConnectionMonitor::lacksService() const
 
 void ConnectionMonitor::setManuallyUp(bool isUp)
 {
-    if (isManual())
-        m_manual.setUp(isUp);
+    m_manual.setUp(isUp);
 }
 
 void ConnectionMonitor::fallAsleep()
 {
     qCInfo(connectionLog, "falling asleep");
     m_rules.fallAsleep();
-    look();
+    arm();
 }
 
 void ConnectionMonitor::wakeUp()
 {
     qCInfo(connectionLog, "woke up");
     m_rules.wakeUp(now());
-    look();
+    arm();
 }
 
 const ConnectionSource& ConnectionMonitor::source() const
@@ -104,10 +104,7 @@ void ConnectionMonitor::follow(const TransitionRules::Decision& decision)
 {
     if (!decision.reason.isEmpty())
         qCInfo(connectionLog, "%s", qUtf8Printable(decision.reason));
-    m_deadline.stop();
-    if (m_rules.deadline() >= 0)
-        m_deadline.start(int(std::max<qint64>(0, m_rules.deadline() - now())));
-
+    arm();
     const bool isUp = decision.announcement == TransitionRules::Announcement::Up;
     if (isUp && !source().isStillUp()) {
         qCInfo(connectionLog, "was down again when asked, not told");
@@ -115,6 +112,13 @@ void ConnectionMonitor::follow(const TransitionRules::Decision& decision)
     } else if (decision.announcement != TransitionRules::Announcement::None) {
         Q_EMIT announced(isUp, decision.reason);
     }
+}
+
+void ConnectionMonitor::arm()
+{
+    m_deadline.stop();
+    if (m_rules.deadline() >= 0)
+        m_deadline.start(int(std::max<qint64>(0, m_rules.deadline() - now())));
 }
 
 qint64 ConnectionMonitor::now() const

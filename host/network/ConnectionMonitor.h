@@ -68,6 +68,7 @@ private:
     void look();
     void switchSource();
     void follow(const TransitionRules::Decision& decision);
+    void arm();
     qint64 now() const;
 
     std::unique_ptr<ConnectionSource> m_service;

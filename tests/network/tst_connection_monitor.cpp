@@ -55,6 +55,7 @@ private Q_SLOTS:
     void usersWordEndsWhenTheServiceComes();
     void serviceLostAndReturned();
     void sleepIsPassedOn();
+    void waitsAMinuteAfterSleep();
 
 private:
     void start();
@@ -223,6 +224,20 @@ void TestConnectionMonitor::sleepIsPassedOn()
     m_source->become(QStringLiteral("a"));
     // Another connection than before sleep is told; that "a" took over from it is not.
     QCOMPARE(m_told, QStringList(QStringLiteral("UP up and in the Internet")));
+}
+
+void TestConnectionMonitor::waitsAMinuteAfterSleep()
+{
+    start();
+    const QTimer* const deadline = m_monitor->findChild<QTimer*>();
+    m_source->become(QStringLiteral("a"));
+    m_source->become(QString());
+    QVERIFY(deadline->isActive());
+    m_monitor->fallAsleep();
+    QVERIFY(!deadline->isActive());
+    m_monitor->wakeUp();
+    QVERIFY(deadline->isActive());
+    QVERIFY(deadline->interval() > 50000);
 }
 
 QTEST_GUILESS_MAIN(TestConnectionMonitor)
