@@ -10,13 +10,11 @@
 
 namespace
 {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 /** The options, which the parser and the help text share. */
 struct Options {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
     Options()
         : help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and exit."))
         , version({QStringLiteral("v"), QStringLiteral("version")}, tr("Show the version and exit."))

@@ -18,10 +18,11 @@ namespace
 {
 using Row = std::array<QString, 3>;
 
-QString tr(const char* text)
+/** The context of the table's texts. */
+class LinkTable
 {
-    return QCoreApplication::translate("LinkTable", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(LinkTable)
+};
 
 void addLinks(QVector<Row>& rows, QObject* plugin)
 {
@@ -38,11 +39,11 @@ void addLinks(QVector<Row>& rows, QObject* plugin)
 
 QString linkTable(const QList<QObject*>& plugins)
 {
-    QVector<Row> rows{Row{QStringLiteral("#"), tr("Name"), tr("Plug-in")}};
+    QVector<Row> rows{Row{QStringLiteral("#"), LinkTable::tr("Name"), LinkTable::tr("Plug-in")}};
     for (QObject* plugin : plugins)
         addLinks(rows, plugin);
     if (rows.size() == 1)
-        return tr("No quick links") + QLatin1Char('\n');
+        return LinkTable::tr("No quick links") + QLatin1Char('\n');
 
     std::array<int, 2> widths{};
     for (const Row& row : qAsConst(rows)) {
