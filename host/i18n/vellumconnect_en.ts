@@ -2,6 +2,293 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QuickLinkUIPlugin</name>
     <message>
         <source>IDS_SETTING_NAME</source>
@@ -15,22 +302,22 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_ORDER</source>
-        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels).</extracomment>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
         <translation>Links open in this order:</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NAME</source>
-        <extracomment>Header of the table's first column. Up to about 12 characters (100 pixels).</extracomment>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
         <translation>Name</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_TYPE</source>
-        <extracomment>Header of the table's second column. Up to about 12 characters (100 pixels).</extracomment>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
         <translation>Type</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_UP</source>
-        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page's other buttons.</extracomment>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
         <translation>&amp;Up</translation>
     </message>
     <message>
@@ -55,27 +342,27 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TITLE</source>
-        <extracomment>Title of the dialog for a new link. Up to about 30 characters.</extracomment>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
         <translation>New Quick Link</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_EDIT_TITLE</source>
-        <extracomment>Title of the dialog that changes a link. Up to about 30 characters.</extracomment>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
         <translation>Edit Quick Link</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_NAME</source>
-        <extracomment>Label of the dialog's name field. 51 pixels: about 6 characters.</extracomment>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
         <translation>Name:</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TYPE</source>
-        <extracomment>Label of the dialog's choice of type. 70 pixels: about 9 characters.</extracomment>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
         <translation>Type:</translation>
     </message>
     <message>
         <source>IDS_LINK_TYPE_APPLICATION</source>
-        <extracomment>Type of a link that starts a program: in the dialog's choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
         <translation>Application</translation>
     </message>
     <message>
@@ -95,12 +382,12 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 60 pixels: about 8 characters.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
         <translation>Browse…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
-        <extracomment>Label above the field with the program's parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
         <translation>Parameters:</translation>
     </message>
     <message>
@@ -145,12 +432,12 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NAME_SAME</source>
-        <extracomment>Message: the dialog's name is in use. A sentence or two.</extracomment>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
         <translation>Another quick link has this name. Choose a different one.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
-        <extracomment>Message: the dialog's program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
         <translation>This program file does not exist. Choose another one.</translation>
     </message>
     <message>
@@ -167,6 +454,36 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

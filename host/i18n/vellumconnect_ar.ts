@@ -1,0 +1,489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation>عرض هذه المساعدة ثم الخروج.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>عرض الإصدار ثم الخروج.</translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation>حفظ بياناتك في DIR.</translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation>تحميل الملحقات الموجودة في DIR.</translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation>عرض النصوص باللغة LANG، مثل en أو pt_BR.</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation>طباعة الروابط السريعة ثم الخروج. لا يحتاج إلى شاشة.</translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation>مدير اتصالات مزوَّد بروابط سريعة.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>معامل غير متوقع &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation>قيمة فارغة بعد &quot;--%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>متابعة الاتصالات من النوع KIND: إما mobile (النطاق العريض المحمول، وهو المبدئي) أو any (أي اتصال له مسار مبدئي) أو manual (تضغط زرًا).</translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>لا يوجد نوع اتصال كهذا: &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation>تعذر تشغيل أي برنامج لهذا العنوان:</translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation>لم يُفتح العنوان</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>ات&amp;صال</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>الاتصال:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>الجهاز:</translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation>المشغّل:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>منذ:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>جارٍ الاتصال…</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation>تطلب هذه الشبكة تسجيل الدخول أولًا.</translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation>لا يمكن الوصول إلى الإنترنت.</translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation>اضغط &quot;اتصال&quot; عندما يعمل اتصالك.</translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation>في انتظار النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation>في انتظار اتصال.</translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation>قبل بدء هذا البرنامج</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation>لا يعمل NetworkManager</translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation>بُني دون NetworkManager</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation>لا يوجد ملف أو مجلد كهذا:</translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation>لم يُعثر على برنامج يفتح هذا:</translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation>أبلغ البرنامج الذي يفتح هذا عن خطأ:</translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation>تعذر على سطح المكتب فتح هذا:</translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation>يتطلب فتح هذا البرنامج &quot;xdg-open&quot; الذي تعذر تشغيله:</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>ال&amp;لغة</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>لغة ال&amp;نظام</translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation>لا توجد روابط سريعة بعد. أضفها من الأدوات &gt; الإعدادات.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation>لا يوجد ملف أو مجلد كهذا، أو لا يُسمح لك برؤيته:</translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation>لا يُسمح لك بفتح هذا:</translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>تعذر تشغيل هذا البرنامج:</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>لم يُفتح</translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>الملحق</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>لا توجد روابط سريعة</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>لم يُحمَّل: %1</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>لا توجد روابط سريعة</translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation>الا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>إ&amp;نهاء</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>إغلاق البرنامج</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation>ال&amp;روابط السريعة</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>الأ&amp;دوات</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>الإ&amp;عدادات…</translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation>إضافة الروابط السريعة وتغييرها وترتيبها</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>ال&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>شريط ال&amp;حالة</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ال&amp;مساعدة</translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation>&amp;حول Vellum Connect</translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation>حول Vellum Connect</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;مدير اتصالات مزوَّد بروابط سريعة.&lt;/p&gt;&lt;p&gt;برمجية حرة برخصة MIT.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation>فتح %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickLinkUIPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
+        <translation>الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TAB</source>
+        <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
+        <translation>الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_ORDER</source>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
+        <translation>ترتيب فتح الروابط:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME</source>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TYPE</source>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_UP</source>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
+        <translation>أ&amp;على</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DOWN</source>
+        <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
+        <translation>أ&amp;سفل</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW</source>
+        <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;جديد…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT</source>
+        <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;تحرير…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DEL</source>
+        <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;حذف</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TITLE</source>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
+        <translation>رابط سريع جديد</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT_TITLE</source>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
+        <translation>تحرير الرابط السريع</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_NAME</source>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
+        <translation>الاسم:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TYPE</source>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
+        <translation>النوع:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_APPLICATION</source>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <translation>تطبيق</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_E-MAIL</source>
+        <extracomment>Type of a link that opens the mail program. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>بريد إلكتروني</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_INTERNET</source>
+        <extracomment>Type of a link that opens an Internet address. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>إنترنت</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
+        <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
+        <translation>ملف البرنامج:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <translation>انتقاء…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>المعاملات:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_IE_URL</source>
+        <extracomment>Label above the field with the Internet address. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>العنوان:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_EMAIL_URL</source>
+        <extracomment>What an e-mail link does; the only text on its panel. Up to about 35 characters (250 pixels), one line.</extracomment>
+        <translation>يفتح برنامج البريد لديك.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
+        <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>الفتح عند بدء البرنامج</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK</source>
+        <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>الفتح عند الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_OK</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CANCEL</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_PROMPT</source>
+        <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
+        <translation>الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_INVALID_URL</source>
+        <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
+        <translation>لا يمكن فتح هذا العنوان. يجب أن يحتوي العنوان على &quot;http://&quot; أو &quot;https://&quot; أو &quot;ftp&quot; أو &quot;www.&quot;.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME_SAME</source>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
+        <translation>يحمل رابط سريع آخر هذا الاسم. اختر اسمًا مختلفًا.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_FILENOTEXIST</source>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <translation>ملف البرنامج هذا غير موجود. اختر ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
+        <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
+        <translation>هل تريد حذف الرابط السريع المحدد؟</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation>لا توجد إعدادات لأي من الملحقات المحمَّلة.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation>يستمر البرنامج هنا. انقر الأيقونة لرؤية نافذته.</translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation>إظهار النافذة</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation>Muestra esta ayuda y sale.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Muestra la versión y sale.</translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation>Guarda sus datos en DIR.</translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation>Carga los complementos de DIR.</translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation>Muestra los textos en el idioma LANG, por ejemplo en o pt_BR.</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation>Imprime los enlaces rápidos y sale. No necesita pantalla.</translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation>Gestor de conexiones con enlaces rápidos.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Argumento inesperado «%1».</translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation>Valor vacío después de «--%1».</translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Sigue las conexiones de tipo KIND: mobile (banda ancha móvil, lo predeterminado), any (cualquiera con una ruta predeterminada) o manual (usted pulsa un botón).</translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>No existe este tipo de conexión: «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation>No se pudo iniciar ningún programa para esta dirección:</translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation>Dirección no abierta</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Conexión:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation>Operador:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>No conectado</translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation>Esta red pide antes iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation>No se puede acceder a Internet.</translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation>Pulse «Conectar» cuando su conexión esté activa.</translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation>Esperando la banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation>Esperando una conexión.</translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation>antes de iniciarse este programa</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation>NetworkManager no está en ejecución</translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation>Compilado sin NetworkManager</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation>No existe este archivo o carpeta:</translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation>No se encontró ningún programa que abra esto:</translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation>El programa que abre esto informó de un error:</translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation>El escritorio no pudo abrir esto:</translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation>Para abrir esto se necesita el programa «xdg-open», que no se pudo iniciar:</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>Idioma del &amp;sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation>Aún no hay enlaces rápidos. Añádalos con Herramientas &gt; Configuración.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation>No existe este archivo o carpeta, o no tiene permiso para verlo:</translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation>No tiene permiso para abrir esto:</translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>No se pudo iniciar este programa:</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>No abierto</translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Complemento</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>No hay enlaces rápidos</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>No cargado: %1</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>No hay enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation>&amp;Conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>Cerrar el programa</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation>&amp;Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Configuración…</translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation>Añadir, cambiar y ordenar enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>Barra de &amp;estado</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation>&amp;Acerca de Vellum Connect</translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation>Acerca de Vellum Connect</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestor de conexiones con enlaces rápidos.&lt;/p&gt;&lt;p&gt;Software libre con licencia MIT.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickLinkUIPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
+        <translation>Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TAB</source>
+        <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
+        <translation>Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_ORDER</source>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
+        <translation>Orden de apertura:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME</source>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TYPE</source>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_UP</source>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DOWN</source>
+        <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW</source>
+        <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Nuevo…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT</source>
+        <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DEL</source>
+        <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TITLE</source>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
+        <translation>Nuevo enlace</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT_TITLE</source>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
+        <translation>Editar enlace</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_NAME</source>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TYPE</source>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_APPLICATION</source>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <translation>Aplicación</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_E-MAIL</source>
+        <extracomment>Type of a link that opens the mail program. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_INTERNET</source>
+        <extracomment>Type of a link that opens an Internet address. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
+        <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
+        <translation>Archivo del programa:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <translation>Examinar…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Parámetros:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_IE_URL</source>
+        <extracomment>Label above the field with the Internet address. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_EMAIL_URL</source>
+        <extracomment>What an e-mail link does; the only text on its panel. Up to about 35 characters (250 pixels), one line.</extracomment>
+        <translation>Abre su programa de correo.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
+        <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Abrir al iniciar el programa</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK</source>
+        <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Abrir al conectarse</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_OK</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CANCEL</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_PROMPT</source>
+        <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
+        <translation>Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_INVALID_URL</source>
+        <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
+        <translation>No se puede abrir esta dirección. Una dirección debe contener «http://», «https://», «ftp» o «www.».</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME_SAME</source>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
+        <translation>Otro enlace rápido ya tiene este título. Elija uno diferente.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_FILENOTEXIST</source>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <translation>Este archivo de programa no existe. Elija otro.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
+        <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
+        <translation>¿Eliminar el enlace rápido seleccionado?</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation>Ninguno de los complementos cargados tiene configuración.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation>El programa sigue aquí. Haga clic en el icono para ver su ventana.</translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation>Mostrar la ventana</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation>Affiche cette aide et quitte.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Affiche la version et quitte.</translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation>Conserve vos données dans DIR.</translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation>Charge les greffons de DIR.</translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation>Affiche les textes dans la langue LANG, par exemple en ou pt_BR.</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation>Affiche les liens rapides et quitte. Ne nécessite pas d’écran.</translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation>Gestionnaire de connexion avec liens rapides.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Argument inattendu «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation>Valeur vide après «&#xa0;--%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Suit les connexions de type KIND&#xa0;: mobile (haut débit mobile, par défaut), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>Ce type de connexion n’existe pas&#xa0;: «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation>Aucun programme n’a pu être lancé pour cette adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation>Adresse non ouverte</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>Co&amp;nnecter</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Connexion&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Périphérique&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation>Opérateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Depuis&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connexion en cours…</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation>Ce réseau demande d’abord une identification.</translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation>Internet est injoignable.</translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation>Appuyez sur «&#xa0;Connecter&#xa0;» quand votre connexion est établie.</translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation>En attente du haut débit mobile.</translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation>En attente d’une connexion.</translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation>avant le démarrage de ce programme</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation>NetworkManager n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation>Compilé sans NetworkManager</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation>Ce fichier ou dossier n’existe pas&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation>Aucun programme trouvé pour ouvrir ceci&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation>Le programme qui ouvre ceci a signalé un échec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation>Le bureau n’a pas pu ouvrir ceci&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation>L’ouverture nécessite le programme «&#xa0;xdg-open&#xa0;», qui n’a pas pu être lancé&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>Langue du &amp;système</translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation>Aucun lien rapide. Ajoutez-en avec Outils &gt; Paramètres.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation>Ce fichier ou dossier n’existe pas, ou vous n’avez pas le droit de le voir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation>Vous n’avez pas le droit d’ouvrir ceci&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Ce programme n’a pas pu être lancé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>Non ouvert</translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Greffon</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Aucun lien rapide</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Non chargé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Liens rapides</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Aucun lien rapide</translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation>&amp;Connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>Fermer le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation>&amp;Liens rapides</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Paramètres…</translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation>Ajouter, modifier et ordonner les liens rapides</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>Barre d’é&amp;tat</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation>À &amp;propos de Vellum Connect</translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation>À propos de Vellum Connect</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestionnaire de connexion avec liens rapides.&lt;/p&gt;&lt;p&gt;Logiciel libre sous licence MIT.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Ouvrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickLinkUIPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
+        <translation>Liens rapides</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TAB</source>
+        <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
+        <translation>Liens rapides</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_ORDER</source>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
+        <translation>Ordre d’ouverture des liens&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME</source>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TYPE</source>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_UP</source>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DOWN</source>
+        <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW</source>
+        <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Nouveau…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT</source>
+        <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>Modi&amp;fier…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DEL</source>
+        <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TITLE</source>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
+        <translation>Nouveau lien</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT_TITLE</source>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
+        <translation>Modifier le lien</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_NAME</source>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TYPE</source>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
+        <translation>Type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_APPLICATION</source>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <translation>Application</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_E-MAIL</source>
+        <extracomment>Type of a link that opens the mail program. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_INTERNET</source>
+        <extracomment>Type of a link that opens an Internet address. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
+        <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
+        <translation>Fichier du programme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <translation>Parcourir…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Paramètres&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_IE_URL</source>
+        <extracomment>Label above the field with the Internet address. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_EMAIL_URL</source>
+        <extracomment>What an e-mail link does; the only text on its panel. Up to about 35 characters (250 pixels), one line.</extracomment>
+        <translation>Ouvre votre logiciel de messagerie.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
+        <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Ouvrir au démarrage du programme</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK</source>
+        <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Ouvrir à la connexion</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_OK</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CANCEL</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_PROMPT</source>
+        <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
+        <translation>Liens rapides</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_INVALID_URL</source>
+        <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
+        <translation>Impossible d’ouvrir cette adresse. Une adresse doit contenir «&#xa0;http://&#xa0;», «&#xa0;https://&#xa0;», «&#xa0;ftp&#xa0;» ou «&#xa0;www.&#xa0;».</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME_SAME</source>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
+        <translation>Un autre lien rapide porte déjà ce nom. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_FILENOTEXIST</source>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <translation>Ce fichier de programme n’existe pas. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
+        <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
+        <translation>Supprimer le lien rapide sélectionné&#xa0;?</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation>Aucun des greffons chargés n’a de paramètres.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation>Le programme continue ici. Cliquez sur l’icône pour voir sa fenêtre.</translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation>Afficher la fenêtre</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation>Wyświetla tę pomoc i kończy.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Wyświetla wersję i kończy.</translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation>Przechowuje dane użytkownika w DIR.</translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation>Wczytuje wtyczki z DIR.</translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation>Wyświetla teksty w języku LANG, np. en lub pt_BR.</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation>Wypisuje szybkie łącza i kończy. Nie wymaga ekranu.</translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation>Menedżer połączeń z szybkimi łączami.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Nieoczekiwany argument „%1”.</translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation>Pusta wartość po „--%1”.</translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Śledzi połączenia rodzaju KIND: mobile (komórkowe szerokopasmowe, domyślnie), any (każde z trasą domyślną) lub manual (naciskasz przycisk).</translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>Nie ma takiego rodzaju połączenia: „%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation>Nie udało się uruchomić programu dla tego adresu:</translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation>Nie otwarto adresu</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Rozłącz</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>P&amp;ołącz</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Połączenie:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Urządzenie:</translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation>Operator:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Od:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Łączenie…</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nie połączono</translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation>Ta sieć wymaga najpierw zalogowania.</translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation>Internet jest nieosiągalny.</translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation>Naciśnij „Połącz”, gdy połączenie będzie aktywne.</translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation>Oczekiwanie na szerokopasmowe połączenie komórkowe.</translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation>Oczekiwanie na połączenie.</translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation>przed uruchomieniem tego programu</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation>NetworkManager nie działa</translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation>Zbudowano bez NetworkManagera</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation>Nie ma takiego pliku ani folderu:</translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation>Nie znaleziono programu, który to otwiera:</translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation>Program, który to otwiera, zgłosił błąd:</translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation>Środowisko graficzne nie mogło tego otworzyć:</translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation>Do otwarcia potrzebny jest program „xdg-open”, którego nie udało się uruchomić:</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Język</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>Język &amp;systemu</translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation>Nie ma jeszcze szybkich łączy. Dodaj je przez Narzędzia &gt; Ustawienia.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation>Nie ma takiego pliku ani folderu albo nie masz prawa go zobaczyć:</translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation>Nie masz prawa tego otworzyć:</translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Nie udało się uruchomić tego programu:</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>Nie otwarto</translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Wtyczka</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Brak szybkich łączy</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Nie wczytano: %1</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Szybkie łącza</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Brak szybkich łączy</translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation>&amp;Połączenie</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>Zamknij program</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation>&amp;Szybkie łącza</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Narzędzia</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Ustawienia…</translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation>Dodawanie, zmiana i porządkowanie szybkich łączy</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Widok</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>Pasek &amp;stanu</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Pomo&amp;c</translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation>&amp;O programie Vellum Connect</translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation>O programie Vellum Connect</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Menedżer połączeń z szybkimi łączami.&lt;/p&gt;&lt;p&gt;Wolne oprogramowanie na licencji MIT.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Otwórz %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickLinkUIPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
+        <translation>Szybkie łącza</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TAB</source>
+        <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
+        <translation>Szybkie łącza</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_ORDER</source>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
+        <translation>Kolejność otwierania:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME</source>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TYPE</source>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_UP</source>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
+        <translation>W &amp;górę</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DOWN</source>
+        <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
+        <translation>W &amp;dół</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW</source>
+        <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Nowe…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT</source>
+        <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;Edytuj…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DEL</source>
+        <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TITLE</source>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
+        <translation>Nowe łącze</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT_TITLE</source>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
+        <translation>Edycja łącza</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_NAME</source>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
+        <translation>Nazwa:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TYPE</source>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_APPLICATION</source>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <translation>Aplikacja</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_E-MAIL</source>
+        <extracomment>Type of a link that opens the mail program. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_INTERNET</source>
+        <extracomment>Type of a link that opens an Internet address. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
+        <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
+        <translation>Plik programu:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <translation>Wskaż…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Parametry:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_IE_URL</source>
+        <extracomment>Label above the field with the Internet address. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Adres:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_EMAIL_URL</source>
+        <extracomment>What an e-mail link does; the only text on its panel. Up to about 35 characters (250 pixels), one line.</extracomment>
+        <translation>Otwiera program pocztowy.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
+        <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Otwórz przy starcie programu</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK</source>
+        <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Otwórz po połączeniu</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_OK</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CANCEL</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_PROMPT</source>
+        <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
+        <translation>Szybkie łącza</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_INVALID_URL</source>
+        <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
+        <translation>Nie można otworzyć tego adresu. Adres musi zawierać „http://”, „https://”, „ftp” lub „www.”.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME_SAME</source>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
+        <translation>Inne szybkie łącze ma już tę nazwę. Wybierz inną.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_FILENOTEXIST</source>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <translation>Ten plik programu nie istnieje. Wybierz inny.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
+        <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
+        <translation>Usunąć zaznaczone szybkie łącze?</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation>Żadna z wczytanych wtyczek nie ma ustawień.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Strony</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation>Program działa dalej tutaj. Kliknij ikonę, aby zobaczyć okno.</translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation>Pokaż okno</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Zakończ</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and exit.</source>
+        <translation>Mostra esta ajuda e sai.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Mostra a versão e sai.</translation>
+    </message>
+    <message>
+        <source>Keep your own data in DIR.</source>
+        <translation>Guarda os seus dados em DIR.</translation>
+    </message>
+    <message>
+        <source>Load the plug-ins of DIR.</source>
+        <translation>Carrega os plug-ins de DIR.</translation>
+    </message>
+    <message>
+        <source>Show texts in the language LANG, such as en or pt_BR.</source>
+        <translation>Mostra os textos na língua LANG, por exemplo en ou pt_BR.</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no display.</source>
+        <translation>Imprime os atalhos e sai. Não precisa de monitor.</translation>
+    </message>
+    <message>
+        <source>Connection manager with quick links.</source>
+        <translation>Gestor de conexões com atalhos.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>Argumento inesperado &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Empty value after &quot;--%1&quot;.</source>
+        <translation>Valor vazio depois de &quot;--%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Segue as conexões do tipo KIND: mobile (banda larga móvel, o padrão), any (qualquer uma com rota padrão) ou manual (por um botão).</translation>
+    </message>
+    <message>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>Não existe este tipo de conexão: &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonUtils</name>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
+        <translation>Só são abertos endereços de Internet (http, https e ftp). Este não é um deles:</translation>
+    </message>
+    <message>
+        <source>No program could be started for this address:</source>
+        <translation>Não foi possível iniciar um programa para este endereço:</translation>
+    </message>
+    <message>
+        <source>Address not opened</source>
+        <translation>Endereço não aberto</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPanel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Conexão:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Operator:</source>
+        <translation>Operadora:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conexão em curso…</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Não conectado</translation>
+    </message>
+    <message>
+        <source>This network asks for a login first.</source>
+        <translation>Esta rede pede primeiro um início de sessão.</translation>
+    </message>
+    <message>
+        <source>The Internet is out of reach.</source>
+        <translation>A Internet não está acessível.</translation>
+    </message>
+    <message>
+        <source>Press Connect when your connection is up.</source>
+        <translation>Pressione &quot;Conectar&quot; quando a sua conexão estiver ativa.</translation>
+    </message>
+    <message>
+        <source>Waiting for mobile broadband.</source>
+        <translation>À espera da banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Waiting for a connection.</source>
+        <translation>À espera de uma conexão.</translation>
+    </message>
+    <message>
+        <source>before this program started</source>
+        <translation>antes do início deste programa</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running</source>
+        <translation>O NetworkManager não está em execução</translation>
+    </message>
+    <message>
+        <source>Built without NetworkManager</source>
+        <translation>Compilado sem NetworkManager</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopOpener</name>
+    <message>
+        <source>There is no such file or folder:</source>
+        <translation>Não existe nada neste caminho:</translation>
+    </message>
+    <message>
+        <source>No program was found that opens this:</source>
+        <translation>Não foi encontrado um programa que abra isto:</translation>
+    </message>
+    <message>
+        <source>The program that opens this reported a failure:</source>
+        <translation>O programa que abre isto comunicou uma falha:</translation>
+    </message>
+    <message>
+        <source>The desktop could not open this:</source>
+        <translation>O ambiente de trabalho não conseguiu abrir isto:</translation>
+    </message>
+    <message>
+        <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation>Para abrir isto é necessário o programa &quot;xdg-open&quot;, que não pôde ser iniciado:</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
+        <translation>Idioma do &amp;sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LinkButtons</name>
+    <message>
+        <source>No quick links yet. Add some with Tools &gt; Settings.</source>
+        <translation>Ainda não há atalhos. Adicione-os em Ferramentas &gt; Configurações.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>There is no such file or folder, or you are not allowed to see it:</source>
+        <translation>Não existe nada neste caminho, ou não tem permissão para o ver:</translation>
+    </message>
+    <message>
+        <source>You are not allowed to open this:</source>
+        <translation>Não tem permissão para abrir isto:</translation>
+    </message>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Não foi possível iniciar este programa:</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>Não aberto</translation>
+    </message>
+</context>
+<context>
+    <name>LinkTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Sem atalhos</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Não carregado: %1</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>No quick links</source>
+        <translation>Sem atalhos</translation>
+    </message>
+    <message>
+        <source>&amp;Connection</source>
+        <translation>&amp;Conexão</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>Fechar o programa</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Links</source>
+        <translation>&amp;Atalhos</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Ferramentas</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Configurações…</translation>
+    </message>
+    <message>
+        <source>Add, change and order quick links</source>
+        <translation>Adicionar, alterar e ordenar atalhos</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>Barra de &amp;estado</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;About Vellum Connect</source>
+        <translation>&amp;Sobre o Vellum Connect</translation>
+    </message>
+    <message>
+        <source>About Vellum Connect</source>
+        <translation>Sobre o Vellum Connect</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestor de conexões com atalhos.&lt;/p&gt;&lt;p&gt;Software livre sob a licença MIT.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MenuManager</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuickLinkUIPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TAB</source>
+        <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_ORDER</source>
+        <extracomment>Label above the table of the settings page. Up to about 35 characters (250 pixels). Labels are low: a capital letter with an accent, such as an umlaut, loses it with Qt 6.</extracomment>
+        <translation>Ordem de abertura:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME</source>
+        <extracomment>Header of the table&apos;s first column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_TYPE</source>
+        <extracomment>Header of the table&apos;s second column. Up to about 12 characters (100 pixels).</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_UP</source>
+        <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
+        <translation>Para &amp;cima</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DOWN</source>
+        <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
+        <translation>Para &amp;baixo</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW</source>
+        <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
+        <translation>&amp;Novo…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT</source>
+        <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DEL</source>
+        <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TITLE</source>
+        <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
+        <translation>Novo atalho</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_EDIT_TITLE</source>
+        <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
+        <translation>Editar atalho</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_NAME</source>
+        <extracomment>Label of the dialog&apos;s name field. 51 pixels: about 6 characters.</extracomment>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TYPE</source>
+        <extracomment>Label of the dialog&apos;s choice of type. 70 pixels: about 9 characters.</extracomment>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_APPLICATION</source>
+        <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
+        <translation>Aplicação</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_E-MAIL</source>
+        <extracomment>Type of a link that opens the mail program. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_TYPE_INTERNET</source>
+        <extracomment>Type of a link that opens an Internet address. As IDS_LINK_TYPE_APPLICATION.</extracomment>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
+        <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
+        <translation>Programa:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <translation>Procurar…</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
+        <extracomment>Label above the field with the program&apos;s parameters. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Parâmetros:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_IE_URL</source>
+        <extracomment>Label above the field with the Internet address. Up to about 35 characters (250 pixels).</extracomment>
+        <translation>Endereço:</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_TAB_EMAIL_URL</source>
+        <extracomment>What an e-mail link does; the only text on its panel. Up to about 35 characters (250 pixels), one line.</extracomment>
+        <translation>Abre o seu programa de e-mail.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
+        <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Abrir ao iniciar o programa</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CHECK</source>
+        <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
+        <translation>Abrir ao conectar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_OK</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NEW_CANCEL</source>
+        <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_PROMPT</source>
+        <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_INVALID_URL</source>
+        <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
+        <translation>Não é possível abrir este endereço. Um endereço tem de conter &quot;http://&quot;, &quot;https://&quot;, &quot;ftp&quot; ou &quot;www.&quot;.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_NAME_SAME</source>
+        <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
+        <translation>Outro atalho já tem este nome. Escolha um diferente.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_FILENOTEXIST</source>
+        <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
+        <translation>Este programa não existe. Escolha outro.</translation>
+    </message>
+    <message>
+        <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
+        <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
+        <translation>Eliminar o atalho selecionado?</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>None of the loaded plug-ins has settings.</source>
+        <translation>Nenhum dos plug-ins carregados tem configurações.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>Tray</name>
+    <message>
+        <source>The program goes on here. Click the icon to see its window.</source>
+        <translation>O programa continua aqui. Clique no ícone para ver a janela.</translation>
+    </message>
+    <message>
+        <source>Show Window</source>
+        <translation>Mostrar a janela</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+</TS>
