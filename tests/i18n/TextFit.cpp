@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "TextFit.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionHeader>
+#include <QTabBar>
+#include <QTableWidget>
+
+namespace
+{
+/** A text and where it is drawn. */
+struct Place {
+    const QWidget* widget;
+    QString text; ///< with its ampersands
+    QFont font;
+    QRect rect;           ///< in the widget
+    bool isRow = false;   ///< in a row whose height is not the text's
+    bool isPlain = false; ///< ampersands are shown
+};
+
+QString withoutMnemonic(const QString& text)
+{
+    QString plain;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('&') && i + 1 < text.size())
+            ++i;
+        plain += text.at(i);
+    }
+    return plain;
+}
+
+QString nameOf(const QWidget* widget)
+{
+    for (const QWidget* named = widget; named; named = named->parentWidget()) {
+        const QString name = named->objectName();
+        if (!name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
+            return name;
+    }
+    return QString::fromLatin1(widget->metaObject()->className());
+}
+
+/** The rows of pixels in which an image has more ink than another one. */
+int rowsLost(const QImage& whole, const QImage& cut)
+{
+    // The edges of letters are smoothed: what is nearly white is not seen.
+    const int faintest = 230;
+    int rows = 0;
+    for (int y = 0; y < whole.height(); ++y) {
+        const uchar* const wholeLine = whole.constScanLine(y);
+        const uchar* const cutLine = cut.constScanLine(y);
+        bool isLost = false;
+        for (int x = 0; x < whole.width(); ++x)
+            isLost = isLost || (wholeLine[x] < faintest && cutLine[x] != wholeLine[x]);
+        rows += isLost ? 1 : 0;
+    }
+    return rows;
+}
+
+/** How many rows of a text's ink do not show when it is drawn in its place, as the style does. */
+int missingHeight(const QString& text, const Place& place, const QRect& visible)
+{
+    const int margin = place.font.pointSize() * 4;
+    const int width = QFontMetrics(place.font).size(Qt::TextSingleLine, text).width();
+    // Wider than the text, which else would be clipped on all sides.
+    const QRect rect(margin, margin + place.rect.top(), width + 2, place.rect.height());
+    QImage whole(width + 2 * margin, place.widget->height() + 2 * margin, QImage::Format_Grayscale8);
+    whole.fill(Qt::white);
+    QImage cut = whole;
+    const int flags = Qt::AlignCenter | Qt::TextSingleLine;
+
+    QPainter wholePainter(&whole);
+    wholePainter.setFont(place.font);
+    wholePainter.drawText(rect, flags | Qt::TextDontClip, text);
+    wholePainter.end();
+    QPainter cutPainter(&cut);
+    cutPainter.setFont(place.font);
+    cutPainter.setClipRect(QRect(0, margin + visible.top(), cut.width(), visible.height()));
+    cutPainter.drawText(rect, flags, text);
+    cutPainter.end();
+    return rowsLost(whole, cut);
+}
+
+/** The widgets beside it in its parent that it covers or that cover it. */
+QStringList neighboursOver(const QWidget* widget)
+{
+    QStringList names;
+    const QList<QWidget*> siblings =
+        widget->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* sibling : siblings) {
+        if (sibling != widget && sibling->isVisible() && !sibling->isWindow() &&
+            sibling->geometry().intersects(widget->geometry()))
+            names.append(nameOf(sibling));
+    }
+    return names;
+}
+
+QString verdict(const Place& place)
+{
+    const QString text = place.isPlain ? place.text : withoutMnemonic(place.text);
+    // What lies outside of a parent does not show.
+    const QRect visible = place.widget->visibleRegion().boundingRect();
+    const QRect rect = place.rect & visible;
+    const int width = QFontMetrics(place.font).size(Qt::TextSingleLine, text).width() - rect.width();
+    const int height = place.isRow ? 0 : missingHeight(text, place, visible);
+    if (width <= 0 && height <= 0)
+        return QString();
+    return QStringLiteral("%1 \"%2\": cut by %3 pixels in width (of %4), %5 in height (of %6)")
+        .arg(nameOf(place.widget), place.text)
+        .arg(qMax(0, width))
+        .arg(rect.width())
+        .arg(height)
+        .arg(rect.height());
+}
+
+QList<Place> placesOf(const QLabel* label)
+{
+    return {Place{label, label->text(), label->font(), label->contentsRect()}};
+}
+
+QList<Place> placesOf(const QAbstractButton* button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    const QPushButton* const push = qobject_cast<const QPushButton*>(button);
+    if (push && push->autoDefault())
+        option.features |= QStyleOptionButton::AutoDefaultButton;
+    const auto element = push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
+    QRect rect = button->style()->subElementRect(element, &option, button);
+    if (!button->icon().isNull())
+        rect.setWidth(rect.width() - button->iconSize().width() - 4);
+    return {Place{button, button->text(), button->font(), rect}};
+}
+
+QList<Place> placesOf(const QComboBox* choice)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(choice);
+    option.frame = choice->hasFrame();
+    const QRect rect =
+        choice->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, choice);
+    QList<Place> places;
+    for (int i = 0; i < choice->count(); ++i) {
+        Place place{choice, choice->itemText(i), choice->font(), rect};
+        place.isPlain = true;
+        places.append(place);
+    }
+    return places;
+}
+
+QList<Place> placesOf(const QTabBar* tabs)
+{
+    QList<Place> places;
+    for (int i = 0; i < tabs->count(); ++i) {
+        QStyleOptionTab option;
+        option.initFrom(tabs);
+        option.rect = tabs->tabRect(i);
+        option.text = tabs->tabText(i);
+        option.shape = tabs->shape();
+        const QRect rect = tabs->style()->subElementRect(QStyle::SE_TabBarTabText, &option, tabs);
+        places.append(Place{tabs, option.text, tabs->font(), rect});
+    }
+    return places;
+}
+
+QList<Place> placesOf(const QHeaderView* header)
+{
+    QList<Place> places;
+    for (int i = 0; header->orientation() == Qt::Horizontal && i < header->count(); ++i) {
+        QStyleOptionHeader option;
+        option.initFrom(header);
+        option.rect = QRect(header->sectionViewportPosition(i), 0, header->sectionSize(i), header->height());
+        option.section = i;
+        option.text = header->model()->headerData(i, Qt::Horizontal).toString();
+        // The headings of the selected row's columns are bold.
+        QFont font = header->font();
+        font.setBold(true);
+        const QRect rect = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
+        Place place{header->viewport(), option.text, font, rect};
+        place.isPlain = true;
+        places.append(place);
+    }
+    return places;
+}
+
+QList<Place> placesOf(const QTableWidget* table)
+{
+    const int margin = table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1;
+    QList<Place> places;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QTableWidgetItem* const type = table->item(row, 1);
+        Place place{table->viewport(), type->text(), table->font(),
+                    table->visualItemRect(type).adjusted(margin, 0, -margin, 0)};
+        place.isRow = true;
+        place.isPlain = true;
+        places.append(place);
+    }
+    return places;
+}
+
+QList<Place> placesIn(const QWidget* widget)
+{
+    if (const auto* const label = qobject_cast<const QLabel*>(widget))
+        return placesOf(label);
+    if (qobject_cast<const QPushButton*>(widget) || qobject_cast<const QCheckBox*>(widget))
+        return placesOf(static_cast<const QAbstractButton*>(widget));
+    if (const auto* const choice = qobject_cast<const QComboBox*>(widget))
+        return placesOf(choice);
+    if (const auto* const tabs = qobject_cast<const QTabBar*>(widget))
+        return placesOf(tabs);
+    if (const auto* const header = qobject_cast<const QHeaderView*>(widget))
+        return placesOf(header);
+    if (const auto* const table = qobject_cast<const QTableWidget*>(widget))
+        return placesOf(table);
+    return {};
+}
+} // namespace
+
+QStringList cutTexts(QWidget* window)
+{
+    QStringList lines;
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (const QWidget* const widget : widgets) {
+        // A dialog over the window is measured by itself.
+        if (!widget->isVisible() || widget->window() != window)
+            continue;
+        const QList<Place> places = placesIn(widget);
+        const QStringList neighbours = places.isEmpty() ? QStringList() : neighboursOver(widget);
+        if (!neighbours.isEmpty())
+            lines.append(nameOf(widget) + QStringLiteral(": overlaps ") + neighbours.join(QStringLiteral(", ")));
+        for (const Place& place : places) {
+            const QString line = verdict(place);
+            if (!line.isEmpty() && !lines.contains(line))
+                lines.append(line);
+        }
+    }
+    return lines;
+}

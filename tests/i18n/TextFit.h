@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStringList>
+
+class QWidget;
+
+/**
+ * Measures every text of the labels, buttons, check boxes, combo boxes, tabs and table headers that show in window,
+ * and the types in its table, against the place that the style gives it there. One line for each text that is cut off:
+ * widget, text, and by how many pixels. Names of links are the user's and are not measured.
+ */
+QStringList cutTexts(QWidget* window);
