@@ -3,6 +3,7 @@
 
 #include "SettingsDialog.h"
 
+#include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -38,6 +39,10 @@ SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
     connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
 
     QDialogButtonBox* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    // Like the buttons of the pages. One toolkit's style draws the text beside its icon wrongly from right to left.
+    const QList<QAbstractButton*> both = buttons->buttons();
+    for (QAbstractButton* button : both)
+        button->setIcon(QIcon());
     connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
     column->addWidget(buttons);

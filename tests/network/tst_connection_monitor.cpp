@@ -91,7 +91,9 @@ void TestConnectionMonitor::start()
 void TestConnectionMonitor::tellsUpOnce()
 {
     start();
+    const QSignalSpy changed(m_monitor.get(), &ConnectionMonitor::changed);
     m_source->become(QStringLiteral("a"));
+    QCOMPARE(changed.size(), 1);
     m_source->become(QStringLiteral("a"));
     Q_EMIT m_source->changed();
     QCOMPARE(m_told, QStringList(QStringLiteral("UP up and in the Internet")));
@@ -210,6 +212,10 @@ void TestConnectionMonitor::serviceLostAndReturned()
     QCOMPARE(m_told, QStringList(QStringLiteral("DOWN down since the service is back")));
     m_source->become(QStringLiteral("a"));
     QCOMPARE(m_told.size(), 2);
+    m_source->setAvailable(false);
+    m_source->current.id = QStringLiteral("b");
+    m_source->setAvailable(true);
+    QCOMPARE(m_told.size(), 3);
 }
 
 void TestConnectionMonitor::sleepIsPassedOn()
@@ -230,6 +236,7 @@ void TestConnectionMonitor::waitsAMinuteAfterSleep()
 {
     start();
     const QTimer* const deadline = m_monitor->findChild<QTimer*>();
+    QTest::qSleep(2); // The clock of the monitor must have begun to count.
     m_source->become(QStringLiteral("a"));
     m_source->become(QString());
     QVERIFY(deadline->isActive());
@@ -238,6 +245,7 @@ void TestConnectionMonitor::waitsAMinuteAfterSleep()
     m_monitor->wakeUp();
     QVERIFY(deadline->isActive());
     QVERIFY(deadline->interval() > 50000);
+    QVERIFY(deadline->interval() <= TransitionRules::wakeUpLimit);
 }
 
 QTEST_GUILESS_MAIN(TestConnectionMonitor)
