@@ -62,6 +62,11 @@ class Scenario(unittest.TestCase):
         """Waits until the program has said something this many times."""
         wait_for(lambda: self.program.output().count(line) >= count, f"\"{line}\" in the log")
 
+    def play(self, service):
+        """Ends a played service of the system bus together with the test."""
+        self.addCleanup(service.close)
+        return service
+
     def links_in_menu(self):
         """Opens the Quick Links menu, reads its entries from the screen and closes it again."""
         menu = self.open_menu("Quick Links")

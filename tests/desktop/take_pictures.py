@@ -7,6 +7,7 @@ import os
 import shutil
 from pathlib import Path
 
+from network import ModemManager, NetworkManager
 from scenario import main
 from screen import Widget, park_mouse, save_active_window
 from settings_dialog import TYPES
@@ -22,6 +23,8 @@ class Pictures(SettingsScenario):
     def setUp(self):
         super().setUp()
         shutil.copy(os.environ["VELLUM_SAMPLE"], self.config)
+        self.play(ModemManager("Northern Mobile"))
+        self.network = self.play(NetworkManager())
 
     def test_default(self):
         self.take_all("")
@@ -43,6 +46,8 @@ class Pictures(SettingsScenario):
 
     def take_all(self, prefix, **environment):
         self.start(**environment)
+        self.network.activate("Mobile plan")
+        self.window.find("label", "Operator: Northern Mobile")
         self.take(prefix + "main-window")
         settings = self.open_settings()
         self.take(prefix + "settings-page")

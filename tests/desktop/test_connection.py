@@ -13,10 +13,6 @@ ACTIVATED, DEACTIVATED = 2, 4
 
 class Connection(ConnectionScenario):
 
-    def play(self, service):
-        self.addCleanup(service.close)
-        return service
-
     def test_up_and_down(self):
         network = self.play(NetworkManager())
         self.start_marked()
