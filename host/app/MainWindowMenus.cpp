@@ -20,6 +20,8 @@ void MainWindow::buildMenus(QMenu* languageMenu)
     m_quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
 
     m_linkMenu = menuBar()->addMenu(QString());
+    // Hundreds of links must stay within reach: columns wider than the screen would not.
+    m_linkMenu->setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
     m_noLinks = new QAction(this);
     m_noLinks->setEnabled(false);
 

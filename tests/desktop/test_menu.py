@@ -113,6 +113,21 @@ class Menu(Scenario):
         self.pick("Q&A")
         self.expect_calls(["http://qa.example.org/"])
 
+    def test_hundreds_of_links_are_within_reach(self):
+        self.start_with(*(link(i, f"Link {i}", EMAIL, f"mailto:{i}@example.org") for i in range(500)))
+        menu = self.open_menu("Quick Links")
+        press("End")
+        last = menu.find("menu item", "Link 499")
+        width, height = map(int, self.screen_size.split("x"))
+
+        def is_on_screen():
+            x, y, item_width, item_height = last.extents
+            return 0 <= x <= width - item_width and 0 <= y <= height - item_height
+
+        wait_for(is_on_screen, f"the last entry on the screen; it is at {last.extents}")
+        press("Return")
+        self.expect_calls(["mailto:499@example.org"])
+
     def test_empty_list_shows_one_disabled_entry(self):
         self.start_with()
         entries = self.open_menu("Quick Links").all("menu item")
