@@ -150,7 +150,7 @@ static QStringList textsIn(const QTableWidget* table)
 /** What one widget says, without its children. */
 static QStringList textsIn(const QWidget* widget)
 {
-    QStringList texts{widget->windowTitle()};
+    QStringList texts{widget->isWindow() && !qobject_cast<const QMenu*>(widget) ? widget->windowTitle() : QString()};
     if (const auto* const label = qobject_cast<const QLabel*>(widget))
         texts.append(label->text());
     if (const auto* const button = qobject_cast<const QAbstractButton*>(widget))
@@ -158,8 +158,10 @@ static QStringList textsIn(const QWidget* widget)
     if (const auto* const field = qobject_cast<const QLineEdit*>(widget))
         texts.append(field->text());
     if (const auto* const menu = qobject_cast<const QMenu*>(widget)) {
-        for (int i = 0; i < menu->actions().size(); ++i)
-            texts.append(menu->actions().at(i)->text());
+        texts.append(menu->title());
+        const QList<QAction*> actions = menu->actions();
+        for (const QAction* action : actions)
+            texts.append(action->menu() ? QString() : action->text());
     }
     if (const auto* const entries = qobject_cast<const QListWidget*>(widget)) {
         for (int i = 0; i < entries->count(); ++i)
