@@ -13,8 +13,8 @@ static QString nameOf(const QString& language)
     if (language == QLatin1String("en"))
         return QStringLiteral("English"); // The toolkit knows only American and British English.
     const QLocale locale(language);
-    QString name = locale.nativeLanguageName();
-    return name.replace(0, 1, locale.toUpper(name.left(1)));
+    const QString name = locale.nativeLanguageName();
+    return name.isEmpty() ? language : locale.toUpper(name.at(0)) + name.mid(1);
 }
 
 LanguageMenu::LanguageMenu(const QStringList& languages, const QString& current)

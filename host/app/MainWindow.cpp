@@ -87,5 +87,5 @@ void MainWindow::appear()
         return;
     m_hasAppeared = true;
     // Later: whoever hears it may open windows, and this one is being painted.
-    QMetaObject::invokeMethod(this, &MainWindow::appeared, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "appeared", Qt::QueuedConnection);
 }

@@ -8,29 +8,32 @@
 
 namespace
 {
-constexpr QLatin1String service("org.freedesktop.ModemManager1");
-constexpr QLatin1String modems("/org/freedesktop/ModemManager1/Modem/");
-constexpr QLatin1String mobileNetwork("org.freedesktop.ModemManager1.Modem.Modem3gpp");
-constexpr QLatin1String operatorName("OperatorName");
-constexpr QLatin1String properties("org.freedesktop.DBus.Properties");
+constexpr char service[] = "org.freedesktop.ModemManager1";
+constexpr char modems[] = "/org/freedesktop/ModemManager1/Modem/";
+constexpr char mobileNetwork[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
+constexpr char operatorName[] = "OperatorName";
+constexpr char properties[] = "org.freedesktop.DBus.Properties";
 } // namespace
 
 void ModemOperator::setModem(const QString& path)
 {
-    const QString modem = path.startsWith(modems) ? path : QString();
+    const QString modem = path.startsWith(QLatin1String(modems)) ? path : QString();
     if (modem == m_modem)
         return;
     QDBusConnection bus = QDBusConnection::systemBus();
-    constexpr QLatin1String signal("PropertiesChanged");
+    const QLatin1String signal("PropertiesChanged");
     if (!m_modem.isEmpty())
-        bus.disconnect(service, m_modem, properties, signal, this, SLOT(readChange(QString, QVariantMap)));
+        bus.disconnect(QLatin1String(service), m_modem, QLatin1String(properties), signal, this,
+                       SLOT(readChange(QString, QVariantMap)));
     m_modem = modem;
     setName(QString());
     if (m_modem.isEmpty())
         return;
-    bus.connect(service, m_modem, properties, signal, this, SLOT(readChange(QString, QVariantMap)));
-    QDBusMessage question = QDBusMessage::createMethodCall(service, m_modem, properties, QStringLiteral("Get"));
-    question << mobileNetwork << operatorName;
+    bus.connect(QLatin1String(service), m_modem, QLatin1String(properties), signal, this,
+                SLOT(readChange(QString, QVariantMap)));
+    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(service), m_modem, QLatin1String(properties),
+                                                           QStringLiteral("Get"));
+    question << QLatin1String(mobileNetwork) << QLatin1String(operatorName);
     bus.callWithCallback(question, this, SLOT(readAnswer(QDBusMessage)));
 }
 
@@ -47,8 +50,8 @@ void ModemOperator::readAnswer(const QDBusMessage& answer)
 
 void ModemOperator::readChange(const QString& interface, const QVariantMap& changes)
 {
-    if (interface == mobileNetwork && changes.contains(operatorName))
-        setName(changes.value(operatorName).toString());
+    if (interface == QLatin1String(mobileNetwork) && changes.contains(QLatin1String(operatorName)))
+        setName(changes.value(QLatin1String(operatorName)).toString());
 }
 
 void ModemOperator::setName(const QString& name)

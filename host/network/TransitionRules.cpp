@@ -40,10 +40,10 @@ Decision TransitionRules::comeUp(const ConnectionState& state, qint64 now)
 {
     m_phase = Phase::Waiting;
     m_deadline = now + reachLimit;
-    const Decision decision = judgeReach(state, now);
-    if (decision.announcement == Announcement::Up)
-        return decision;
-    return {Announcement::None, QStringLiteral("up, waiting to be in the Internet")};
+    Decision decision = judgeReach(state, now);
+    if (decision.announcement == Announcement::None)
+        decision.reason = QStringLiteral("up, waiting to be in the Internet");
+    return decision;
 }
 
 Decision TransitionRules::judgeReach(const ConnectionState& state, qint64 now)
