@@ -18,24 +18,24 @@ cpp_files() {
 
 # What the lint tools need: the compile commands, without the tests. Nothing is built, so no source includes a .moc file.
 prepare() {
-    cmake --preset default -B build/lint -DBUILD_TESTING=OFF
+    cmake --preset default -B build/lint -DBUILD_TESTING=OFF -DBUILD_BENCHMARKS=ON
 }
 
 check_format() {
-    cpp_files include src host tests | xargs clang-format-14 --dry-run --Werror
+    cpp_files include src host tests benchmarks | xargs clang-format-14 --dry-run --Werror
 }
 
 # Both tools know only sources of the compile commands, and read the headers through them.
 check_tidy() {
-    cpp_files src host | grep '\.cpp$' | xargs -P2 -n4 clang-tidy-14 -p build/lint --quiet
+    cpp_files src host benchmarks | grep '\.cpp$' | xargs -P2 -n4 clang-tidy-14 -p build/lint --quiet
 }
 
 # Levels 0 and 1 do not object to what the contract asks for: connections by SIGNAL and SLOT, QLatin1String texts.
 # qstring-ref proposes QStringRef, which Qt 6 no longer has.
 check_clazy() {
-    cpp_files src host | grep '\.cpp$' |
+    cpp_files src host benchmarks | grep '\.cpp$' |
         xargs -P2 -n4 clazy-standalone -p build/lint -checks=level1,no-qstring-ref \
-            --header-filter="^$PWD/(include|src|host)/" --extra-arg=-Werror
+            --header-filter="^$PWD/(include|src|host|benchmarks)/" --extra-arg=-Werror
 }
 
 # On a copy of the sources: outside git the tool would take the build for sources, too.

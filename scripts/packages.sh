@@ -3,10 +3,11 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the Debian 12 packages that a purpose needs and that are missing; says nothing when none is.
-# Usage: scripts/packages.sh run|demo|test
-#   run   build with Qt 5 and start the program
-#   demo  and show it on a virtual display
-#   test  and build with Qt 6, run every test, and check format, lint and licences
+# Usage: scripts/packages.sh run|demo|benchmark|test
+#   run        build with Qt 5 and start the program
+#   demo       and show it on a virtual display
+#   benchmark  and measure it
+#   test       and build with Qt 6, run every test, and check format, lint and licences
 # Where each package is for: docs/dependencies.md
 
 source "$(dirname "$0")/common.sh"
@@ -14,6 +15,7 @@ source "$(dirname "$0")/common.sh"
 run=(cmake ninja-build g++ pkgconf qtbase5-dev qttools5-dev qttranslations5-l10n libkf5networkmanagerqt-dev xdg-utils fonts-dejavu-core
     xterm x11-apps)
 demo=(xvfb openbox xdotool imagemagick)
+benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
     python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer procps x11-utils
     clang-format-14 clang-tidy-14 clazy reuse shellcheck)
@@ -21,8 +23,9 @@ test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto
 case "${1-}" in
 run) wanted=("${run[@]}") ;;
 demo) wanted=("${run[@]}" "${demo[@]}") ;;
-test) wanted=("${run[@]}" "${demo[@]}" "${test[@]}") ;;
-*) fail "usage: scripts/packages.sh run|demo|test" ;;
+benchmark) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}") ;;
+test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${test[@]}") ;;
+*) fail "usage: scripts/packages.sh run|demo|benchmark|test" ;;
 esac
 
 is_installed() {
