@@ -64,7 +64,7 @@ int QuickLinkSettingPluginDlg::connectionStateChanged()
     IPluginContainer* const container = Startup::GetPluginContainer();
     if (!container)
         return -1;
-    TRACE("%s: %s: %s:Get plugin container success", Trace::now().constData(), __FILE__, "Notify");
+    TRACE("%s: %s: %s:Get plugin container success", Trace::now(), __FILE__, "Notify");
     QObject* const owner =
         container->GetPlugin(QLatin1String("61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E"), dialupServiceKind);
     IDialupUIService* const service = qobject_cast<IDialupUIService*>(owner);

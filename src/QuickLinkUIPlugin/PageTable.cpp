@@ -90,7 +90,7 @@ bool QuickLinkSettingPluginDlg::fillRows()
 
 void QuickLinkSettingPluginDlg::populateTableRow(QuickLinkRecord* record, int row)
 {
-    TRACE("%s: %s: %s : Entered ", __FILE__, __func__, Trace::now().constData());
+    TRACE("%s: %s: %s : Entered ", __FILE__, __func__, Trace::now());
     if (anyNull({record, m_QLinkListTblView})) {
         TRACE_NULL();
         return;
@@ -116,7 +116,7 @@ bool QuickLinkSettingPluginDlg::setCell(int row, int column, const QString& text
     if (isNew)
         item = new (std::nothrow) QTableWidgetItem;
     if (!item) {
-        TRACE("%s: %s: %s : Memory not available ", __FILE__, "populateTableRow", Trace::now().constData());
+        TRACE("%s: %s: %s : Memory not available ", __FILE__, "populateTableRow", Trace::now());
         return false;
     }
     item->setText(text);

@@ -51,7 +51,7 @@ void QuickLinkSettingPluginDlg::Destroy()
 
 int QuickLinkSettingPluginDlg::Init()
 {
-    TRACE("%s: %s: %s: called", Trace::now().constData(), __FILE__, __func__);
+    TRACE("%s: %s: %s: called", Trace::now(), __FILE__, __func__);
     m_store = QuickLinkXmlParse::GetInstance();
     if (m_store) {
         m_store->ReadXmlInformation();

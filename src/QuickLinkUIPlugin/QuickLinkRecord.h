@@ -34,6 +34,8 @@ public:
     QString edit;         ///< "1": the user may edit the link
     QString visible;      ///< "1": the link exists for the user
 };
+// Lists move their records by copying bytes.
+Q_DECLARE_TYPEINFO(QuickLinkRecord, Q_MOVABLE_TYPE);
 
 /** The links in the user's order: that of the file, the table, the menu and the automatic launches. */
 typedef QVector<QuickLinkRecord> QuickLinkRecordList;

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QXmlStreamWriter>
 
+#include "LinkAttributes.h"
 #include "QuickLinkXmlParse.h"
 #include "Trace.h"
 
@@ -32,25 +33,37 @@ void writeType(QXmlStreamWriter& writer, const char* id, const char* name)
     writeAttribute(writer, "name", QLatin1String(name));
 }
 
-void writeItem(QXmlStreamWriter& writer, const QuickLinkRecord& record, const QString& id)
+/** Writes links as items. The names are made once, not once an item. */
+class ItemWriter
 {
-    writer.writeEmptyElement(QLatin1String("item"));
-    writeAttribute(writer, "id", id);
-    writeAttribute(writer, "name", record.name);
-    writeAttribute(writer, "type", record.type);
-    writeAttribute(writer, "url", record.url);
-    writeAttribute(writer, "para", record.para);
-    writeAttribute(writer, "startconnect", record.startconnect);
-    writeAttribute(writer, "startmobile", record.startmobile);
-    writeAttribute(writer, "delete", record.delete_);
-    writeAttribute(writer, "edit", record.edit);
-    writeAttribute(writer, "visible", record.visible);
-}
+public:
+    explicit ItemWriter(QXmlStreamWriter& writer)
+        : m_writer(writer)
+        , m_item(QLatin1String("item"))
+    {
+        for (int i = 0; i < LinkAttributes::count; ++i)
+            m_names[i] = QLatin1String(LinkAttributes::all[i].name);
+    }
+
+    /** id stands for the record's own, the first attribute. */
+    void write(const QuickLinkRecord& record, const QString& id)
+    {
+        m_writer.writeEmptyElement(m_item);
+        m_writer.writeAttribute(m_names[0], id);
+        for (int i = 1; i < LinkAttributes::count; ++i)
+            m_writer.writeAttribute(m_names[i], record.*LinkAttributes::all[i].field);
+    }
+
+private:
+    QXmlStreamWriter& m_writer;
+    const QString m_item;
+    QString m_names[LinkAttributes::count];
+};
 } // namespace
 
 int QuickLinkXmlParse::SaveToConfigFile(QuickLinkRecordList* records, int keepCurrentId)
 {
-    TRACE("%s : %s: %s: Entered", Trace::now().constData(), __FILE__, __func__);
+    TRACE("%s : %s: %s: Entered", Trace::now(), __FILE__, __func__);
     const QString path = configFilePath();
     if (!records)
         return NoRecords;
@@ -73,16 +86,17 @@ int QuickLinkXmlParse::SaveToConfigFile(QuickLinkRecordList* records, int keepCu
     writeHeader(writer);
     writer.writeStartElement(QLatin1String("menu"));
     writeAttribute(writer, "parent", QLatin1String("quicklink"));
+    ItemWriter item(writer);
     for (int i = 0; i < records->size(); ++i) {
         const QuickLinkRecord& record = records->at(i);
         // The record in memory learns its id when the file is read back.
-        writeItem(writer, record, record.id.isEmpty() ? shifted(m_currentId, -1) : record.id);
+        item.write(record, record.id.isEmpty() ? shifted(m_currentId, -1) : record.id);
     }
     writer.writeEndElement();
     writer.writeEndElement();
     writer.writeEndDocument();
     file.close();
-    TRACE("%s : %s: %s: Exit", Trace::now().constData(), __FILE__, __func__);
+    TRACE("%s : %s: %s: Exit", Trace::now(), __FILE__, __func__);
     return Done;
 }
 

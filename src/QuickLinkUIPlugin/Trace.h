@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QtDebug>
 
 /**
@@ -15,8 +14,8 @@ namespace Trace
 /** Whether anybody reads the debug channel. */
 bool isOn();
 
-/** The time of day as "hh:mm:ss:zzz". */
-QByteArray now();
+/** The time of day as "hh:mm:ss:zzz". The text is overwritten by the next call. */
+const char* now();
 } // namespace Trace
 
 #define TRACE(...)                                                                                                     \
@@ -29,7 +28,7 @@ QByteArray now();
 #define TRACE_END() TRACE("End of %s: %s: %d: ", __FILE__, __func__, __LINE__)
 
 /** A pointer that the function needs is null; the function returns at once. */
-#define TRACE_NULL() TRACE("Arg is NULL: %s: %s: %s %d", Trace::now().constData(), __FILE__, __func__, __LINE__)
+#define TRACE_NULL() TRACE("Arg is NULL: %s: %s: %s %d", Trace::now(), __FILE__, __func__, __LINE__)
 
 /** A request that the state of the page does not allow (no current row, no neighbour); the function returns at once. */
 #define TRACE_REFUSED(why) TRACE("%s: %s: refused, %s", __FILE__, __func__, why)
