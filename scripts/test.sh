@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# Builds and tests everything: Qt 5, Qt 6, sanitizers, format and lint. Says one line a step.
+# Builds and tests everything: Qt 5, Qt 6, sanitizers, speed, format and lint. Says one line a step.
 # Usage: scripts/test.sh [--quick]
 #   --quick  build and test with Qt 5 only
 # The log of a step that fails is printed; all logs lie in build/.
@@ -49,6 +49,10 @@ sanitized_tests() {
         ctest_in asan build/test-asan.log -L unit
 }
 
+instructions_and_heap() {
+    logged build/test-benchmarks.log benchmarks/run --check
+}
+
 step "packages" scripts/packages.sh test
 step "Qt 5: build" build_for default default
 step "Qt 5: every test" ctest_in default build/test-qt5.log
@@ -58,6 +62,7 @@ if [[ $quick == no ]]; then
     step "Qt 6: every test" ctest_in qt6 build/test-qt6.log
     step "sanitizers: build" build_for asan asan
     step "sanitizers: unit tests" sanitized_tests
+    step "instructions and heap" instructions_and_heap
     step "format and lint" scripts/lint.sh
 fi
 
