@@ -20,7 +20,9 @@ QAction* QuickLinkSettingPluginDlg::GetActionFromQuickLink(int index)
         TRACE_NULL();
         return nullptr;
     }
-    const QuickLinkRecord record = m_recordList->value(index);
+    // value() of Qt 6 makes a default record at every call, wanted or not.
+    const bool isLink = index >= 0 && index < m_recordList->size();
+    const QuickLinkRecord record = isLink ? m_recordList->at(index) : QuickLinkRecord();
     // The action opens the link as it was now, also after the list has changed.
     QAction* const action = new QAction(record.name, this);
     m_actionMap.insert(action, record);
