@@ -3,8 +3,6 @@
 
 #include "DialogFixture.h"
 
-#include <cstring>
-
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
@@ -20,94 +18,30 @@
 #include "FakeHost.h"
 #include "QuickLinkXmlParse.h"
 #include "Records.h"
-#include "TraceRecorder.h"
 
-namespace
+QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog)
 {
-template <class T>
-Member named(const char* name, T*& member)
-{
-    const Member entry = {name, &member, true, member};
-    return entry;
+#define MEMBER(name) pointerMember(#name, dialog->name)
+    return QList<PointerMember>() << MEMBER(m_frameDialog) << MEMBER(m_mainWidget) << MEMBER(m_appTabWidget)
+                                  << MEMBER(m_applicationPanel) << MEMBER(m_appTab) << MEMBER(m_nameLbl)
+                                  << MEMBER(m_typeLbl) << MEMBER(m_applicationPathLbl) << MEMBER(m_applicationParamLbl)
+                                  << MEMBER(m_appPathEdit) << MEMBER(m_appNameEdit) << MEMBER(m_appParamEdit)
+                                  << MEMBER(m_browseBtn) << MEMBER(m_launchWhenSWLaunchCB)
+                                  << MEMBER(m_launchWhenConnectCB) << MEMBER(m_appTypeChoice) << MEMBER(m_okBtn)
+                                  << MEMBER(m_cancelBtn) << MEMBER(m_mainLayout) << MEMBER(m_applicationLayout)
+                                  << MEMBER(m_pathLayout) << MEMBER(m_buttonLayout) << MEMBER(m_nameLayout)
+                                  << MEMBER(m_typeLayout) << MEMBER(m_tabLayout) << MEMBER(m_EmailTab)
+                                  << MEMBER(m_DefaultLbl) << MEMBER(m_emailLayout)
+                                  << MEMBER(m_launchWhenSWLaunchCBForEmail) << MEMBER(m_launchWhenConnectCBForEmail)
+                                  << MEMBER(m_InternetTab) << MEMBER(m_UrlLabel) << MEMBER(m_EditUrlName)
+                                  << MEMBER(m_internetLayout) << MEMBER(m_launchWhenSWLaunchCBForInternet)
+                                  << MEMBER(m_launchWhenConnectCBForInternet);
+#undef MEMBER
 }
 
-template <class T>
-Member unnamed(const char* name, T*& member)
+PointerMember memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name)
 {
-    const Member entry = {name, &member, false, member};
-    return entry;
-}
-} // namespace
-
-bool Member::isNull() const
-{
-    void* value = nullptr;
-    std::memcpy(&value, address, sizeof value);
-    return value == nullptr;
-}
-
-QList<Member> membersOf(QuickLinkSettingNewEditDlg* dialog)
-{
-#define NAMED(member) named(#member, dialog->member)
-#define UNNAMED(member) unnamed(#member, dialog->member)
-    return QList<Member>() << UNNAMED(m_frameDialog) << UNNAMED(m_mainWidget) << NAMED(m_appTabWidget)
-                           << UNNAMED(m_applicationPanel) << NAMED(m_appTab) << NAMED(m_nameLbl) << NAMED(m_typeLbl)
-                           << NAMED(m_applicationPathLbl) << NAMED(m_applicationParamLbl) << NAMED(m_appPathEdit)
-                           << NAMED(m_appNameEdit) << NAMED(m_appParamEdit) << NAMED(m_browseBtn)
-                           << NAMED(m_launchWhenSWLaunchCB) << NAMED(m_launchWhenConnectCB) << NAMED(m_appTypeChoice)
-                           << NAMED(m_okBtn) << NAMED(m_cancelBtn) << UNNAMED(m_mainLayout)
-                           << UNNAMED(m_applicationLayout) << UNNAMED(m_pathLayout) << UNNAMED(m_buttonLayout)
-                           << UNNAMED(m_nameLayout) << UNNAMED(m_typeLayout) << UNNAMED(m_tabLayout)
-                           << NAMED(m_EmailTab) << NAMED(m_DefaultLbl) << UNNAMED(m_emailLayout)
-                           << NAMED(m_launchWhenSWLaunchCBForEmail) << NAMED(m_launchWhenConnectCBForEmail)
-                           << NAMED(m_InternetTab) << NAMED(m_UrlLabel) << NAMED(m_EditUrlName)
-                           << UNNAMED(m_internetLayout) << NAMED(m_launchWhenSWLaunchCBForInternet)
-                           << NAMED(m_launchWhenConnectCBForInternet);
-#undef NAMED
-#undef UNNAMED
-}
-
-Member memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name)
-{
-    const QList<Member> members = membersOf(dialog);
-    for (const Member& member : members) {
-        if (QLatin1String(member.name) == name)
-            return member;
-    }
-    qFatal("The dialog has no member %s", qPrintable(name));
-    return members.first();
-}
-
-NullMember::NullMember(QuickLinkSettingNewEditDlg* dialog, const QString& name)
-    : m_address(memberOf(dialog, name).address)
-    , m_value(nullptr)
-{
-    std::memcpy(&m_value, m_address, sizeof m_value);
-    std::memset(m_address, 0, sizeof m_value);
-}
-
-NullMember::~NullMember()
-{
-    std::memcpy(m_address, &m_value, sizeof m_value);
-}
-
-void addMemberRows(const QStringList& memberNames)
-{
-    QTest::addColumn<QString>("member");
-    for (const QString& name : memberNames)
-        QTest::newRow(qPrintable(QLatin1String("no ") + name)) << name;
-}
-
-QStringList names(const char* blankSeparated)
-{
-    return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
-}
-
-QString nullTrace(const char* function)
-{
-    return QString::fromLatin1("Arg is NULL: %1: %2: %3 %4")
-        .arg(QLatin1String(TracePattern::time), QLatin1String(TracePattern::file), QLatin1String(function),
-             QLatin1String(TracePattern::line));
+    return memberNamed(membersOf(dialog), name);
 }
 
 OpenDialog::OpenDialog(const QStringList& storedNames)

@@ -13,46 +13,14 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "PointerMembers.h"
 #include "QuickLinkSettingNewEditDlg.h"
 
-/** A pointer member of the dialog. */
-struct Member {
-    const char* name;
-    void* address;   ///< of the member itself
-    bool isNamed;    ///< a widget whose object name is its member name
-    QObject* object; ///< what it pointed at when it was listed; may be null
-    bool isNull() const;
-};
-
 /** The widget and layout members in the order in which the class declares them. */
-QList<Member> membersOf(QuickLinkSettingNewEditDlg* dialog);
+QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog);
 
 /** The one of that name. */
-Member memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name);
-
-/** Makes members of a dialog null while it lives, and gives them back their values afterwards. */
-class NullMember
-{
-public:
-    NullMember(QuickLinkSettingNewEditDlg* dialog, const QString& name);
-    ~NullMember();
-
-private:
-    NullMember(const NullMember&);
-    NullMember& operator=(const NullMember&);
-
-    void* m_address;
-    void* m_value;
-};
-
-/** Adds a test row for each name, called "no <name>", with the name in the column "member". */
-void addMemberRows(const QStringList& names);
-
-/** How many times each name stands in a text of names separated by blanks. */
-QStringList names(const char* blankSeparated);
-
-/** A pattern for the line that function leaves when a pointer that it needs is null. */
-QString nullTrace(const char* function);
+PointerMember memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name);
 
 /**
  * A dialog on the screen, over a widget of the host, with a store behind it and nobody who takes its records.

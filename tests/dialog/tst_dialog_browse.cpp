@@ -259,7 +259,7 @@ void DialogBrowse::pathEditMissing()
     const OpenDialog dialog;
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), QLatin1String("m_appPathEdit"));
+        const NullMember missing(memberOf(dialog.get(), QLatin1String("m_appPathEdit")));
         // The chooser comes up all the same.
         choose(dialog, QLatin1String("program"));
     }
@@ -273,7 +273,7 @@ void DialogBrowse::pathEditMissingAfterwards()
     const TraceRecorder trace;
     QScopedPointer<NullMember> missing;
     browse(dialog, [&](QFileDialog* chooser) {
-        missing.reset(new NullMember(dialog.get(), QLatin1String("m_appPathEdit")));
+        missing.reset(new NullMember(memberOf(dialog.get(), QLatin1String("m_appPathEdit"))));
         cancel(chooser);
     });
     missing.reset();

@@ -65,8 +65,8 @@ void DialogBuilders::initializationWithout_data()
 {
     QTest::addColumn<QString>("member");
     QuickLinkSettingNewEditDlg dialog;
-    const QList<Member> members = membersOf(&dialog);
-    for (const Member& member : members)
+    const QList<PointerMember> members = membersOf(&dialog);
+    for (const PointerMember& member : members)
         QTest::newRow(member.name) << QString::fromLatin1(member.name);
 }
 
@@ -81,7 +81,7 @@ void DialogBuilders::initializationWithout()
     dialog->m_typeLbl->setObjectName(QString());
     TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->initializeUI();
     }
     QCOMPARE(trace.countDebug(failure()), 1);
@@ -116,7 +116,7 @@ void DialogBuilders::applicationPanelWithout()
     OpenDialog dialog;
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->createTabForApplication();
     }
     QCOMPARE(trace.countDebug(nullTrace("createTabForApplication")), 1);
@@ -136,7 +136,7 @@ void DialogBuilders::emailPanelWithout()
     OpenDialog dialog;
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->createTabForEmail();
     }
     QCOMPARE(trace.countDebug(nullTrace("createTabForEmail")), 1);
@@ -155,7 +155,7 @@ void DialogBuilders::internetPanelWithout()
     OpenDialog dialog;
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->createTabForInternet();
     }
     QCOMPARE(trace.countDebug(nullTrace("createTabForInternet")), 1);
@@ -175,7 +175,7 @@ void DialogBuilders::layoutWithout()
     dialog->m_appTypeChoice->clear();
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->setDisplayLayout();
     }
     QCOMPARE(trace.countDebug(nullTrace("setDisplayLayout")), 1);
@@ -196,7 +196,7 @@ void DialogBuilders::listenersWithout()
     OpenDialog dialog;
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->addListener();
     }
     QCOMPARE(trace.countDebug(nullTrace("addListener")), 1);
@@ -226,7 +226,7 @@ void DialogBuilders::existingFrameIsOnlyShown()
     const TraceRecorder trace;
     dialog->m_frameDialog->hide();
     {
-        const NullMember missing(dialog.get(), QLatin1String("m_appTabWidget"));
+        const NullMember missing(memberOf(dialog.get(), QLatin1String("m_appTabWidget")));
         dialog->ShowNewEditDlg(dialog.host());
         QVERIFY(!dialog->m_appTabWidget);
     }

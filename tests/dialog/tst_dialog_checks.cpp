@@ -302,7 +302,7 @@ void DialogChecks::noStoredList()
 void DialogChecks::nameEditMissing()
 {
     OpenDialog dialog;
-    const NullMember missing(dialog.get(), text("m_appNameEdit"));
+    const NullMember missing(memberOf(dialog.get(), text("m_appNameEdit")));
     QVERIFY(!dialog->checkNameDuplication());
     QVERIFY(FakeHost::instance().messages.isEmpty());
 }
@@ -312,7 +312,7 @@ void DialogChecks::pathEditMissing()
     OpenDialog dialog;
     dialog.fill(0, "Folder", "/");
     {
-        const NullMember missing(dialog.get(), text("m_appPathEdit"));
+        const NullMember missing(memberOf(dialog.get(), text("m_appPathEdit")));
         dialog.pressOk();
     }
     QCOMPARE(messageTexts(), QStringList(shown("IDS_LINK_SETTING_FILENOTEXIST")));

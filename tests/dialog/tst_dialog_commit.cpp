@@ -300,7 +300,7 @@ void DialogCommit::cancelWithoutAFrame()
 {
     OpenDialog dialog;
     {
-        const NullMember missing(dialog.get(), text("m_frameDialog"));
+        const NullMember missing(memberOf(dialog.get(), text("m_frameDialog")));
         dialog.pressCancel();
     }
     QCOMPARE(dialog.wasOpenWhenCancelled.size(), 1);
@@ -312,7 +312,7 @@ void DialogCommit::okWithoutAFrame()
     OpenDialog dialog;
     dialog.fill(1, "Mail", "");
     {
-        const NullMember missing(dialog.get(), text("m_frameDialog"));
+        const NullMember missing(memberOf(dialog.get(), text("m_frameDialog")));
         dialog.pressOk();
     }
     QCOMPARE(dialog.added.size(), 1);
@@ -373,7 +373,7 @@ void DialogCommit::okWithout()
     dialog.fill(2, "News", "www.example.org");
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog.pressOk();
     }
     QCOMPARE(trace.countDebug(nullTrace("onClickOkButton")), 1);

@@ -54,8 +54,8 @@ void DialogConstruction::freshMember_data()
 {
     QTest::addColumn<QString>("member");
     QuickLinkSettingNewEditDlg dialog;
-    const QList<Member> members = membersOf(&dialog);
-    for (const Member& member : members)
+    const QList<PointerMember> members = membersOf(&dialog);
+    for (const PointerMember& member : members)
         QTest::newRow(member.name) << QString::fromLatin1(member.name);
 }
 
@@ -97,7 +97,7 @@ void DialogConstruction::freshObjectMakesNoWidget()
 void DialogConstruction::membersStandInTheirOrder()
 {
     QuickLinkSettingNewEditDlg dialog;
-    const QList<Member> members = membersOf(&dialog);
+    const QList<PointerMember> members = membersOf(&dialog);
     for (int i = 1; i < members.size(); ++i)
         QVERIFY2(members.at(i - 1).address < members.at(i).address, members.at(i).name);
     const void* const last = members.last().address;
@@ -231,8 +231,8 @@ void DialogConstruction::widgetIsInTheFrame_data()
 {
     QTest::addColumn<QString>("member");
     QuickLinkSettingNewEditDlg dialog;
-    const QList<Member> members = membersOf(&dialog);
-    for (const Member& member : members) {
+    const QList<PointerMember> members = membersOf(&dialog);
+    for (const PointerMember& member : members) {
         if (qstrcmp(member.name, "m_frameDialog") != 0)
             QTest::newRow(member.name) << QString::fromLatin1(member.name);
     }

@@ -36,8 +36,8 @@ void DialogHostDeletes::memberIsForgotten_data()
 {
     QTest::addColumn<QString>("member");
     QuickLinkSettingNewEditDlg dialog;
-    const QList<Member> members = membersOf(&dialog);
-    for (const Member& member : members)
+    const QList<PointerMember> members = membersOf(&dialog);
+    for (const PointerMember& member : members)
         QTest::newRow(member.name) << QString::fromLatin1(member.name);
 }
 
@@ -56,8 +56,8 @@ void DialogHostDeletes::frameAloneIsDeleted()
 {
     OpenDialog dialog;
     delete dialog->m_frameDialog;
-    const QList<Member> members = membersOf(dialog.get());
-    for (const Member& member : members)
+    const QList<PointerMember> members = membersOf(dialog.get());
+    for (const PointerMember& member : members)
         QVERIFY2(member.isNull(), member.name);
     QVERIFY(dialog.host());
 }

@@ -114,16 +114,16 @@ void DialogNames::namingWithout()
 {
     QFETCH(QString, member);
     OpenDialog dialog;
-    const QList<Member> members = membersOf(dialog.get());
-    for (const Member& one : members)
+    const QList<PointerMember> members = membersOf(dialog.get());
+    for (const PointerMember& one : members)
         one.object->setObjectName(QString());
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->setObjectNameNewDialog();
     }
     QCOMPARE(trace.countDebug(nullTrace("setObjectNameNewDialog")), 1);
-    for (const Member& one : members)
+    for (const PointerMember& one : members)
         QCOMPARE(one.object->objectName(), QString());
 }
 

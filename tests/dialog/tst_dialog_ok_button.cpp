@@ -315,7 +315,7 @@ void DialogOkButton::typingWithout()
         dialog->m_okBtn->setEnabled(isEnabled);
         const TraceRecorder trace;
         {
-            const NullMember missing(dialog.get(), member);
+            const NullMember missing(memberOf(dialog.get(), member));
             dialog->onEnterNameInApplication();
         }
         QCOMPARE(trace.countDebug(nullTrace("onEnterNameInApplication")), 1);
@@ -335,7 +335,7 @@ void DialogOkButton::movingWithout()
     dialog->m_okBtn->setEnabled(true);
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), member);
+        const NullMember missing(memberOf(dialog.get(), member));
         dialog->onDeleteNameInApplication();
     }
     QCOMPARE(trace.countDebug(nullTrace("onDeleteNameInApplication")), 1);

@@ -225,7 +225,7 @@ void DialogTexts::setsNothing(const QString& missingMember, void (QuickLinkSetti
     FakeHost::instance().language = QString::fromLatin1("fr");
     const TraceRecorder trace;
     {
-        const NullMember missing(dialog.get(), missingMember);
+        const NullMember missing(memberOf(dialog.get(), missingMember));
         (dialog.get()->*operation)();
     }
     QCOMPARE(trace.countDebug(nullTrace(name)), 1);

@@ -236,7 +236,7 @@ void DialogTypeChoice::choiceWithout()
         dialog->m_okBtn->setEnabled(true);
         const TraceRecorder trace;
         {
-            const NullMember missing(dialog.get(), member);
+            const NullMember missing(memberOf(dialog.get(), member));
             dialog->OnSelectComboItem(index);
         }
         QCOMPARE(trace.countDebug(nullTrace("OnSelectComboItem")), 1);

@@ -13,60 +13,22 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <cstring>
-
 #include "QuickLinkSettingNewEditDlg.h"
 
-QList<PageMember> membersOf(QuickLinkSettingPluginDlg* page)
+QList<PointerMember> membersOf(QuickLinkSettingPluginDlg* page)
 {
-#define MEMBER(name)                                                                                                   \
-    PageMember                                                                                                         \
-    {                                                                                                                  \
-#name, &page->name, page->name                                                                                 \
-    }
-    return QList<PageMember>() << MEMBER(m_pageWidget) << MEMBER(m_QLinkTabWidget) << MEMBER(m_QLinkTab)
-                               << MEMBER(m_QLinkListTblView) << MEMBER(m_launchOrderLbl) << MEMBER(m_upBtn)
-                               << MEMBER(m_downBtn) << MEMBER(m_newBtn) << MEMBER(m_editBtn) << MEMBER(m_deleteBtn)
-                               << MEMBER(m_pageLayout) << MEMBER(m_tabLayout) << MEMBER(m_buttonColumnLayout)
-                               << MEMBER(m_orderButtonsLayout);
+#define MEMBER(name) pointerMember(#name, page->name)
+    return QList<PointerMember>() << MEMBER(m_pageWidget) << MEMBER(m_QLinkTabWidget) << MEMBER(m_QLinkTab)
+                                  << MEMBER(m_QLinkListTblView) << MEMBER(m_launchOrderLbl) << MEMBER(m_upBtn)
+                                  << MEMBER(m_downBtn) << MEMBER(m_newBtn) << MEMBER(m_editBtn) << MEMBER(m_deleteBtn)
+                                  << MEMBER(m_pageLayout) << MEMBER(m_tabLayout) << MEMBER(m_buttonColumnLayout)
+                                  << MEMBER(m_orderButtonsLayout);
 #undef MEMBER
 }
 
-PageMember memberOf(QuickLinkSettingPluginDlg* page, const QString& name)
+PointerMember memberOf(QuickLinkSettingPluginDlg* page, const QString& name)
 {
-    const QList<PageMember> members = membersOf(page);
-    for (const PageMember& member : members) {
-        if (QLatin1String(member.name) == name)
-            return member;
-    }
-    qFatal("The page has no member %s", qPrintable(name));
-    return members.first();
-}
-
-NullPageMember::NullPageMember(QuickLinkSettingPluginDlg* page, const QString& name)
-    : m_address(memberOf(page, name).address)
-    , m_value(nullptr)
-{
-    std::memcpy(&m_value, m_address, sizeof m_value);
-    std::memset(m_address, 0, sizeof m_value);
-}
-
-NullPageMember::~NullPageMember()
-{
-    std::memcpy(m_address, &m_value, sizeof m_value);
-}
-
-void addMemberRows(const char* names)
-{
-    QTest::addColumn<QString>("member");
-    const QStringList all = QString::fromLatin1(names).split(QLatin1Char(' '));
-    for (const QString& name : all)
-        QTest::newRow(qPrintable(QLatin1String("no ") + name)) << name;
-}
-
-QString nullTrace(const char* function)
-{
-    return tracePattern((QByteArray("Arg is NULL: %T: %F: ") + function + " %L").constData());
+    return memberNamed(membersOf(page), name);
 }
 
 QuickLinkRecordList links(const char* names)

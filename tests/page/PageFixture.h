@@ -13,36 +13,15 @@
 
 #include "ExtendDialog.h"
 #include "LoadedPlugin.h"
+#include "PointerMembers.h"
 
 class QuickLinkSettingNewEditDlg;
 
-/** A widget or layout member of the page. */
-struct PageMember {
-    const char* name;
-    void* address;   ///< of the member itself
-    QObject* object; ///< what it points at
-};
-
 /** The ten widgets, then the four layouts, of a page that may be half built. */
-QList<PageMember> membersOf(QuickLinkSettingPluginDlg* page);
+QList<PointerMember> membersOf(QuickLinkSettingPluginDlg* page);
 
 /** The one of that name. */
-PageMember memberOf(QuickLinkSettingPluginDlg* page, const QString& name);
-
-/** Makes a widget or layout member null while it lives; the object it pointed at stays. */
-class NullPageMember
-{
-public:
-    NullPageMember(QuickLinkSettingPluginDlg* page, const QString& name);
-    ~NullPageMember();
-
-private:
-    NullPageMember(const NullPageMember&);
-    NullPageMember& operator=(const NullPageMember&);
-
-    void* m_address;
-    void* m_value;
-};
+PointerMember memberOf(QuickLinkSettingPluginDlg* page, const QString& name);
 
 /** Gives a pointer variable another value while it lives. */
 template <class T>
@@ -64,12 +43,6 @@ private:
     T*& m_pointer;
     T* m_before;
 };
-
-/** Adds a test row "no <name>" for each of the names, which blanks separate, with the name in the column "member". */
-void addMemberRows(const char* names);
-
-/** The pattern of the line that function leaves when a pointer that it needs is null. */
-QString nullTrace(const char* function);
 
 /** Links of the given names, which blanks separate: Internet, e-mail and application in turn, with ids from 0. */
 QuickLinkRecordList links(const char* names);

@@ -51,8 +51,9 @@ void PageBuilding::buildWidgets()
 
 void PageBuilding::initializeWithout_data()
 {
-    addMemberRows("m_pageWidget m_QLinkTabWidget m_QLinkTab m_QLinkListTblView m_launchOrderLbl m_upBtn m_downBtn "
-                  "m_newBtn m_editBtn m_deleteBtn m_pageLayout m_tabLayout m_buttonColumnLayout m_orderButtonsLayout");
+    addMemberRows(
+        names("m_pageWidget m_QLinkTabWidget m_QLinkTab m_QLinkListTblView m_launchOrderLbl m_upBtn m_downBtn "
+              "m_newBtn m_editBtn m_deleteBtn m_pageLayout m_tabLayout m_buttonColumnLayout m_orderButtonsLayout"));
 }
 
 void PageBuilding::initializeWithout()
@@ -60,7 +61,7 @@ void PageBuilding::initializeWithout()
     QFETCH(QString, member);
     buildWidgets();
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->initializeUI();
         QCOMPARE(trace.countDebug(tracePattern("%F: initializeUI: Cell-Log UI Intialization Failed: ")), 1);
@@ -68,8 +69,8 @@ void PageBuilding::initializeWithout()
         QCOMPARE(trace.countDebug(QLatin1String("End of .*")), 0);
         QCOMPARE(trace.warningLines, QStringList());
     }
-    const QList<PageMember> members = membersOf(m_page.page);
-    for (const PageMember& each : members) {
+    const QList<PointerMember> members = membersOf(m_page.page);
+    for (const PointerMember& each : members) {
         QCOMPARE(each.object->objectName(), QString());
         QVERIFY(!QObject::disconnect(each.object, nullptr, m_page.page, nullptr));
     }
@@ -79,8 +80,8 @@ void PageBuilding::initializeWithout()
 
 void PageBuilding::namesWithout_data()
 {
-    addMemberRows("m_QLinkTabWidget m_QLinkTab m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_newBtn "
-                  "m_editBtn m_deleteBtn");
+    addMemberRows(names("m_QLinkTabWidget m_QLinkTab m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_newBtn "
+                        "m_editBtn m_deleteBtn"));
 }
 
 void PageBuilding::namesWithout()
@@ -88,21 +89,22 @@ void PageBuilding::namesWithout()
     QFETCH(QString, member);
     buildWidgets();
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->setObjectNameDlg();
         QCOMPARE(trace.countDebug(nullTrace("setObjectNameDlg")), 1);
     }
-    const QList<PageMember> members = membersOf(m_page.page);
-    for (const PageMember& each : members)
+    const QList<PointerMember> members = membersOf(m_page.page);
+    for (const PointerMember& each : members)
         QCOMPARE(each.object->objectName(), QString());
 }
 
 void PageBuilding::layoutWithout_data()
 {
-    addMemberRows("m_pageLayout m_tabLayout m_orderButtonsLayout m_buttonColumnLayout m_QLinkTabWidget "
-                  "m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_QLinkTab m_newBtn m_editBtn m_deleteBtn "
-                  "m_pageWidget");
+    addMemberRows(
+        names("m_pageLayout m_tabLayout m_orderButtonsLayout m_buttonColumnLayout m_QLinkTabWidget "
+              "m_launchOrderLbl m_QLinkListTblView m_upBtn m_downBtn m_QLinkTab m_newBtn m_editBtn m_deleteBtn "
+              "m_pageWidget"));
 }
 
 void PageBuilding::layoutWithout()
@@ -110,7 +112,7 @@ void PageBuilding::layoutWithout()
     QFETCH(QString, member);
     buildWidgets();
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->setDisplayLayout();
         QCOMPARE(trace.countDebug(nullTrace("setDisplayLayout")), 1);
@@ -126,7 +128,7 @@ void PageBuilding::layoutWithout()
 
 void PageBuilding::textsWithout_data()
 {
-    addMemberRows("m_launchOrderLbl m_upBtn m_downBtn m_QLinkTabWidget m_newBtn m_editBtn m_deleteBtn");
+    addMemberRows(names("m_launchOrderLbl m_upBtn m_downBtn m_QLinkTabWidget m_newBtn m_editBtn m_deleteBtn"));
 }
 
 void PageBuilding::textsWithout()
@@ -135,7 +137,7 @@ void PageBuilding::textsWithout()
     m_page.begin(links("One"));
     FakeHost::instance().language = QLatin1String("de");
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->setDisplayString();
         QCOMPARE(trace.countDebug(nullTrace("setDisplayString")), 1);
@@ -154,7 +156,7 @@ void PageBuilding::textsWithoutTab()
     // The tab page is not among what is checked: the other texts are set all the same.
     m_page.begin(links("One"));
     FakeHost::instance().language = QLatin1String("de");
-    const NullPageMember missing(m_page.page, QLatin1String("m_QLinkTab"));
+    const NullMember missing(memberOf(m_page.page, QLatin1String("m_QLinkTab")));
     m_page.page->setDisplayString();
     QCOMPARE(m_page.page->m_deleteBtn->text(), shown("IDS_LINK_SETTING_DEL"));
     QCOMPARE(m_page.page->m_QLinkTabWidget->tabText(0), QString::fromLatin1("en:IDS_LINK_SETTING_TAB"));
@@ -261,7 +263,7 @@ void PageBuilding::laterOperationsRunOnAHalfBuiltPage()
 {
     buildWidgets();
     {
-        const NullPageMember missing(m_page.page, QLatin1String("m_orderButtonsLayout"));
+        const NullMember missing(memberOf(m_page.page, QLatin1String("m_orderButtonsLayout")));
         m_page.page->initializeUI();
     }
     m_page.page->fillTable();

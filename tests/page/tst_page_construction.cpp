@@ -63,8 +63,8 @@ QString PageConstruction::nameOf(const QObject* object) const
 {
     if (object == m_page.host)
         return QLatin1String("host");
-    const QList<PageMember> members = membersOf(m_page.page);
-    for (const PageMember& member : members) {
+    const QList<PointerMember> members = membersOf(m_page.page);
+    for (const PointerMember& member : members) {
         if (member.object == object)
             return QLatin1String(member.name);
     }

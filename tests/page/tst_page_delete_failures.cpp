@@ -75,7 +75,7 @@ void PageDeleteFailures::memberMissing()
     m_file = FakeHost::instance().readConfig();
     FakeHost::instance().messageAnswer = answer;
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->onDeleteBtnClick();
         QCOMPARE(trace.countDebug(tracePattern("Arg is NULL: %T: %F: .* %L")), isUntouched ? 1 : 0);

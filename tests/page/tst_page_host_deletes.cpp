@@ -273,8 +273,8 @@ void PageHostDeletes::membersAreNull()
 {
     QFETCH(QString, state);
     deleteIn(state);
-    const QList<PageMember> members = membersOf(m_page.page);
-    for (const PageMember& member : members)
+    const QList<PointerMember> members = membersOf(m_page.page);
+    for (const PointerMember& member : members)
         QVERIFY2(!member.object, member.name);
     QVERIFY(!m_page.page->m_nameHeaderItem);
     QVERIFY(!m_page.page->m_typeHeaderItem);

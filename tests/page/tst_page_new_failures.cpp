@@ -64,7 +64,7 @@ void PageNewFailures::noTable()
     const QByteArray before = FakeHost::instance().readConfig();
     QuickLinkRecord record = makeRecord("b", "email", "mailto:");
     {
-        const NullPageMember missing(m_page.page, QLatin1String("m_QLinkListTblView"));
+        const NullMember missing(memberOf(m_page.page, QLatin1String("m_QLinkListTblView")));
         TraceRecorder trace;
         m_page.page->AddRecord(&record);
         QCOMPARE(trace.countDebug(nullTrace("AddRecord")), 1);

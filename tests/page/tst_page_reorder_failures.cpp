@@ -89,7 +89,7 @@ void PageReorderFailures::memberMissing()
     m_file = FakeHost::instance().readConfig();
     {
         const bool noList = missing == QLatin1String("list");
-        const QScopedPointer<NullPageMember> member(noList ? nullptr : new NullPageMember(m_page.page, missing));
+        const QScopedPointer<NullMember> member(noList ? nullptr : new NullMember(memberOf(m_page.page, missing)));
         const Replaced<QuickLinkRecordList> list(m_page.page->m_recordList,
                                                  noList ? nullptr : m_page.page->m_recordList);
         TraceRecorder trace;
@@ -104,7 +104,7 @@ void PageReorderFailures::upNeedsNoUpButton()
 {
     m_page.begin(links("a b c"));
     m_page.select(1);
-    const NullPageMember missing(m_page.page, QLatin1String("m_upBtn"));
+    const NullMember missing(memberOf(m_page.page, QLatin1String("m_upBtn")));
     m_page.page->onUpBtnClick();
     QCOMPARE(m_page.shownNames(), QString::fromLatin1("b a c"));
     QCOMPARE(FakeHost::instance().readConfig(), m_page.expectedFile("3"));

@@ -122,7 +122,7 @@ void PageTableFailures::rowOutsideTheTable()
 
 void PageTableFailures::rightsWithout_data()
 {
-    addMemberRows("m_QLinkListTblView m_deleteBtn m_editBtn");
+    addMemberRows(names("m_QLinkListTblView m_deleteBtn m_editBtn"));
 }
 
 void PageTableFailures::rightsWithout()
@@ -132,7 +132,7 @@ void PageTableFailures::rightsWithout()
     m_page.button("m_editBtn")->setEnabled(false);
     m_page.button("m_deleteBtn")->setEnabled(false);
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->enableDeleteEditButton();
         QCOMPARE(trace.countDebug(nullTrace("enableDeleteEditButton")), 1);
@@ -142,7 +142,7 @@ void PageTableFailures::rightsWithout()
 
 void PageTableFailures::rulesWithout_data()
 {
-    addMemberRows("m_QLinkListTblView m_upBtn m_downBtn");
+    addMemberRows(names("m_QLinkListTblView m_upBtn m_downBtn"));
 }
 
 void PageTableFailures::rulesWithout()
@@ -152,7 +152,7 @@ void PageTableFailures::rulesWithout()
     m_page.button("m_editBtn")->setEnabled(false);
     m_page.button("m_downBtn")->setEnabled(false);
     {
-        const NullPageMember missing(m_page.page, member);
+        const NullMember missing(memberOf(m_page.page, member));
         TraceRecorder trace;
         m_page.page->onClickQuickLinkRow(0);
         QCOMPARE(trace.countDebug(nullTrace("onClickQuickLinkRow")), 1);
@@ -165,7 +165,7 @@ void PageTableFailures::selectionWithoutTable()
     m_page.begin(links("a b"));
     m_page.button("m_editBtn")->setEnabled(false);
     {
-        const NullPageMember missing(m_page.page, QLatin1String("m_QLinkListTblView"));
+        const NullMember missing(memberOf(m_page.page, QLatin1String("m_QLinkListTblView")));
         TraceRecorder trace;
         m_page.page->onTableSelectionChanged();
         QCOMPARE(trace.countDebug(nullTrace("onTableSelectionChanged")), 1);

@@ -24,6 +24,12 @@ inline void end()
     QuickLinkXmlParse::Destroy();
 }
 
+/** The one store, made when it is asked for. */
+inline QuickLinkXmlParse* store()
+{
+    return QuickLinkXmlParse::GetInstance();
+}
+
 /** The document that all small documents of these tests are: the root around content. */
 inline QByteArray document(const QByteArray& content)
 {
@@ -35,13 +41,13 @@ inline int readBytes(const QByteArray& bytes)
 {
     if (!FakeHost::instance().writeConfig(bytes))
         return -1;
-    return QuickLinkXmlParse::GetInstance()->ReadXmlInformation();
+    return store()->ReadXmlInformation();
 }
 
 /** The names in the store's list, joined by commas; "no list" where there is none. */
 inline QString names()
 {
-    const QuickLinkRecordList* const list = QuickLinkXmlParse::GetInstance()->m_recordList;
+    const QuickLinkRecordList* const list = store()->m_recordList;
     if (!list)
         return QLatin1String("no list");
     QStringList result;

@@ -230,8 +230,8 @@ void TestBrokenFiles::everyByteDamaged()
             QByteArray damaged = good;
             damaged[place] = damage;
             QCOMPARE(readBytes(damaged), 0);
-            QVERIFY(QuickLinkXmlParse::GetInstance()->m_recordList->size() <= 3);
-            for (const QuickLinkRecord& record : *QuickLinkXmlParse::GetInstance()->m_recordList)
+            QVERIFY(store()->m_recordList->size() <= 3);
+            for (const QuickLinkRecord& record : *store()->m_recordList)
                 QCOMPARE(record.visible, QStringLiteral("1"));
         }
     }
@@ -264,16 +264,15 @@ void TestBrokenFiles::externalEntityIsNotRead()
         "<!DOCTYPE tovadoc [<!ENTITY x SYSTEM \"file://" + path.toUtf8() + "\">]><tovadoc>" + content + "</tovadoc>";
     QCOMPARE(readBytes(bytes), 0);
     QCOMPARE(names(), expected);
-    QuickLinkXmlParse* const store = QuickLinkXmlParse::GetInstance();
-    QVERIFY(!store->m_visible.contains(QLatin1String("secret")));
-    QVERIFY(!store->m_currentId.contains(QLatin1String("secret")));
+    QVERIFY(!store()->m_visible.contains(QLatin1String("secret")));
+    QVERIFY(!store()->m_currentId.contains(QLatin1String("secret")));
 }
 
 void TestBrokenFiles::folderInPlaceOfFile()
 {
     const QString path = FakeHost::instance().configPath();
     QVERIFY(QDir().mkpath(path + QLatin1String("/inner")));
-    QCOMPARE(QuickLinkXmlParse::GetInstance()->ReadXmlInformation(), 25);
+    QCOMPARE(store()->ReadXmlInformation(), 25);
     QCOMPARE(names(), QString());
     QVERIFY(QFileInfo(path + QLatin1String("/inner")).isDir());
 }
@@ -299,12 +298,11 @@ void TestBrokenFiles::hugeAttribute()
         QCOMPARE(static_cast<int>(file.write(megabyte)), 1 << 20);
     file.write(end);
     file.close();
-    QuickLinkXmlParse* const store = QuickLinkXmlParse::GetInstance();
-    QCOMPARE(store->ReadXmlInformation(), 0);
-    QCOMPARE(store->m_recordList->size(), count);
-    QCOMPARE(store->m_recordList->at(1).name, QStringLiteral("b"));
+    QCOMPARE(store()->ReadXmlInformation(), 0);
+    QCOMPARE(store()->m_recordList->size(), count);
+    QCOMPARE(store()->m_recordList->at(1).name, QStringLiteral("b"));
     if (count == 3)
-        QCOMPARE(static_cast<int>(store->m_recordList->at(2).name.size()), megabytes << 20);
+        QCOMPARE(static_cast<int>(store()->m_recordList->at(2).name.size()), megabytes << 20);
 }
 
 QTEST_MAIN(TestBrokenFiles)

@@ -33,11 +33,6 @@ QuickLinkRecord fullRecord()
     record.edit = QLatin1String("E");
     return record;
 }
-
-QuickLinkXmlParse* store()
-{
-    return QuickLinkXmlParse::GetInstance();
-}
 } // namespace
 
 class TestReader : public QObject

@@ -11,11 +11,6 @@ using namespace StoreFixture;
 
 namespace
 {
-QuickLinkXmlParse* store()
-{
-    return QuickLinkXmlParse::GetInstance();
-}
-
 /** A record with text in every field but the one that must be "1" to be read. */
 QuickLinkRecord filledWith(const QString& text)
 {

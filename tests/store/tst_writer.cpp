@@ -14,11 +14,6 @@ using namespace StoreFixture;
 
 namespace
 {
-QuickLinkXmlParse* store()
-{
-    return QuickLinkXmlParse::GetInstance();
-}
-
 QuickLinkRecord numbered(const char* id, const char* name)
 {
     QuickLinkRecord record = makeRecord(name, "internet", "www.example.org");

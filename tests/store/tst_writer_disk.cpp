@@ -16,11 +16,6 @@ namespace
 {
 const char oldBytes[] = "old bytes";
 
-QuickLinkXmlParse* store()
-{
-    return QuickLinkXmlParse::GetInstance();
-}
-
 /** Links whose document is longer than a megabyte. */
 QuickLinkRecordList manyLinks()
 {
