@@ -24,7 +24,8 @@ QWidget* PageArea::ground() const
 void PageArea::setPage(QWidget* page)
 {
     m_page = page;
-    ground()->setMinimumSize(page ? page->sizeHint().expandedTo(page->minimumSizeHint()) : QSize(0, 0));
+    ground()->setMinimumSize(page ? page->sizeHint().expandedTo(page->minimumSizeHint()).expandedTo(page->minimumSize())
+                                  : QSize(0, 0));
     if (page)
         page->setGeometry(ground()->rect());
     updateGeometry();
