@@ -51,6 +51,8 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
 {
     if (current && (type == QtDebugMsg || type == QtWarningMsg))
         record(type, text);
+    else if (current && type == QtInfoMsg)
+        current->infoLines.append(text);
     else if (previous)
         previous(type, context, text);
 }

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/** Catches what is written to the debug and warning channels while it lives; only one at a time. */
+/** Catches what is written to the debug, information and warning channels while it lives; only one at a time. */
 class TraceRecorder
 {
 public:
@@ -15,6 +15,7 @@ public:
     ~TraceRecorder();
 
     QStringList debugLines;
+    QStringList infoLines;
     QStringList warningLines;
 
     /** How many debug lines match the whole regular expression. */

@@ -13,6 +13,7 @@
 
 #include "CommonUtils.h"
 #include "MessageOnScreen.h"
+#include "NoticeOnScreen.h"
 
 class OpenUrlTest : public QObject
 {
@@ -40,17 +41,6 @@ private:
 };
 
 static const char* const schemes[] = {"http", "https", "ftp", "file", "javascript", "mailto"};
-
-static QMessageBox* notice()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        QMessageBox* const box = qobject_cast<QMessageBox*>(window);
-        if (box && box->isVisible() && !box->isModal())
-            return box;
-    }
-    return nullptr;
-}
 
 /** Clicks as the window system would, which does not reach a window blocked by a modal one. */
 static void clickOk(QMessageBox* box)

@@ -11,26 +11,7 @@
 #include <QTest>
 
 #include "SampleFolder.h"
-
-/** The process as a user without rights, for as long as this lives; nothing changes for who is none already. */
-class WithoutPrivileges
-{
-public:
-    WithoutPrivileges()
-        : m_isRoot(geteuid() == 0)
-    {
-        m_done = !m_isRoot || setresuid(65534, 65534, 0) == 0;
-    }
-    ~WithoutPrivileges()
-    {
-        if (m_isRoot && setresuid(0, 0, 0) != 0)
-            qFatal("cannot go back to the privileged user");
-    }
-    bool isDone() const { return m_done; }
-
-private:
-    bool m_isRoot, m_done;
-};
+#include "WithoutPrivileges.h"
 
 class PluginLoadingTest : public QObject
 {

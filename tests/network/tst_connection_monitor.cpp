@@ -5,36 +5,7 @@
 #include <QtTest>
 
 #include "ConnectionMonitor.h"
-
-/** A service whose every answer the test gives. */
-class PlayedSource : public ConnectionSource
-{
-    Q_OBJECT
-
-public:
-    bool isAvailable() const override { return available; }
-    ConnectionState state() const override { return available ? current : ConnectionState(); }
-    bool isStillUp() const override { return stillUp; }
-
-    void become(const QString& id, ConnectionState::Reach reach = ConnectionState::Reach::Full)
-    {
-        current = ConnectionState();
-        current.isUp = stillUp = !id.isEmpty();
-        current.id = id;
-        current.reach = reach;
-        Q_EMIT changed();
-    }
-
-    void setAvailable(bool isThere)
-    {
-        available = isThere;
-        Q_EMIT availabilityChanged();
-    }
-
-    bool available = true;
-    bool stillUp = false;
-    ConnectionState current;
-};
+#include "PlayedSource.h"
 
 class TestConnectionMonitor : public QObject
 {

@@ -7,9 +7,9 @@
 #include <QStringList>
 #include <QVariant>
 
-#include "IBasePlugin.h"
 #include "INotify.h"
 #include "IPluginContainer.h"
+#include "PlainAnswers.h"
 #include "Startup.h"
 
 static void record(const QString& event)
@@ -28,7 +28,7 @@ public:
     ~LateObject() override { record(QStringLiteral("late")); }
 };
 
-class SamplePlugin : public QObject, public IBasePlugin, public INotify
+class SamplePlugin : public QObject, public PlainAnswers<IBasePlugin>, public INotify
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.norvik.vellumconnect.plugin.IBasePlugin")
@@ -37,20 +37,14 @@ class SamplePlugin : public QObject, public IBasePlugin, public INotify
 public:
     ~SamplePlugin() override { record(QStringLiteral("gone")); }
 
-    void Release() override {}
-    int GetLastError() override { return 0; }
     int Init() override
     {
         record(QStringLiteral("Init"));
         return SAMPLE_INIT;
     }
-    int GetPluginType() override { return 0; }
     // Data of the library itself, which the host must not keep beyond it.
     QString GetCLSID() override { return QStringLiteral(SAMPLE_CLSID); }
-    int GetVersion() override { return 0x100; }
     QString GetPluginName() override { return QStringLiteral(SAMPLE_NAME); }
-    int IsAllowRelease() override { return 1; }
-    int QueryInterface(int, QObject**) override { return 0; }
     void OnDestroy() override
     {
         const bool isListed = Startup::GetPluginContainer()->GetPlugin(GetCLSID(), 0) == this;

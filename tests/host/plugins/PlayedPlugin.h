@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QPointer>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+#include "INotify.h"
+#include "IQuickLinkPlugin.h"
+#include "ISettingUIPlugin.h"
+#include "IUIPlugin.h"
+#include "PlainAnswers.h"
+
+/**
+ * A plug-in that answers what a test sets as its properties, and tells in the application's property "events" what
+ * happens to it, so that this outlives the plug-in.
+ *
+ *   links      names of its links; an empty one has no action
+ *   linkCount  how many links it claims to have, where that is another number
+ *   answer     to a notification
+ *   caption    of its settings page; empty for none
+ *   isPageless whether it shows no page although it has a caption
+ *   pageSize   smallest size of the page
+ *   refuses    whether it does not let the settings dialog close
+ */
+class PlayedPlugin : public QObject,
+                     public PlainAnswers<IUIPlugin>,
+                     public INotify,
+                     public IQuickLinkPlugin,
+                     public ISettingUIPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IBasePlugin IUIPlugin INotify IQuickLinkPlugin ISettingUIPlugin)
+
+public:
+    explicit PlayedPlugin(const QString& name) { setObjectName(name); }
+
+    /** "<plug-in> <event>" of all these plug-ins in order, since the last call. */
+    static QStringList takeEvents()
+    {
+        QStringList events = qApp->property("events").toStringList();
+        qApp->setProperty("events", QVariant());
+        return events;
+    }
+
+    QString GetCLSID() override { return objectName(); }
+    QString GetPluginName() override { return objectName(); }
+    void OnDestroy() override
+    {
+        int windows = 0;
+        const QWidgetList all = QApplication::topLevelWidgets();
+        for (const QWidget* window : all)
+            windows += qobject_cast<const QMainWindow*>(window) ? 1 : 0;
+        record(QStringLiteral("OnDestroy, %1 windows").arg(windows));
+    }
+
+    int ShowWindow(QWidget*, QRect&) override { return 0; }
+    int DoModal() override { return 0; }
+    void Hide() override {}
+    void FitSize(QRect&) override {}
+    int IsReady() override { return 0; }
+    int ChangeLang(const QString& language) override
+    {
+        record(QStringLiteral("ChangeLang ") + language);
+        return 1;
+    }
+
+    int Notify(unsigned int code, unsigned int param1, unsigned int param2) override
+    {
+        record(QStringLiteral("Notify %1 %2 %3").arg(code).arg(param1).arg(param2));
+        return property("answer").toInt();
+    }
+
+    int GetQuickLinkRecordSize() override
+    {
+        record(QStringLiteral("asked"));
+        const QVariant count = property("linkCount");
+        return count.isValid() ? count.toInt() : int(property("links").toStringList().size());
+    }
+    QAction* GetActionFromQuickLink(int index) override
+    {
+        const QString name = property("links").toStringList().value(index);
+        return name.isEmpty() ? nullptr : new QAction(name, this);
+    }
+    void LaunchQuickLinkAction(QAction* action) override
+    {
+        const bool isOwn = findChildren<QAction*>().contains(action);
+        record(isOwn ? QStringLiteral("launched ") + action->text() : QStringLiteral("launched a foreign action"));
+    }
+
+    int OnClickSettingOkButton() override
+    {
+        record(QStringLiteral("OK"));
+        return property("refuses").toBool() ? 0 : 1;
+    }
+    int OnClickSettingCancelButton() override
+    {
+        record(QStringLiteral("Cancel"));
+        return property("refuses").toBool() ? 0 : 1;
+    }
+    int ShowSettingDialog(QWidget* parent, QRect& area) override
+    {
+        record(QStringLiteral("shown"));
+        if (property("isPageless").toBool())
+            return 0;
+        if (!m_page) {
+            m_page = new QWidget(parent);
+            m_page->setObjectName(objectName());
+            m_page->setMinimumSize(property("pageSize").toSize().expandedTo(QSize(0, 0)));
+        }
+        m_page->setGeometry(area);
+        m_page->show();
+        return 1;
+    }
+    QString GetModuleName() override { return property("caption").toString(); }
+    int HideSetting() override
+    {
+        record(QStringLiteral("hidden"));
+        if (m_page)
+            m_page->hide();
+        return 1;
+    }
+    int IsActiveSetting() override { return 1; }
+
+private:
+    void record(const QString& event) const
+    {
+        qApp->setProperty("events", qApp->property("events").toStringList() << objectName() + QLatin1Char(' ') + event);
+    }
+
+    QPointer<QWidget> m_page;
+};

@@ -1,0 +1,290 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// What the window says of the connection.
+
+#include <QLabel>
+#include <QLayout>
+#include <QLocale>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+
+#include "ConnectionMonitor.h"
+#include "ConnectionPanel.h"
+#include "MarkingTranslator.h"
+#include "PlayedSource.h"
+
+using Reach = ConnectionState::Reach;
+
+class ConnectionPanelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void saysHowItIs_data();
+    void saysHowItIs();
+    void saysWhatItWaitsFor_data();
+    void saysWhatItWaitsFor();
+    void hasARowForAllThatIsKnown_data();
+    void hasARowForAllThatIsKnown();
+    void saysSinceWhen();
+    void showsANameAsItStands();
+    void buttonIsThereWhereOnlyTheUserKnows_data();
+    void buttonIsThereWhereOnlyTheUserKnows();
+    void buttonTellsTheMonitor();
+    void summaryIsOneLine_data();
+    void summaryIsOneLine();
+    void followsTheLanguage();
+
+private:
+    void show(bool isManual, ConnectionKind kind = ConnectionKind::Any);
+    QStringList texts() const;
+    QPushButton* button() const { return m_panel->findChild<QPushButton*>(); }
+
+    std::unique_ptr<PlayedSource> m_made;
+    PlayedSource* m_source = nullptr; ///< the monitor's from show() on
+    std::unique_ptr<ConnectionMonitor> m_monitor;
+    std::unique_ptr<ConnectionPanel> m_panel;
+};
+
+void ConnectionPanelTest::init()
+{
+    m_made = std::make_unique<PlayedSource>();
+    m_source = m_made.get();
+    m_monitor = std::make_unique<ConnectionMonitor>();
+}
+
+void ConnectionPanelTest::cleanup()
+{
+    m_panel.reset();
+    m_monitor.reset();
+}
+
+void ConnectionPanelTest::show(bool isManual, ConnectionKind kind)
+{
+    m_monitor->start(isManual ? nullptr : std::move(m_made));
+    m_panel = std::make_unique<ConnectionPanel>(*m_monitor, kind);
+    m_panel->resize(400, 300);
+    m_panel->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
+}
+
+/** What the user reads, line by line from the left. */
+QStringList ConnectionPanelTest::texts() const
+{
+    m_panel->layout()->activate();
+    QList<QLabel*> labels = m_panel->findChildren<QLabel*>();
+    std::sort(labels.begin(), labels.end(),
+              [](const QLabel* a, const QLabel* b) { return a->y() != b->y() ? a->y() < b->y() : a->x() < b->x(); });
+    QStringList texts;
+    for (const QLabel* label : qAsConst(labels)) {
+        if (label->isVisible())
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+void ConnectionPanelTest::saysHowItIs_data()
+{
+    QTest::addColumn<bool>("isUp");
+    QTest::addColumn<bool>("isComingUp");
+    QTest::addColumn<int>("reach");
+    QTest::addColumn<QStringList>("expected");
+    const QString connected = QStringLiteral("Connected");
+    const QStringList since{QStringLiteral("Since:"), QStringLiteral("before this program started")};
+    QTest::newRow("down") << false << false << int(Reach::Unknown)
+                          << QStringList{QStringLiteral("Not connected"), QStringLiteral("Waiting for a connection.")};
+    QTest::newRow("coming up") << false << true << int(Reach::Unknown)
+                               << QStringList(QString::fromUtf8("Connecting\xe2\x80\xa6"));
+    QTest::newRow("up") << true << false << int(Reach::Full) << QStringList(connected) + since;
+    QTest::newRow("nobody looked") << true << false << int(Reach::Unknown) << QStringList(connected) + since;
+    QTest::newRow("portal") << true << false << int(Reach::Portal)
+                            << QStringList{connected, QStringLiteral("This network asks for a login first.")} + since;
+    QTest::newRow("limited") << true << false << int(Reach::Limited)
+                             << QStringList{connected, QStringLiteral("The Internet is out of reach.")} + since;
+}
+
+void ConnectionPanelTest::saysHowItIs()
+{
+    QFETCH(bool, isUp);
+    QFETCH(bool, isComingUp);
+    QFETCH(int, reach);
+    ConnectionState state;
+    state.isUp = isUp;
+    state.isComingUp = isComingUp;
+    state.reach = Reach(reach);
+    state.id = isUp ? QStringLiteral("a") : QString();
+    m_source->become(state);
+    show(false);
+    QTEST(texts(), "expected");
+}
+
+void ConnectionPanelTest::saysWhatItWaitsFor_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("isManual");
+    QTest::addColumn<QString>("hint");
+    QTest::newRow("mobile") << int(ConnectionKind::Mobile) << false << QStringLiteral("Waiting for mobile broadband.");
+    QTest::newRow("any") << int(ConnectionKind::Any) << false << QStringLiteral("Waiting for a connection.");
+    QTest::newRow("manual") << int(ConnectionKind::Manual) << true
+                            << QStringLiteral("Press Connect when your connection is up.");
+    QTest::newRow("no service for mobile")
+        << int(ConnectionKind::Mobile) << true << QStringLiteral("Press Connect when your connection is up.");
+}
+
+void ConnectionPanelTest::saysWhatItWaitsFor()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, isManual);
+    QFETCH(QString, hint);
+    show(isManual, ConnectionKind(kind));
+    QCOMPARE(texts(), QStringList({QStringLiteral("Not connected"), hint}));
+}
+
+void ConnectionPanelTest::hasARowForAllThatIsKnown_data()
+{
+    QTest::addColumn<QStringList>("known"); // name, device, operator
+    QTest::addColumn<QStringList>("expected");
+    const QString name = QStringLiteral("Home"), device = QStringLiteral("wwan0"), mobile = QStringLiteral("Example");
+    QTest::newRow("all") << QStringList{name, device, mobile}
+                         << QStringList{QStringLiteral("Connection:"), name,   QStringLiteral("Device:"), device,
+                                        QStringLiteral("Operator:"),   mobile, QStringLiteral("Since:")};
+    QTest::newRow("name") << QStringList{name, QString(), QString()}
+                          << QStringList{QStringLiteral("Connection:"), name, QStringLiteral("Since:")};
+    QTest::newRow("device") << QStringList{QString(), device, QString()}
+                            << QStringList{QStringLiteral("Device:"), device, QStringLiteral("Since:")};
+    QTest::newRow("operator") << QStringList{QString(), QString(), mobile}
+                              << QStringList{QStringLiteral("Operator:"), mobile, QStringLiteral("Since:")};
+}
+
+void ConnectionPanelTest::hasARowForAllThatIsKnown()
+{
+    QFETCH(QStringList, known);
+    QFETCH(QStringList, expected);
+    ConnectionState state;
+    state.isUp = true;
+    state.id = QStringLiteral("a");
+    state.reach = Reach::Full;
+    state.name = known.at(0);
+    state.device = known.at(1);
+    state.operatorName = known.at(2);
+    show(false);
+    m_source->become(state);
+    QStringList rows = texts().mid(1);
+    QVERIFY(!rows.isEmpty());
+    rows.removeLast();
+    QCOMPARE(rows, expected);
+    // A screen reader says the caption with the value.
+    for (int i = 0; i + 1 < rows.size(); i += 2) {
+        QStringList spoken;
+        const QList<QLabel*> labels = m_panel->findChildren<QLabel*>();
+        for (const QLabel* label : labels)
+            spoken.append(label->accessibleName());
+        QVERIFY2(spoken.contains(rows.at(i) + QLatin1Char(' ') + rows.at(i + 1)), qPrintable(rows.at(i)));
+    }
+    m_source->become(QString());
+    QCOMPARE(texts(), QStringList({QStringLiteral("Not connected"), QStringLiteral("Waiting for a connection.")}));
+}
+
+void ConnectionPanelTest::saysSinceWhen()
+{
+    show(false);
+    m_source->become(QStringLiteral("a"));
+    const QTime time = m_monitor->upSince().time();
+    QVERIFY(time.isValid());
+    QCOMPARE(texts(), QStringList({QStringLiteral("Connected"), QStringLiteral("Since:"),
+                                   QLocale().toString(time, QLocale::ShortFormat)}));
+}
+
+void ConnectionPanelTest::showsANameAsItStands()
+{
+    show(false);
+    ConnectionState state;
+    state.isUp = true;
+    state.id = QStringLiteral("a");
+    state.name = QStringLiteral("<b>Home</b>");
+    m_source->become(state);
+    const QList<QLabel*> labels = m_panel->findChildren<QLabel*>();
+    int found = 0;
+    for (const QLabel* label : labels) {
+        if (label->text() != state.name)
+            continue;
+        ++found;
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+    }
+    QCOMPARE(found, 1);
+}
+
+void ConnectionPanelTest::buttonIsThereWhereOnlyTheUserKnows_data()
+{
+    QTest::addColumn<bool>("isManual");
+    QTest::addColumn<bool>("isAvailable");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("service") << false << true << false;
+    QTest::newRow("service is gone") << false << false << true;
+    QTest::newRow("no service wanted") << true << false << true;
+}
+
+void ConnectionPanelTest::buttonIsThereWhereOnlyTheUserKnows()
+{
+    QFETCH(bool, isManual);
+    QFETCH(bool, isAvailable);
+    QFETCH(bool, isThere);
+    show(isManual);
+    if (!isManual)
+        m_source->setAvailable(isAvailable);
+    QCOMPARE(button()->isVisible(), isThere);
+}
+
+void ConnectionPanelTest::buttonTellsTheMonitor()
+{
+    show(true);
+    QCOMPARE(button()->text(), QStringLiteral("Co&nnect"));
+    QTest::mouseClick(button(), Qt::LeftButton);
+    QVERIFY(m_monitor->state().isUp);
+    QCOMPARE(button()->text(), QStringLiteral("&Disconnect"));
+    QCOMPARE(texts().constFirst(), QStringLiteral("Connected"));
+    QTest::mouseClick(button(), Qt::LeftButton);
+    QVERIFY(!m_monitor->state().isUp);
+    QCOMPARE(button()->text(), QStringLiteral("Co&nnect"));
+}
+
+void ConnectionPanelTest::summaryIsOneLine_data()
+{
+    QTest::addColumn<bool>("isUp");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("summary");
+    QTest::newRow("up with name") << true << QStringLiteral("Home") << QStringLiteral("Connected: Home");
+    QTest::newRow("up without name") << true << QString() << QStringLiteral("Connected");
+    QTest::newRow("down") << false << QString() << QStringLiteral("Not connected");
+}
+
+void ConnectionPanelTest::summaryIsOneLine()
+{
+    QFETCH(bool, isUp);
+    QFETCH(QString, name);
+    ConnectionState state;
+    state.isUp = isUp;
+    state.id = isUp ? QStringLiteral("a") : QString();
+    state.name = name;
+    m_source->become(state);
+    show(false);
+    QTEST(m_panel->summary(), "summary");
+}
+
+void ConnectionPanelTest::followsTheLanguage()
+{
+    show(true);
+    const MarkingTranslator other;
+    QTRY_COMPARE(texts(), QStringList({QStringLiteral("*Not connected"),
+                                       QStringLiteral("*Press Connect when your connection is up.")}));
+    QCOMPARE(button()->text(), QStringLiteral("*Co&nnect"));
+}
+
+QTEST_MAIN(ConnectionPanelTest)
+#include "tst_connection_panel.moc"

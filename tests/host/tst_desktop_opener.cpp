@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// One run of xdg-open, and what it means when it fails.
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "DesktopOpener.h"
+#include "RecordingDesktop.h"
+
+class DesktopOpenerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void handsOverTheTarget_data();
+    void handsOverTheTarget();
+    void saysWhyItFailed_data();
+    void saysWhyItFailed();
+    void saysThatItWasEndedFromOutside();
+    void saysWhatIsMissing();
+    void runsCutOff();
+};
+
+/** While it lives, PATH is this one folder, which is empty at first. */
+class OnlyPath
+{
+public:
+    OnlyPath()
+        : m_path(qgetenv("PATH"))
+    {
+        qputenv("PATH", QFile::encodeName(m_folder.path()));
+    }
+    ~OnlyPath() { qputenv("PATH", m_path); }
+
+    QString file(const QString& name) const { return m_folder.filePath(name); }
+
+private:
+    QTemporaryDir m_folder;
+    const QByteArray m_path;
+};
+
+/** Runs xdg-open to its end. The reason why it failed; empty where it did not. */
+static QString reasonOfRun(const QString& target)
+{
+    const QPointer<DesktopOpener> opener = new DesktopOpener(target);
+    QStringList reasons;
+    QObject::connect(opener.data(), &DesktopOpener::failed, qApp,
+                     [&reasons](const QString& reason) { reasons.append(reason); });
+    opener->start();
+    return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join(QLatin1Char('\n'))
+                                                           : QStringLiteral("it does not delete itself");
+}
+
+void DesktopOpenerTest::handsOverTheTarget_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("address") << QStringLiteral("http://example.org/?a=1&b=$HOME");
+    QTest::newRow("path") << QStringLiteral("/home/someone/My \"files\"; x");
+}
+
+void DesktopOpenerTest::handsOverTheTarget()
+{
+    QFETCH(QString, target);
+    const RecordingDesktop desktop;
+    QCOMPARE(reasonOfRun(target), QString());
+    QCOMPARE(desktop.opened(), QStringList(target));
+}
+
+void DesktopOpenerTest::saysWhyItFailed_data()
+{
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("reason");
+    const QString other = QStringLiteral("The desktop could not open this:");
+    QTest::newRow("0") << 0 << QString();
+    QTest::newRow("1") << 1 << other;
+    QTest::newRow("2") << 2 << QStringLiteral("There is no such file or folder:");
+    QTest::newRow("3") << 3 << QStringLiteral("No program was found that opens this:");
+    QTest::newRow("4") << 4 << QStringLiteral("The program that opens this reported a failure:");
+    QTest::newRow("5") << 5 << other;
+    QTest::newRow("255") << 255 << other;
+}
+
+void DesktopOpenerTest::saysWhyItFailed()
+{
+    QFETCH(int, exitCode);
+    const RecordingDesktop desktop;
+    desktop.answer(exitCode);
+    QTEST(reasonOfRun(QStringLiteral("/x")), "reason");
+    QCOMPARE(desktop.opened().size(), 1);
+}
+
+void DesktopOpenerTest::saysThatItWasEndedFromOutside()
+{
+    const OnlyPath path;
+    writeScript(path.file(QStringLiteral("xdg-open")), "kill -9 $$\n");
+    QCOMPARE(reasonOfRun(QStringLiteral("/x")), QStringLiteral("The desktop could not open this:"));
+}
+
+void DesktopOpenerTest::saysWhatIsMissing()
+{
+    const OnlyPath path;
+    QCOMPARE(reasonOfRun(QStringLiteral("/x")),
+             QStringLiteral("Opening this needs the program \"xdg-open\", which could not be started:"));
+}
+
+void DesktopOpenerTest::runsCutOff()
+{
+    // Neither this program's terminal nor its end may reach what was opened.
+    const QByteArray tools = qgetenv("PATH");
+    const OnlyPath path;
+    const QString record = path.file(QStringLiteral("record"));
+    writeScript(path.file(QStringLiteral("xdg-open")),
+                "PATH='" + tools +
+                    "'\nfiles=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
+                    "session=$(cut -d' ' -f6 /proc/$$/stat)\n"
+                    "printf '%s\\n' \"$files\" $((session - $$)) >'" +
+                    QFile::encodeName(record) + "'\n");
+    QCOMPARE(reasonOfRun(QStringLiteral("/x")), QString());
+    QFile file(record);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("/dev/null\n/dev/null\n/dev/null\n0\n"));
+}
+
+QTEST_GUILESS_MAIN(DesktopOpenerTest)
+#include "tst_desktop_opener.moc"

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The table of links on a terminal.
+
+#include <QTest>
+
+#include "LinkTable.h"
+#include "PlayedPlugin.h"
+
+class LinkTableTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsRowsInColumns();
+    void saysThatThereAreNone_data();
+    void saysThatThereAreNone();
+    void keepsARowOnItsLine();
+    void passesOverMissingActions();
+    void nameMayBeOfAPluginThatTellsNone();
+};
+
+/** A plug-in with links that does not say who it is. */
+class NamelessPlugin : public QObject, public IQuickLinkPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IQuickLinkPlugin)
+
+public:
+    int GetQuickLinkRecordSize() override { return 1; }
+    QAction* GetActionFromQuickLink(int) override { return new QAction(QStringLiteral("Lost"), this); }
+    void LaunchQuickLinkAction(QAction*) override {}
+};
+
+void LinkTableTest::showsRowsInColumns()
+{
+    PlayedPlugin first(QStringLiteral("Links"));
+    first.setProperty("links", QString(10, QLatin1Char('A')).split(QString(), Qt::SkipEmptyParts)
+                                   << QStringLiteral("A long name"));
+    QObject without;
+    PlayedPlugin second(QStringLiteral("More"));
+    second.setProperty("links", QStringList{QStringLiteral("B & C")});
+    QString expected = QStringLiteral(" #  Name         Plug-in\n");
+    for (int i = 1; i <= 10; ++i)
+        expected += QStringLiteral("%1  A            Links\n").arg(i, 2);
+    expected += QStringLiteral("11  A long name  Links\n"
+                               "12  B & C        More\n");
+    QCOMPARE(linkTable({&first, &without, &second}), expected);
+}
+
+void LinkTableTest::saysThatThereAreNone_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("no links") << 0;
+    QTest::newRow("none loaded") << -1;
+    QTest::newRow("no plug-in") << -2;
+}
+
+void LinkTableTest::saysThatThereAreNone()
+{
+    QFETCH(int, count);
+    PlayedPlugin plugin(QStringLiteral("Links"));
+    plugin.setProperty("links", QStringList{QStringLiteral("A")});
+    plugin.setProperty("linkCount", count);
+    QObject without;
+    QList<QObject*> plugins{&without};
+    if (count > -2)
+        plugins.append(&plugin);
+    QCOMPARE(linkTable(plugins), QStringLiteral("No quick links\n"));
+}
+
+void LinkTableTest::keepsARowOnItsLine()
+{
+    PlayedPlugin plugin(QStringLiteral("Links"));
+    plugin.setProperty("links", QStringList{QStringLiteral("a\tb"), QStringLiteral("c\nd")});
+    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
+                                                  "1  a b   Links\n"
+                                                  "2  c d   Links\n"));
+}
+
+void LinkTableTest::passesOverMissingActions()
+{
+    PlayedPlugin plugin(QStringLiteral("Links"));
+    plugin.setProperty("links", QStringList{QString(), QStringLiteral("b"), QString(), QStringLiteral("d")});
+    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
+                                                  "1  b     Links\n"
+                                                  "2  d     Links\n"));
+}
+
+void LinkTableTest::nameMayBeOfAPluginThatTellsNone()
+{
+    NamelessPlugin plugin;
+    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
+                                                  "1  Lost  \n"));
+}
+
+QTEST_MAIN(LinkTableTest)
+#include "tst_link_table.moc"
