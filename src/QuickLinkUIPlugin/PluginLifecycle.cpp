@@ -3,11 +3,8 @@
 
 // The plug-in's life: made, Init(), in use, OnDestroy(), deleted.
 
-#include <QTableWidget>
-
 #include "PluginTexts.h"
 #include "Pointers.h"
-#include "QuickLinkSettingNewEditDlg.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
 #include "Trace.h"
