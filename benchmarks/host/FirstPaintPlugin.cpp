@@ -49,9 +49,9 @@ protected:
 };
 } // namespace
 
-QObject* FirstPaintPlugin::create(const QString& name, const QString& specification)
+QObject* FirstPaintPlugin::create(const QString& name, const QString& arguments)
 {
     Q_UNUSED(name);
-    Q_UNUSED(specification);
+    Q_UNUSED(arguments);
     return new PaintWatch;
 }

@@ -17,5 +17,5 @@ class FirstPaintPlugin : public QGenericPlugin
 
 public:
     /** Begins to watch. The result is the caller's, which is Qt. */
-    QObject* create(const QString& name, const QString& specification) override;
+    QObject* create(const QString& name, const QString& arguments) override;
 };

@@ -71,10 +71,11 @@ void Host::showWindow(ConnectionKind kind)
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
     m_panel = new ConnectionPanel(m_monitor, kind);
-    LanguageMenu* const languages = new LanguageMenu(Translator::languages(), UserSettings::language());
-    QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& language) {
-        UserSettings::setLanguage(language);
-        setLanguage(language);
+    const QString language = m_translator.followsSystem() ? QString() : m_translator.current();
+    LanguageMenu* const languages = new LanguageMenu(Translator::languages(), language);
+    QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& chosen) {
+        UserSettings::setLanguage(chosen);
+        setLanguage(chosen);
     });
     m_window = std::make_unique<MainWindow>(m_panel, languages);
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
@@ -93,8 +94,8 @@ void Host::connectWindow()
     QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
     QObject::connect(window, &MainWindow::appeared, window, [this] { PluginNotifications::tellStarted(m_container); });
     QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
-    QObject::connect(window, &MainWindow::quitRequested, qApp, &QCoreApplication::quit);
-    QObject::connect(m_tray.get(), &Tray::quitRequested, qApp, &QCoreApplication::quit);
+    QObject::connect(window, &MainWindow::quitRequested, window, [this] { quit(); });
+    QObject::connect(m_tray.get(), &Tray::quitRequested, window, [this] { quit(); });
     QObject::connect(&m_monitor, &ConnectionMonitor::changed, window, [this] { showConnection(); });
     QObject::connect(&m_monitor, &ConnectionMonitor::announced, window, [this](bool isUp, const QString& reason) {
         PluginNotifications::tellConnectionChanged(m_container, isUp, reason);
@@ -123,7 +124,14 @@ void Host::windowClosed()
     if (Tray::isThere())
         m_tray->sayThatItGoesOn();
     else
-        QCoreApplication::quit();
+        quit();
+}
+
+void Host::quit()
+{
+    // Qt 6 closes the window on the way, which is not the user's doing then.
+    QObject::disconnect(m_window.get(), &MainWindow::closed, nullptr, nullptr);
+    QCoreApplication::quit();
 }
 
 void Host::showSettings()

@@ -57,6 +57,7 @@ private:
     void connectWindow();
     void showConnection();
     void windowClosed();
+    void quit();
     void showSettings();
     void showRefusals();
 

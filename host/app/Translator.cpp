@@ -40,6 +40,7 @@ QStringList Translator::languages()
 
 bool Translator::use(const QString& language)
 {
+    m_followsSystem = language.isEmpty();
     if (m_english.isEmpty() && m_english.load(catalogue + QStringLiteral("_en"), Places::translationFolder()))
         QCoreApplication::installTranslator(&m_english);
     QCoreApplication::removeTranslator(&m_toolkit);
@@ -60,6 +61,11 @@ bool Translator::use(const QString& language)
 QString Translator::current() const
 {
     return m_language.isEmpty() ? QStringLiteral("en") : languageOf(m_language.filePath());
+}
+
+bool Translator::followsSystem() const
+{
+    return m_followsSystem;
 }
 
 bool Translator::load(const QLocale& locale)

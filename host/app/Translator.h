@@ -28,9 +28,13 @@ public:
     /** The language that the texts are in, by the name that languages() has for it. */
     QString current() const;
 
+    /** Whether it is the system's, and not one asked for by its name. */
+    bool followsSystem() const;
+
 private:
     bool load(const QLocale& locale);
 
+    bool m_followsSystem = true;
     QTranslator m_english; ///< below the others
     QTranslator m_toolkit;
     QTranslator m_language;

@@ -293,10 +293,11 @@ void LanguageChangeTest::unknownLanguageIsEnglish()
 void LanguageChangeTest::choiceInTheMenuIsKept()
 {
     const QList<QAction*> actions = m_window->findChild<LanguageMenu*>()->actions();
-    for (QAction* action : actions) {
-        if (action->text() == QLatin1String("Deutsch"))
-            action->trigger();
-    }
+    QHash<QString, QAction*> byName;
+    for (QAction* action : actions)
+        byName.insert(action->text(), action);
+    QVERIFY(byName.value(QStringLiteral("English"))->isChecked());
+    byName.value(QStringLiteral("Deutsch"))->trigger();
     QCoreApplication::processEvents();
     QCOMPARE(UserSettings::language(), QStringLiteral("de"));
     QVERIFY(textsOf(m_window).contains(QStringLiteral("&Ansicht")));
