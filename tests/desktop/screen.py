@@ -78,6 +78,13 @@ def save_active_window(path):
         file.write(pictures[-1])
 
 
+def greenness(window):
+    """How much more green than red a window shows on average, from -1 to 1."""
+    shot = subprocess.run(["import", "-silent", "-window", window, "png:-"], check=True, capture_output=True)
+    return float(subprocess.run(["convert", "png:-", "-format", "%[fx:mean.g-mean.r]", "info:"], input=shot.stdout,
+                                check=True, capture_output=True).stdout)
+
+
 class Widget:
     """Something on the screen. It may vanish at any time; then it has no states and no children."""
 

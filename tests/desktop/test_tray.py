@@ -5,7 +5,7 @@
 
 from links import EMAIL, INTERNET, link
 from scenario import TITLE, Scenario, main
-from screen import active_window, click_in_window, press, windows_of_class
+from screen import active_window, click_in_window, greenness, press, windows_of_class
 from session import Program
 from waiting import wait_for
 
@@ -68,6 +68,16 @@ class Tray(Scenario):
         self.new_window([icon])
         press("Up", "Return")
         self.assertEqual(self.program.exit_code(), 0)
+
+    def test_icon_shows_the_state(self):
+        self.start_tray()
+        self.start_program()
+        icon = self.icon()
+        wait_for(lambda: abs(greenness(icon)) < 0.01, "a grey icon")
+        self.window.find("push button", "Connect").click()
+        wait_for(lambda: greenness(icon) > 0.02, "a green icon")
+        self.window.find("push button", "Disconnect").click()
+        wait_for(lambda: abs(greenness(icon)) < 0.01, "a grey icon")
 
     def test_quit_ends_the_program(self):
         self.start_tray()
