@@ -47,7 +47,7 @@ static QString reasonOfRun(const QString& target)
 {
     const QPointer<DesktopOpener> opener = new DesktopOpener(target);
     QStringList reasons;
-    QObject::connect(opener.data(), &DesktopOpener::failed, qApp,
+    QObject::connect(opener.data(), &DesktopOpener::failed, QCoreApplication::instance(),
                      [&reasons](const QString& reason) { reasons.append(reason); });
     opener->start();
     return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join(QLatin1Char('\n'))
