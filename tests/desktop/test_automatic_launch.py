@@ -39,7 +39,10 @@ class AutomaticLaunch(ConnectionScenario):
                         link(3, "Other", EMAIL, "mailto:b@example.org", startconnect=1))
         self.expected = [["mailto:a@example.org"], ["http://b.example.org/"]]
         self.expect_opened(1)
+        # The window is painted again, which is no start.
+        self.links_in_menu()
         self.assertEqual(self.program.output().count("notification 258 sent"), 1)
+        self.expect_opened(1)
 
 
 if __name__ == "__main__":

@@ -83,6 +83,11 @@ class Connection(ConnectionScenario):
         self.expect_heading("Connected")
         self.wait_for_log("was up before the program was there")
         self.window.find("label", "Since: before this program started")
+        network.set_reach(NetworkManager.LIMITED)
+        self.window.find("label", "The Internet is out of reach.")
+        network.set_reach(NetworkManager.FULL)
+        wait_for(lambda: not self.window.all("label", "The Internet is out of reach."), "the end of the hint")
+        self.assertNotIn("notification 1536", self.program.output())
         self.assertEqual(self.calls(), [])
 
     def test_other_kinds_do_not_count(self):
@@ -94,6 +99,7 @@ class Connection(ConnectionScenario):
         network.take_down(cable, "802-3-ethernet")
         self.expect_heading("Connected")
         self.window.find("label", "Connection: Mobile plan")
+        self.assertNotIn("took over", self.program.output())
 
     def test_any_connection_with_a_default_route(self):
         network = self.play(NetworkManager())
