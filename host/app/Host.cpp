@@ -100,8 +100,9 @@ void Host::connectWindow()
     QObject::connect(&m_monitor, &ConnectionMonitor::announced, window, [this](bool isUp, const QString& reason) {
         PluginNotifications::tellConnectionChanged(m_container, isUp, reason);
     });
-    QObject::connect(&m_sleepWatch, &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
-    QObject::connect(&m_sleepWatch, &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+    m_sleepWatch = std::make_unique<SleepWatch>();
+    QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
+    QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
 }
 
 void Host::setLanguage(const QString& language)

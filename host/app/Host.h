@@ -64,7 +64,6 @@ private:
     Translator& m_translator;
     PluginContainer m_container;
     ConnectionMonitor m_monitor;
-    SleepWatch m_sleepWatch;
     DialupService m_dialupService;
     NotifyService m_notifyService;
     MenuManager m_menuManager;
@@ -72,4 +71,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
     ConnectionPanel* m_panel = nullptr; ///< in the window
     std::unique_ptr<Tray> m_tray;
+    std::unique_ptr<SleepWatch> m_sleepWatch; ///< only with a window: it opens the system bus
 };

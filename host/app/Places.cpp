@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 
 static QString fromProgram(const QString& relative)
 {
@@ -24,4 +25,13 @@ QString Places::defaultsFolder()
 QString Places::translationFolder()
 {
     return fromProgram(QStringLiteral(VELLUM_BIN_TO_DATA "/translations"));
+}
+
+QString Places::toolkitTranslationFolder()
+{
+#if QT_VERSION < 0x060000
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
 }

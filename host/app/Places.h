@@ -21,4 +21,7 @@ QString defaultsFolder();
 /** The folder with vellumconnect_<language>.qm. */
 QString translationFolder();
 
+/** The folder with the toolkit's own texts, which is the toolkit's and lies elsewhere. */
+QString toolkitTranslationFolder();
+
 } // namespace Places

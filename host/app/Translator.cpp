@@ -6,21 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 
 #include "Places.h"
 
 static const QString catalogue = QStringLiteral("vellumconnect");
-
-static QString toolkitFolder()
-{
-#if QT_VERSION < 0x060000
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#endif
-}
 
 /** What a catalogue's file name has between its first underscore and its suffix. */
 static QString languageOf(const QString& file)
@@ -73,7 +63,7 @@ bool Translator::load(const QLocale& locale)
     if (!m_language.load(locale, catalogue, QStringLiteral("_"), Places::translationFolder()))
         return false;
     // The toolkit's own buttons follow, but never in a language that the program does not speak.
-    if (m_toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), toolkitFolder()))
+    if (m_toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), Places::toolkitTranslationFolder()))
         QCoreApplication::installTranslator(&m_toolkit);
     QCoreApplication::installTranslator(&m_language);
     return true;

@@ -24,9 +24,6 @@ Tray::Tray(QWidget& window, QMenu& linkMenu)
     });
     // It is the window that hears of a new language.
     m_window.installEventFilter(this);
-    setState(false, QGuiApplication::applicationDisplayName());
-    // Where there is no tray yet, the icon appears together with it.
-    m_icon.show();
 }
 
 bool Tray::isThere()
@@ -38,6 +35,8 @@ void Tray::setState(bool isUp, const QString& summary)
 {
     m_icon.setIcon(connectionIcon(isUp));
     m_icon.setToolTip(summary);
+    // Where there is no tray yet, the icon appears together with it.
+    m_icon.show();
 }
 
 void Tray::sayThatItGoesOn()

@@ -14,7 +14,7 @@ class Tray : public QObject
     Q_OBJECT
 
 public:
-    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. */
+    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. Appears with the first state. */
     Tray(QWidget& window, QMenu& linkMenu);
 
     /** Whether the desktop has a tray now. */

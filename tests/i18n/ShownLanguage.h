@@ -15,9 +15,6 @@ public:
     /** Whether there was a compiled catalogue. */
     bool isKnown() const { return m_isKnown; }
 
-    /** Where the toolkit keeps its own texts. */
-    static QString toolkitFolder();
-
 private:
     QTranslator m_toolkit; ///< below the other one; has no texts for some languages
     QTranslator m_texts;

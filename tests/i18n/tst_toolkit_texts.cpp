@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "Catalogue.h"
+#include "Places.h"
 #include "ShownLanguage.h"
 
 class ToolkitTextsTest : public QObject
@@ -80,7 +81,7 @@ void ToolkitTextsTest::areCompleteWhereTheToolkitHasNone()
 {
     QFETCH(QString, file);
     QTranslator german;
-    QVERIFY(german.load(QStringLiteral("qtbase_de"), ShownLanguage::toolkitFolder()));
+    QVERIFY(german.load(QStringLiteral("qtbase_de"), Places::toolkitTranslationFolder()));
     const QList<CatalogueText> texts = readCatalogue(file);
     QVERIFY(!texts.isEmpty());
     QStringList ids;
