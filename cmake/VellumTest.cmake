@@ -1,34 +1,39 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# vellum_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [TIMEOUT seconds])
-#   A QtTest program that runs without a display, as "<folder>.<name>".
-# vellum_add_quicklink_test(...)
-#   The same, with the plug-in's own objects and the recording fake host in it. Private members are open to it.
+# Tests are many and run for a moment: the time that counts is the compiler's.
+set(VELLUM_TEST_OPTIONS -O0 -g0)
 
-function(vellum_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
-    if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 120)
-    endif()
-    if(NOT ARG_LABELS)
-        set(ARG_LABELS unit)
-    endif()
-    get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+# vellum_test_program(<name> SOURCES ... [LIBS ...])
+#   A program of test classes, which runs without a display.
+function(vellum_test_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    # Tests are many and run for a moment: the time that counts is the compiler's.
-    target_compile_options(${name} PRIVATE -O0 -g0)
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/include")
-    target_link_libraries(${name} PRIVATE ${ARG_LIBS} Vellum::QtWidgets Vellum::QtTest)
-    add_test(NAME ${folder}.${name} COMMAND ${name})
-    set_tests_properties(${folder}.${name} PROPERTIES
-        TIMEOUT ${ARG_TIMEOUT}
-        LABELS "${ARG_LABELS}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    target_compile_options(${name} PRIVATE ${VELLUM_TEST_OPTIONS})
+    target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/Precompiled.h")
+    target_link_libraries(${name} PRIVATE testmain ${ARG_LIBS} Vellum::QtWidgets Vellum::QtTest)
 endfunction()
 
-function(vellum_add_quicklink_test name)
-    vellum_add_test(${name} ${ARGN})
-    target_compile_options(${name} PRIVATE -fno-access-control)
-    target_link_libraries(${name} PRIVATE quicklink_objects fakehost)
+# vellum_test_entries(<program> <class>...)
+#   An entry "<folder>.<class>" for each of the program's test classes. Properties: TIMEOUT 120, LABELS unit.
+function(vellum_test_entries program)
+    get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+    foreach(class IN LISTS ARGN)
+        add_test(NAME ${folder}.${class} COMMAND ${VELLUM_TEST_DISPLAY} $<TARGET_FILE:${program}> ${class})
+        set_tests_properties(${folder}.${class} PROPERTIES
+            TIMEOUT 120 LABELS unit ENVIRONMENT "${VELLUM_TEST_ENVIRONMENT}")
+    endforeach()
+endfunction()
+
+# vellum_add_tests([LIBS ...] [SOURCES ...] [EXCEPT class...])
+#   Every <class>Test.cpp of this folder and other sources as the program "<folder>_tests", an entry each.
+function(vellum_add_tests)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;EXCEPT" ${ARGN})
+    get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+    file(GLOB files CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" *Test.cpp)
+    list(TRANSFORM ARG_EXCEPT APPEND .cpp)
+    list(REMOVE_ITEM files ${ARG_EXCEPT})
+    vellum_test_program(${folder}_tests SOURCES ${files} ${ARG_SOURCES} LIBS ${ARG_LIBS})
+    list(TRANSFORM files REPLACE "\\.cpp$" "" OUTPUT_VARIABLE classes)
+    vellum_test_entries(${folder}_tests ${classes})
 endfunction()

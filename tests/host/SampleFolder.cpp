@@ -26,13 +26,13 @@ QString SampleFolder::path() const
 
 QString SampleFolder::file(const QString& name) const
 {
-    return path() + QStringLiteral("/%1/lib%1.so").arg(name);
+    return path() + QString("/%1/lib%1.so").arg(name);
 }
 
 bool SampleFolder::add(const QString& sample, const QString& name) const
 {
     const QString to = file(name.isEmpty() ? sample : name);
-    const QString from = QStringLiteral("%1/%2/lib%2.so").arg(QStringLiteral(SAMPLES), sample);
+    const QString from = QString("%1/%2/lib%2.so").arg(QStringLiteral(SAMPLES), sample);
     return QDir().mkpath(QFileInfo(to).path()) && QFile::copy(from, to);
 }
 
@@ -46,7 +46,7 @@ bool SampleFolder::write(const QString& name, const QByteArray& bytes) const
 RecordingContainer::RecordingContainer()
 {
     installPluginContainer(&container);
-    container.registerComponent(QStringLiteral("recorder"), 1, QStringLiteral("Recorder"), &m_recorder);
+    container.registerComponent("recorder", 1, "Recorder", &m_recorder);
 }
 
 QStringList RecordingContainer::events() const

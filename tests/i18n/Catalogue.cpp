@@ -26,15 +26,15 @@ QStringList readTranslation(QXmlStreamReader& xml, bool isPlural)
 CatalogueText readMessage(QXmlStreamReader& xml, const QString& context)
 {
     CatalogueText text{context, {}, {}, {}, false, false};
-    text.isPlural = xml.attributes().value(QStringLiteral("numerus")) == QLatin1String("yes");
+    text.isPlural = xml.attributes().value("numerus") == "yes";
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
+        if (xml.name() == "source") {
             text.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("comment")) {
+        } else if (xml.name() == "comment") {
             text.comment = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
+        } else if (xml.name() == "translation") {
             // Anything said about a translation is that it is unfinished or that its text is gone.
-            text.isFinished = !xml.attributes().hasAttribute(QStringLiteral("type"));
+            text.isFinished = !xml.attributes().hasAttribute("type");
             text.translations = readTranslation(xml, text.isPlural);
         } else {
             xml.skipCurrentElement();
@@ -46,8 +46,8 @@ CatalogueText readMessage(QXmlStreamReader& xml, const QString& context)
 
 QString CatalogueText::id() const
 {
-    const QString name = context + QStringLiteral(": ") + source;
-    return comment.isEmpty() ? name : name + QStringLiteral(" (") + comment + QLatin1Char(')');
+    const QString name = context + ": " + source;
+    return comment.isEmpty() ? name : name + " (" + comment + ')';
 }
 
 QList<CatalogueText> readCatalogue(const QString& path)
@@ -61,9 +61,9 @@ QList<CatalogueText> readCatalogue(const QString& path)
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == QLatin1String("name"))
+        if (xml.name() == "name")
             context = xml.readElementText();
-        else if (xml.name() == QLatin1String("message"))
+        else if (xml.name() == "message")
             texts.append(readMessage(xml, context));
     }
     return xml.hasError() ? QList<CatalogueText>() : texts;
@@ -79,7 +79,7 @@ QStringList catalogueLanguages()
     QStringList languages;
     const QStringList files =
         QDir(QStringLiteral(CATALOGUES))
-            .entryList({QLatin1String(prefix) + QLatin1Char('*') + QLatin1String(suffix)}, QDir::Files, QDir::Name);
+            .entryList({QLatin1String(prefix) + '*' + QLatin1String(suffix)}, QDir::Files, QDir::Name);
     for (const QString& file : files)
         languages.append(file.mid(int(qstrlen(prefix)), file.size() - int(qstrlen(prefix) + qstrlen(suffix))));
     return languages;

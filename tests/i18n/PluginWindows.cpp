@@ -18,7 +18,7 @@ namespace
 void writeLinks(const QString& folder)
 {
     QDir().mkpath(folder);
-    QFile file(folder + QStringLiteral("/config.xml"));
+    QFile file(folder + "/config.xml");
     if (!file.open(QIODevice::WriteOnly))
         return;
     file.write("<tovadoc type=\"config\"><function><Visible>1</Visible><CurrentID>3</CurrentID></function>"
@@ -37,8 +37,8 @@ PluginWindows::PluginWindows()
     , m_plugin(qobject_cast<IBasePlugin*>(m_loader.instance()))
 {
     // As the program does: the plug-in's trace is not asked for.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    writeLinks(m_folder.filePath(QStringLiteral("plugins/QuickLinkUIPlugin")));
+    QLoggingCategory::setFilterRules("default.debug=false");
+    writeLinks(m_folder.filePath("plugins/QuickLinkUIPlugin"));
     UserFolder::setPath(m_folder.path());
     if (!m_plugin || !m_plugin->Init())
         return;
@@ -57,13 +57,13 @@ PluginWindows::~PluginWindows()
 QDialog* PluginWindows::linkDialog()
 {
     if (!m_settings->findChild<ExtendDialog*>())
-        m_settings->findChild<QPushButton*>(QStringLiteral("m_newBtn"))->click();
+        m_settings->findChild<QPushButton*>("m_newBtn")->click();
     return m_settings->findChild<ExtendDialog*>();
 }
 
 void PluginWindows::chooseType(int index)
 {
-    QComboBox* const choice = linkDialog()->findChild<QComboBox*>(QStringLiteral("m_appTypeChoice"));
+    QComboBox* const choice = linkDialog()->findChild<QComboBox*>("m_appTypeChoice");
     choice->setCurrentIndex(index);
     Q_EMIT choice->activated(index);
 }

@@ -33,7 +33,7 @@ QString withoutMnemonic(const QString& text)
 {
     QString plain;
     for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('&') && i + 1 < text.size())
+        if (text.at(i) == '&' && i + 1 < text.size())
             ++i;
         plain += text.at(i);
     }
@@ -44,7 +44,7 @@ QString nameOf(const QWidget* widget)
 {
     for (const QWidget* named = widget; named; named = named->parentWidget()) {
         const QString name = named->objectName();
-        if (!name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
+        if (!name.isEmpty() && !name.startsWith("qt_"))
             return name;
     }
     return QString::fromLatin1(widget->metaObject()->className());
@@ -115,7 +115,7 @@ QString verdict(const Place& place)
     const int height = place.isRow ? 0 : missingHeight(text, place, visible);
     if (width <= 0 && height <= 0)
         return QString();
-    return QStringLiteral("%1 \"%2\": cut by %3 pixels in width (of %4), %5 in height (of %6)")
+    return QString("%1 \"%2\": cut by %3 pixels in width (of %4), %5 in height (of %6)")
         .arg(nameOf(place.widget), place.text)
         .arg(qMax(0, width))
         .arg(rect.width())
@@ -237,7 +237,7 @@ QStringList cutTexts(QWidget* window)
         const QList<Place> places = placesIn(widget);
         const QStringList neighbours = places.isEmpty() ? QStringList() : neighboursOver(widget);
         if (!neighbours.isEmpty())
-            lines.append(nameOf(widget) + QStringLiteral(": overlaps ") + neighbours.join(QStringLiteral(", ")));
+            lines.append(nameOf(widget) + ": overlaps " + neighbours.join(", "));
         for (const Place& place : places) {
             const QString line = verdict(place);
             if (!line.isEmpty() && !lines.contains(line))

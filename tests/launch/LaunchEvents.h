@@ -17,7 +17,7 @@ inline QuickLinkRecord marked(Event event, const char* type, const char* url, co
 {
     QuickLinkRecord record = makeRecord(url, type, url);
     const QString own = QString::fromUtf8(flag);
-    const QString other = QLatin1String(own == QLatin1String("1") ? "0" : "1");
+    const QString other = QLatin1String(own == "1" ? "0" : "1");
     record.startconnect = event == ConnectionUp ? own : other;
     record.startmobile = event == ConnectionUp ? other : own;
     return record;

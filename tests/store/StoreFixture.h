@@ -6,7 +6,7 @@
 #include "FakeHost.h"
 #include "QuickLinkXmlParse.h"
 #include "Records.h"
-#include "TraceRecorder.h"
+#include "RecordingTrace.h"
 
 /** A fresh store over an empty folder; call begin() in init() and end() in cleanup(). */
 namespace StoreFixture
@@ -49,25 +49,25 @@ inline QString names()
 {
     const QuickLinkRecordList* const list = store()->m_recordList;
     if (!list)
-        return QLatin1String("no list");
+        return "no list";
     QStringList result;
     for (const QuickLinkRecord& record : *list)
         result.append(record.name);
-    return result.join(QLatin1String(","));
+    return result.join(",");
 }
 
 /** The pattern of a line of the store's trace that begins with the time of day; between is the text after it. */
 inline QString stampedLine(const char* between, const char* function, const char* end)
 {
     return QLatin1String(TracePattern::time) + QLatin1String(between) + QLatin1String(TracePattern::file) +
-           QLatin1String(": ") + QLatin1String(function) + QLatin1String(": ") + QLatin1String(end);
+           ": " + QLatin1String(function) + ": " + QLatin1String(end);
 }
 
-/** The lines of the reader's trace; each is one of the patterns to hand to TraceRecorder::debugDifference(). */
+/** The lines of the reader's trace; each is one of the patterns to hand to RecordingTrace::debugDifference(). */
 inline QStringList readerBeginning()
 {
     return QStringList() << stampedLine(": ", "ReadXmlInformation", "Entered")
-                         << QLatin1String(TracePattern::file) + QLatin1String(": ReadXmlInformation: ");
+                         << QLatin1String(TracePattern::file) + ": ReadXmlInformation: ";
 }
 
 inline QStringList walkLines()

@@ -57,7 +57,7 @@ public:
         const QWidgetList all = QApplication::topLevelWidgets();
         for (const QWidget* window : all)
             windows += qobject_cast<const QMainWindow*>(window) ? 1 : 0;
-        record(QStringLiteral("OnDestroy, %1 windows").arg(windows));
+        record(QString("OnDestroy, %1 windows").arg(windows));
     }
 
     int ShowWindow(QWidget*, QRect&) override { return 0; }
@@ -67,19 +67,19 @@ public:
     int IsReady() override { return 0; }
     int ChangeLang(const QString& language) override
     {
-        record(QStringLiteral("ChangeLang ") + language);
+        record("ChangeLang " + language);
         return 1;
     }
 
     int Notify(unsigned int code, unsigned int param1, unsigned int param2) override
     {
-        record(QStringLiteral("Notify %1 %2 %3").arg(code).arg(param1).arg(param2));
+        record(QString("Notify %1 %2 %3").arg(code).arg(param1).arg(param2));
         return property("answer").toInt();
     }
 
     int GetQuickLinkRecordSize() override
     {
-        record(QStringLiteral("asked"));
+        record("asked");
         const QVariant count = property("linkCount");
         return count.isValid() ? count.toInt() : int(property("links").toStringList().size());
     }
@@ -91,22 +91,22 @@ public:
     void LaunchQuickLinkAction(QAction* action) override
     {
         const bool isOwn = findChildren<QAction*>().contains(action);
-        record(isOwn ? QStringLiteral("launched ") + action->text() : QStringLiteral("launched a foreign action"));
+        record(isOwn ? "launched " + action->text() : "launched a foreign action");
     }
 
     int OnClickSettingOkButton() override
     {
-        record(QStringLiteral("OK"));
+        record("OK");
         return property("refuses").toBool() ? 0 : 1;
     }
     int OnClickSettingCancelButton() override
     {
-        record(QStringLiteral("Cancel"));
+        record("Cancel");
         return property("refuses").toBool() ? 0 : 1;
     }
     int ShowSettingDialog(QWidget* parent, QRect& area) override
     {
-        record(QStringLiteral("shown"));
+        record("shown");
         if (property("isPageless").toBool())
             return 0;
         if (!m_page) {
@@ -121,7 +121,7 @@ public:
     QString GetModuleName() override { return property("caption").toString(); }
     int HideSetting() override
     {
-        record(QStringLiteral("hidden"));
+        record("hidden");
         if (m_page)
             m_page->hide();
         return 1;
@@ -131,7 +131,7 @@ public:
 private:
     void record(const QString& event) const
     {
-        qApp->setProperty("events", qApp->property("events").toStringList() << objectName() + QLatin1Char(' ') + event);
+        qApp->setProperty("events", qApp->property("events").toStringList() << objectName() + ' ' + event);
     }
 
     QPointer<QWidget> m_page;

@@ -15,17 +15,17 @@
 static void record(const QString& event)
 {
     IPluginContainer* const container = Startup::GetPluginContainer();
-    QObject* const recorder = container ? container->GetPlugin(QStringLiteral("recorder"), 1) : nullptr;
+    QObject* const recorder = container ? container->GetPlugin("recorder", 1) : nullptr;
     if (recorder)
         recorder->setProperty("events", recorder->property("events").toStringList()
-                                            << QStringLiteral(SAMPLE_NAME) + QLatin1Char(' ') + event);
+                                            << QStringLiteral(SAMPLE_NAME) + ' ' + event);
 }
 
 /** Something that the plug-in leaves to the event loop to delete. */
 class LateObject : public QObject
 {
 public:
-    ~LateObject() override { record(QStringLiteral("late")); }
+    ~LateObject() override { record("late"); }
 };
 
 class SamplePlugin : public QObject, public PlainAnswers<IBasePlugin>, public INotify
@@ -35,11 +35,11 @@ class SamplePlugin : public QObject, public PlainAnswers<IBasePlugin>, public IN
     Q_INTERFACES(IBasePlugin INotify)
 
 public:
-    ~SamplePlugin() override { record(QStringLiteral("gone")); }
+    ~SamplePlugin() override { record("gone"); }
 
     int Init() override
     {
-        record(QStringLiteral("Init"));
+        record("Init");
         return SAMPLE_INIT;
     }
     // Data of the library itself, which the host must not keep beyond it.
@@ -48,12 +48,12 @@ public:
     void OnDestroy() override
     {
         const bool isListed = Startup::GetPluginContainer()->GetPlugin(GetCLSID(), 0) == this;
-        record(isListed ? QStringLiteral("OnDestroy while listed") : QStringLiteral("OnDestroy"));
+        record(isListed ? "OnDestroy while listed" : "OnDestroy");
         (new LateObject)->deleteLater();
     }
     int Notify(unsigned int code, unsigned int param1, unsigned int param2) override
     {
-        record(QStringLiteral("%1 %2 %3").arg(code).arg(param1).arg(param2));
+        record(QString("%1 %2 %3").arg(code).arg(param1).arg(param2));
         return 7;
     }
 };

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// What the program is asked for on its command line.
+
+
+#include "CommandLine.h"
+#include "Test.h"
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsTheAction_data();
+    void readsTheAction();
+    void readsValues();
+    void readsTheKindOfConnection_data();
+    void readsTheKindOfConnection();
+    void refusesInOneLine_data();
+    void refusesInOneLine();
+    void helpNamesEveryOption_data();
+    void helpNamesEveryOption();
+    void versionIsOneLine();
+};
+
+static CommandLine parsed(const QStringList& arguments)
+{
+    QList<QByteArray> texts{"vellumconnect"};
+    for (const QString& argument : arguments)
+        texts.append(argument.toLocal8Bit());
+    QVector<char*> argv;
+    for (QByteArray& text : texts)
+        argv.append(text.data());
+    return CommandLine::parse(argv.size(), argv.data());
+}
+
+void CommandLineTest::readsTheAction_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("action");
+    QTest::newRow("none") << QStringList() << int(CommandLine::ShowWindow);
+    QTest::newRow("list") << QStringList{"--list-links"} << int(CommandLine::ListLinks);
+    QTest::newRow("help") << QStringList{"--help"} << int(CommandLine::ShowHelp);
+    QTest::newRow("h") << QStringList{"-h"} << int(CommandLine::ShowHelp);
+    QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::ShowVersion);
+    QTest::newRow("v") << QStringList{"-v"} << int(CommandLine::ShowVersion);
+    QTest::newRow("help before the others")
+        << QStringList{"--list-links", "--version", "--help"}
+        << int(CommandLine::ShowHelp);
+}
+
+void CommandLineTest::readsTheAction()
+{
+    QFETCH(QStringList, arguments);
+    const CommandLine line = parsed(arguments);
+    QTEST(int(line.action), "action");
+    QCOMPARE(line.error, QString());
+}
+
+void CommandLineTest::readsValues()
+{
+    const CommandLine line =
+        parsed({"--data-dir", "my data", "--plugin-dir=/p",
+                "--language", "pt_BR"});
+    QCOMPARE(line.dataFolder, "my data");
+    QCOMPARE(line.pluginFolder, "/p");
+    QCOMPARE(line.language, "pt_BR");
+    QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
+}
+
+void CommandLineTest::readsTheKindOfConnection_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("kind");
+    const QString option = "--connection";
+    QTest::newRow("none") << QStringList() << int(ConnectionKind::Mobile);
+    QTest::newRow("mobile") << QStringList{option, "mobile"} << int(ConnectionKind::Mobile);
+    QTest::newRow("any") << QStringList{option, "any"} << int(ConnectionKind::Any);
+    QTest::newRow("manual") << QStringList{option, "manual"} << int(ConnectionKind::Manual);
+}
+
+void CommandLineTest::readsTheKindOfConnection()
+{
+    QFETCH(QStringList, arguments);
+    const CommandLine line = parsed(arguments);
+    QTEST(int(line.connection), "kind");
+    QCOMPARE(line.error, QString());
+}
+
+void CommandLineTest::refusesInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("unknown") << QStringList{"--sing"} << "sing";
+    QTest::newRow("two unknown") << QStringList{"--sing", "--dance"}
+                                 << "dance";
+    QTest::newRow("argument") << QStringList{"a\nb"} << "\"a b\"";
+    QTest::newRow("no value") << QStringList{"--language"} << "--language";
+    QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
+    QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";
+    QTest::newRow("value too much") << QStringList{"--list-links=1"} << "--list-links";
+    QTest::newRow("error beside help") << QStringList{"--help", "--sing"}
+                                       << "sing";
+}
+
+void CommandLineTest::refusesInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, named);
+    const CommandLine line = parsed(arguments);
+    QCOMPARE(int(line.action), int(CommandLine::Refuse));
+    QVERIFY2(line.error.contains(named), qPrintable(line.error));
+    QVERIFY(!line.error.contains('\n'));
+}
+
+void CommandLineTest::helpNamesEveryOption_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char* option :
+         {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--list-links"})
+        QTest::newRow(option) << QString::fromLatin1(option);
+}
+
+void CommandLineTest::helpNamesEveryOption()
+{
+    QFETCH(QString, option);
+    QVERIFY(CommandLine::helpText().contains(QString(" %1 ").arg(option)));
+}
+
+void CommandLineTest::versionIsOneLine()
+{
+    QCoreApplication::setApplicationName("program");
+    QCoreApplication::setApplicationVersion("1.2");
+    QCOMPARE(CommandLine::versionText(), "program 1.2\n");
+}
+
+REGISTER_TEST(CommandLineTest)
+#include "CommandLineTest.moc"

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The languages in the View menu.
+
+#include <QSignalSpy>
+
+#include "LanguageMenu.h"
+#include "FakeTranslator.h"
+#include "Test.h"
+
+class LanguageMenuTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesEachInItsOwnLanguage_data();
+    void namesEachInItsOwnLanguage();
+    void offersTheSystemsFirst();
+    void marksTheCurrentOne_data();
+    void marksTheCurrentOne();
+    void tellsWhatIsChosen_data();
+    void tellsWhatIsChosen();
+    void followsTheLanguage();
+};
+
+static QStringList offered()
+{
+    return {"de", "en", "pt_BR"};
+}
+
+static QList<QAction*> choices(const QMenu& menu)
+{
+    QList<QAction*> choices;
+    const QList<QAction*> actions = menu.actions();
+    for (QAction* action : actions) {
+        if (!action->isSeparator())
+            choices.append(action);
+    }
+    return choices;
+}
+
+/** What is marked, by what it stands for. */
+static QStringList marked(const QMenu& menu)
+{
+    QStringList languages;
+    const QList<QAction*> all = choices(menu);
+    for (const QAction* action : all) {
+        if (action->isChecked())
+            languages.append(action->data().toString());
+    }
+    return languages;
+}
+
+void LanguageMenuTest::namesEachInItsOwnLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("de") << "de" << "Deutsch";
+    QTest::newRow("en") << "en" << "English";
+    QTest::newRow("fr") << "fr"
+                        << QString::fromUtf8("Fran\xc3\xa7"
+                                             "ais");
+    QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Portugu\xc3\xaas");
+    QTest::newRow("ru") << "ru"
+                        << QString::fromUtf8("\xd0\xa0\xd1\x83\xd1\x81\xd1\x81\xd0\xba\xd0\xb8\xd0\xb9");
+}
+
+void LanguageMenuTest::namesEachInItsOwnLanguage()
+{
+    QFETCH(QString, language);
+    const LanguageMenu menu({language}, QString());
+    QCOMPARE(choices(menu).size(), 2);
+    QTEST(choices(menu).constLast()->text(), "name");
+}
+
+void LanguageMenuTest::offersTheSystemsFirst()
+{
+    const LanguageMenu menu(offered(), QString());
+    QCOMPARE(menu.title(), "&Language");
+    QCOMPARE(choices(menu).size(), 4);
+    QCOMPARE(choices(menu).constFirst()->text(), "&System Language");
+    QVERIFY(menu.actions().at(1)->isSeparator());
+    QStringList order;
+    const QList<QAction*> all = choices(menu);
+    for (const QAction* action : all)
+        order.append(action->data().toString());
+    QCOMPARE(order, QStringList(QString()) + offered());
+}
+
+void LanguageMenuTest::marksTheCurrentOne_data()
+{
+    QTest::addColumn<QString>("current");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("the system's") << QString() << QStringList(QString());
+    QTest::newRow("de") << "de" << QStringList("de");
+    QTest::newRow("pt_BR") << "pt_BR" << QStringList("pt_BR");
+    QTest::newRow("not offered") << "pt" << QStringList();
+}
+
+void LanguageMenuTest::marksTheCurrentOne()
+{
+    QFETCH(QString, current);
+    const LanguageMenu menu(offered(), current);
+    QTEST(marked(menu), "expected");
+}
+
+void LanguageMenuTest::tellsWhatIsChosen_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("the system's") << 0 << QString();
+    QTest::newRow("de") << 1 << "de";
+    QTest::newRow("pt_BR") << 3 << "pt_BR";
+}
+
+void LanguageMenuTest::tellsWhatIsChosen()
+{
+    QFETCH(int, index);
+    QFETCH(QString, language);
+    const LanguageMenu menu(offered(), "en");
+    QSignalSpy told(&menu, &LanguageMenu::languageChosen);
+    choices(menu).at(index)->trigger();
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.first().first().toString(), language);
+    QCOMPARE(marked(menu), QStringList(language));
+}
+
+void LanguageMenuTest::followsTheLanguage()
+{
+    const LanguageMenu menu(offered(), QString());
+    const FakeTranslator other;
+    QTRY_COMPARE(menu.title(), "*&Language");
+    QCOMPARE(choices(menu).constFirst()->text(), "*&System Language");
+    QCOMPARE(choices(menu).at(1)->text(), "Deutsch");
+}
+
+REGISTER_TEST(LanguageMenuTest)
+#include "LanguageMenuTest.moc"

@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// What becomes of what plug-ins open: which goes to the desktop, which is started, and what the user is told.
+
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QUrl>
+
+#include "LinkOpener.h"
+#include "NoticeOnScreen.h"
+#include "RecordingDesktop.h"
+#include "ProcessLimits.h"
+#include "Test.h"
+
+class LinkOpenerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void handsAddressesToTheDesktop_data();
+    void handsAddressesToTheDesktop();
+    void handsFilesToTheDesktop_data();
+    void handsFilesToTheDesktop();
+    void startsPrograms_data();
+    void startsPrograms();
+    void tellsWhatCannotBeOpened_data();
+    void tellsWhatCannotBeOpened();
+    void tellsWhatTheDesktopCannotOpen();
+    void leavesOtherSchemesAlone();
+    void givesTheSchemesBack();
+
+private:
+    QString make(const QString& kind) const;
+
+    QTemporaryDir m_folder;
+};
+
+void LinkOpenerTest::cleanup()
+{
+    delete notice();
+}
+
+/** Makes a file of this kind, or not, and answers where it is. */
+QString LinkOpenerTest::make(const QString& kind) const
+{
+    QString path = m_folder.filePath(kind);
+    QFile::remove(path);
+    if (kind == "a folder")
+        QDir().mkpath(path);
+    else if (kind == "a program")
+        writeScript(path, "pwd >started.new\nmv started.new started\n");
+    else if (kind == "a broken program")
+        writeFile(path, "#!/nonexistent/interpreter\n", QFile::Permissions(0x7755));
+    else if (kind == "a locked file")
+        writeFile(path, "secret", QFile::Permissions());
+    else if (kind != "nothing")
+        writeFile(path, "text", QFile::Permissions(0x6644));
+    return path;
+}
+
+void LinkOpenerTest::handsAddressesToTheDesktop_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("http") << "http://example.org/?a=1&b=%20";
+    QTest::newRow("https") << "https://example.org/";
+    QTest::newRow("ftp") << "ftp://example.org/file";
+    QTest::newRow("mail") << "mailto:";
+    QTest::newRow("mail to somebody") << "mailto:someone@example.org?subject=a%20b";
+}
+
+void LinkOpenerTest::handsAddressesToTheDesktop()
+{
+    QFETCH(QString, address);
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(QUrl(address)));
+    QTRY_COMPARE(desktop.opened(), QStringList(address));
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::handsFilesToTheDesktop_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("hasScheme");
+    QTest::newRow("document") << "a document" << false;
+    QTest::newRow("document as file:") << "a document" << true;
+    QTest::newRow("folder, which is executable") << "a folder" << false;
+    QTest::newRow("folder as file:") << "a folder" << true;
+}
+
+void LinkOpenerTest::handsFilesToTheDesktop()
+{
+    QFETCH(QString, kind);
+    QFETCH(bool, hasScheme);
+    const QString path = make(kind);
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(hasScheme ? QUrl::fromLocalFile(path) : QUrl(path)));
+    QTRY_COMPARE(desktop.opened(), QStringList(path));
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::startsPrograms_data()
+{
+    QTest::addColumn<bool>("hasScheme");
+    QTest::newRow("path") << false;
+    QTest::newRow("file:") << true;
+}
+
+void LinkOpenerTest::startsPrograms()
+{
+    QFETCH(bool, hasScheme);
+    const QString path = make("a program");
+    const QString record = m_folder.filePath("started");
+    QFile::remove(record);
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(hasScheme ? QUrl::fromLocalFile(path) : QUrl(path)));
+    QTRY_VERIFY(QFile::exists(record));
+    QFile file(record);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()).trimmed(), m_folder.path());
+    QCOMPARE(desktop.opened(), QStringList());
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::tellsWhatCannotBeOpened_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("missing") << "nothing"
+                             << "There is no such file or folder, or you are not allowed to see it:";
+    QTest::newRow("locked") << "a locked file" << "You are not allowed to open this:";
+    QTest::newRow("broken") << "a broken program"
+                            << "This program could not be started:";
+}
+
+void LinkOpenerTest::tellsWhatCannotBeOpened()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, reason);
+    const QString path = make(kind);
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    {
+        const WithoutPrivileges user;
+        QVERIFY(user.isBound());
+        QVERIFY(QDesktopServices::openUrl(QUrl(path)));
+    }
+    QVERIFY(notice());
+    QCOMPARE(notice()->text(), reason + "\n\n" + path);
+    QCOMPARE(notice()->windowTitle(), "Not opened");
+    QCOMPARE(desktop.opened(), QStringList());
+}
+
+void LinkOpenerTest::tellsWhatTheDesktopCannotOpen()
+{
+    const RecordingDesktop desktop;
+    desktop.answer(3);
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(QUrl("ftp://example.org/")));
+    QTRY_VERIFY(notice());
+    QCOMPARE(notice()->text(), "No program was found that opens this:\n\nftp://example.org/");
+}
+
+void LinkOpenerTest::leavesOtherSchemesAlone()
+{
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
+    QVERIFY(!QDesktopServices::openUrl(QUrl("tel:123")));
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::givesTheSchemesBack()
+{
+    const RecordingDesktop desktop;
+    {
+        const LinkOpener opener;
+    }
+    for (const char* address : {"/", "file:///", "mailto:", "http://a", "https://a", "ftp://a"}) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
+        QVERIFY2(!QDesktopServices::openUrl(QUrl(QString::fromLatin1(address))), address);
+    }
+}
+
+REGISTER_TEST(LinkOpenerTest)
+#include "LinkOpenerTest.moc"

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// What reaches the browser, and what the user is told about the rest.
+
+#include <QDesktopServices>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QUrl>
+#include <QWindow>
+
+#include "CommonUtils.h"
+#include "MessageOnScreen.h"
+#include "NoticeOnScreen.h"
+#include "Test.h"
+
+class OpenUrlTest : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void open(const QUrl& url) { m_opened << QString::fromLatin1(url.toEncoded()); }
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void handsOn_data();
+    void handsOn();
+    void refuses_data();
+    void refuses();
+    void tellsWhenNothingOpens();
+    void showsTheAddressAsItStands();
+    void cutsOffAVeryLongAddress();
+    void noticeCanBeClosedOverAModalMessage();
+    void noticeDoesNotKeepTheProgramAlive();
+    void noticeGoesWithTheProgram();
+
+private:
+    QStringList m_opened;
+};
+
+static const char* const schemes[] = {"http", "https", "ftp", "file", "javascript", "mailto"};
+
+/** Clicks as the window system would, which does not reach a window blocked by a modal one. */
+static void clickOk(QMessageBox* box)
+{
+    const QAbstractButton* const button = box->button(QMessageBox::Ok);
+    QVERIFY(QTest::qWaitForWindowExposed(box));
+    QTest::mouseClick(box->windowHandle(), Qt::LeftButton, Qt::NoModifier, button->mapTo(box, button->rect().center()));
+}
+
+void OpenUrlTest::init()
+{
+    m_opened.clear();
+    for (const char* scheme : schemes)
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
+}
+
+void OpenUrlTest::cleanup()
+{
+    for (const char* scheme : schemes)
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+    while (QMessageBox* const box = notice())
+        delete box;
+}
+
+void OpenUrlTest::handsOn_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("opened");
+    QTest::newRow("complete") << "https://example.com/a?b=c&d"
+                              << "https://example.com/a?b=c&d";
+    QTest::newRow("www") << "www.example.com" << "http://www.example.com";
+    QTest::newRow("ftp") << "ftp.example.com" << "ftp://ftp.example.com";
+    QTest::newRow("other") << "example.com" << "http://example.com";
+    QTest::newRow("upper case") << "HTTP://example.com" << "http://example.com";
+}
+
+void OpenUrlTest::handsOn()
+{
+    QFETCH(QString, address);
+    QFETCH(QString, opened);
+    CommonUtils::OpenUrl(address);
+    QCOMPARE(m_opened, QStringList() << opened);
+    QVERIFY(!notice());
+}
+
+void OpenUrlTest::refuses_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("script") << "javascript:alert(1)";
+    QTest::newRow("file") << "file:///etc/passwd";
+    QTest::newRow("mail") << "mailto:someone@example.com";
+    QTest::newRow("no host") << "http:///x";
+    QTest::newRow("empty") << QString();
+}
+
+void OpenUrlTest::refuses()
+{
+    QFETCH(QString, address);
+    CommonUtils::OpenUrl(address);
+    QVERIFY(m_opened.isEmpty());
+    const QPointer<QMessageBox> box = notice();
+    QVERIFY(box);
+    QVERIFY2(box->text().endsWith("\n\n" + address), qPrintable(box->text()));
+    QVERIFY(box->text().contains("https"));
+    QVERIFY(!box->windowTitle().isEmpty());
+    QCOMPARE(box->icon(), QMessageBox::Warning);
+    clickOk(box);
+    QTRY_VERIFY(!box);
+}
+
+void OpenUrlTest::tellsWhenNothingOpens()
+{
+    QDesktopServices::unsetUrlHandler("http");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
+    CommonUtils::OpenUrl("www.example.com");
+    QMessageBox* const box = notice();
+    QVERIFY(box);
+    QVERIFY(box->text().contains("www.example.com"));
+    QVERIFY(box->text().contains("No program"));
+}
+
+void OpenUrlTest::showsTheAddressAsItStands()
+{
+    CommonUtils::OpenUrl("x:<b>bold</b> %1");
+    QVERIFY(notice());
+    QCOMPARE(notice()->textFormat(), Qt::PlainText);
+    QVERIFY(notice()->text().contains("x:<b>bold</b> %1"));
+}
+
+void OpenUrlTest::cutsOffAVeryLongAddress()
+{
+    const QString address = "x:" + QString(5000, 'y');
+    CommonUtils::OpenUrl(address);
+    QVERIFY(notice());
+    QVERIFY(notice()->text().size() < 300);
+    QCOMPARE(notice()->detailedText(), address);
+    const QString shortAddress = "x:" + QString(118, 'y');
+    delete notice();
+    CommonUtils::OpenUrl(shortAddress);
+    QVERIFY(notice()->text().endsWith(shortAddress));
+    QVERIFY(notice()->detailedText().isEmpty());
+}
+
+void OpenUrlTest::noticeCanBeClosedOverAModalMessage()
+{
+    QPointer<QMessageBox> box;
+    bool wasShown = false, isGone = false;
+    whenMessageShows([&](QMessageBox* modal) {
+        CommonUtils::OpenUrl("x:y");
+        box = notice();
+        wasShown = box;
+        if (box)
+            clickOk(box);
+        isGone = QTest::qWaitFor([&] { return !box; });
+        modal->close();
+    });
+    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), QString(), "A", QString(),
+                             QString(), false, Qt::WindowFlags(), nullptr, QString(), true);
+    QVERIFY(wasShown);
+    QVERIFY(isGone);
+}
+
+void OpenUrlTest::noticeDoesNotKeepTheProgramAlive()
+{
+    QWidget window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    CommonUtils::OpenUrl("x:y");
+    QVERIFY(notice());
+    QTimer::singleShot(0, &window, SLOT(close()));
+    QTimer::singleShot(10000, &window, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QApplication::exec(), 0);
+}
+
+void OpenUrlTest::noticeGoesWithTheProgram()
+{
+    CommonUtils::OpenUrl("x:y");
+    const QPointer<QMessageBox> box = notice();
+    QVERIFY(box);
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
+    QVERIFY(!box);
+}
+
+REGISTER_TEST(OpenUrlTest)
+#include "OpenUrlTest.moc"

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The place of a settings page, and how a page stands in it.
+
+
+#include "PageArea.h"
+#include "Test.h"
+
+class PageAreaTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wantsToShowTheWholePage_data();
+    void wantsToShowTheWholePage();
+    void hasRoomForAPageThatMustNotBeSmaller();
+    void keepsThePageAsLargeAsItself_data();
+    void keepsThePageAsLargeAsItself();
+    void doesNotKeepAFormerPage();
+    void doesWithoutAPageThatIsGone();
+};
+
+/** A page that wants and needs these sizes. */
+class SizedPage : public QWidget
+{
+public:
+    SizedPage(QWidget* parent, QSize wanted, QSize least)
+        : QWidget(parent)
+        , m_wanted(wanted)
+        , m_least(least)
+    {
+    }
+    QSize sizeHint() const override { return m_wanted; }
+    QSize minimumSizeHint() const override { return m_least; }
+
+private:
+    const QSize m_wanted, m_least;
+};
+
+void PageAreaTest::wantsToShowTheWholePage_data()
+{
+    QTest::addColumn<QSize>("wanted");
+    QTest::addColumn<QSize>("least");
+    QTest::addColumn<QSize>("hint");
+    QTest::newRow("no page") << QSize() << QSize() << QSize(400, 360);
+    QTest::newRow("small") << QSize(100, 100) << QSize(50, 50) << QSize(400, 360);
+    QTest::newRow("wide") << QSize(700, 100) << QSize(50, 50) << QSize(700, 360);
+    QTest::newRow("high") << QSize(100, 900) << QSize(50, 50) << QSize(400, 900);
+    QTest::newRow("needs more than it wants") << QSize(500, 500) << QSize(600, 50) << QSize(600, 500);
+}
+
+void PageAreaTest::wantsToShowTheWholePage()
+{
+    QFETCH(QSize, wanted);
+    QFETCH(QSize, least);
+    QFETCH(QSize, hint);
+    PageArea area;
+    if (wanted.isValid())
+        area.setPage(new SizedPage(area.ground(), wanted, least));
+    QCOMPARE(area.sizeHint(), hint);
+    area.setPage(nullptr);
+    QCOMPARE(area.sizeHint(), QSize(400, 360));
+}
+
+void PageAreaTest::hasRoomForAPageThatMustNotBeSmaller()
+{
+    PageArea area;
+    QWidget* const page = new SizedPage(area.ground(), QSize(100, 100), QSize(50, 50));
+    page->setMinimumSize(450, 500);
+    area.setPage(page);
+    QCOMPARE(area.sizeHint(), QSize(450, 500));
+}
+
+void PageAreaTest::keepsThePageAsLargeAsItself_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("pageSize");
+    QTest::newRow("room to spare") << QSize(800, 700) << QSize(800, 700);
+    QTest::newRow("too narrow") << QSize(300, 700) << QSize(500, 0);
+    QTest::newRow("too low") << QSize(800, 200) << QSize(0, 400);
+    QTest::newRow("too small") << QSize(300, 200) << QSize(500, 400);
+}
+
+void PageAreaTest::keepsThePageAsLargeAsItself()
+{
+    QFETCH(QSize, size);
+    QFETCH(QSize, pageSize); // 0 stands for what a scroll bar leaves of the area
+    PageArea area;
+    area.resize(600, 500);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QWidget* const page = new SizedPage(area.ground(), QSize(500, 400), QSize(10, 10));
+    area.setPage(page);
+    QCOMPARE(page->geometry(), QRect(0, 0, 600, 500));
+    area.resize(size);
+    const QSize viewport = area.viewport()->size();
+    QCOMPARE(page->pos(), QPoint(0, 0));
+    QTRY_COMPARE(page->width(), pageSize.width() ? pageSize.width() : viewport.width());
+    QTRY_COMPARE(page->height(), pageSize.height() ? pageSize.height() : viewport.height());
+}
+
+void PageAreaTest::doesNotKeepAFormerPage()
+{
+    PageArea area;
+    area.resize(600, 500);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QWidget* const former = new SizedPage(area.ground(), QSize(100, 100), QSize(10, 10));
+    QWidget* const page = new SizedPage(area.ground(), QSize(100, 100), QSize(10, 10));
+    area.setPage(former);
+    area.setPage(page);
+    area.resize(700, 550);
+    QTRY_COMPARE(page->size(), QSize(700, 550));
+    QCOMPARE(former->size(), QSize(600, 500));
+}
+
+void PageAreaTest::doesWithoutAPageThatIsGone()
+{
+    PageArea area;
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QWidget* const page = new SizedPage(area.ground(), QSize(500, 400), QSize(10, 10));
+    area.setPage(page);
+    delete page;
+    area.resize(700, 650);
+    QTRY_COMPARE(area.ground()->size(), QSize(700, 650));
+}
+
+REGISTER_TEST(PageAreaTest)
+#include "PageAreaTest.moc"

@@ -1,0 +1,265 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The settings dialog, and what it asks of the plug-ins with a page in it.
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "FakeTranslator.h"
+#include "PageArea.h"
+#include "PlayedPlugin.h"
+#include "SettingsDialog.h"
+#include "Test.h"
+
+class SettingsDialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void listsPluginsWithACaption();
+    void saysThatThereAreNoPages();
+    void showsTheFirstPage();
+    void leavesAPageForAnother();
+    void growsToThePage();
+    void givesThePageTheWholeArea();
+    void closesWhenAllAgree();
+    void staysForOneThatDoesNot();
+    void cancels_data();
+    void cancels();
+    void showsNoPageOfAPluginWithout();
+    void asksNothingOfAPluginThatIsGone();
+    void followsTheLanguage();
+
+private:
+    void open();
+    void press(QDialogButtonBox::StandardButton button);
+    QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
+    QStringList captions() const;
+    QString shownPage() const;
+
+    std::unique_ptr<PlayedPlugin> m_mail, m_links, m_silent;
+    std::unique_ptr<SettingsDialog> m_dialog;
+};
+
+void SettingsDialogTest::init()
+{
+    m_mail = std::make_unique<PlayedPlugin>("Mail");
+    m_mail->setProperty("caption", "My Mail");
+    m_links = std::make_unique<PlayedPlugin>("Links");
+    m_links->setProperty("caption", "My Links");
+    m_silent = std::make_unique<PlayedPlugin>("Silent");
+    PlayedPlugin::takeEvents();
+}
+
+void SettingsDialogTest::cleanup()
+{
+    m_dialog.reset();
+    m_mail.reset();
+    m_links.reset();
+    m_silent.reset();
+}
+
+/** Opens the dialog with the pages of both plug-ins, and forgets what it took to do so. */
+void SettingsDialogTest::open()
+{
+    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    PlayedPlugin::takeEvents();
+}
+
+void SettingsDialogTest::press(QDialogButtonBox::StandardButton button)
+{
+    QTest::mouseClick(m_dialog->findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+}
+
+QStringList SettingsDialogTest::captions() const
+{
+    QStringList captions;
+    for (int i = 0; i < list()->count(); ++i)
+        captions.append(list()->item(i)->text());
+    return captions;
+}
+
+/** The plug-in whose page is seen; all of them, should there be more. */
+QString SettingsDialogTest::shownPage() const
+{
+    QStringList names;
+    const QList<QWidget*> pages =
+        m_dialog->findChild<PageArea*>()->ground()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* page : pages) {
+        if (page->isVisible())
+            names.append(page->objectName());
+    }
+    return names.join(' ');
+}
+
+void SettingsDialogTest::listsPluginsWithACaption()
+{
+    QObject withoutSettings;
+    m_dialog = std::make_unique<SettingsDialog>(
+        QList<QObject*>{m_mail.get(), &withoutSettings, m_silent.get(), m_links.get()}, nullptr);
+    QCOMPARE(captions(), QStringList({"My Mail", "My Links"}));
+    QCOMPARE(m_dialog->windowTitle(), "Settings");
+    QCOMPARE(list()->accessibleName(), "Pages");
+    // Pages are built when they are seen.
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+}
+
+void SettingsDialogTest::saysThatThereAreNoPages()
+{
+    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_silent.get()}, nullptr);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    QVERIFY(!list()->isVisible());
+    QVERIFY(!m_dialog->findChild<PageArea*>()->isVisible());
+    QStringList texts;
+    const QList<QLabel*> labels = m_dialog->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        if (label->isVisible())
+            texts.append(label->text());
+    }
+    QCOMPARE(texts, QStringList("None of the loaded plug-ins has settings."));
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+}
+
+void SettingsDialogTest::showsTheFirstPage()
+{
+    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    m_dialog->show();
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("Mail shown"));
+    QCOMPARE(list()->currentRow(), 0);
+    QCOMPARE(shownPage(), "Mail");
+    for (const QLabel* label : m_dialog->findChildren<QLabel*>())
+        QVERIFY(!label->isVisible());
+}
+
+void SettingsDialogTest::leavesAPageForAnother()
+{
+    open();
+    list()->setCurrentRow(1);
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Links shown"}));
+    QCOMPARE(shownPage(), "Links");
+    list()->setCurrentRow(0);
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Links hidden", "Mail shown"}));
+    QCOMPARE(shownPage(), "Mail");
+}
+
+void SettingsDialogTest::growsToThePage()
+{
+    open();
+    const QSize before = m_dialog->size();
+    const QSize wanted(m_dialog->findChild<PageArea*>()->width() + 50, 10);
+    m_links->setProperty("pageSize", wanted);
+    list()->setCurrentRow(1);
+    QTRY_VERIFY(m_dialog->findChild<PageArea*>()->width() >= wanted.width());
+    QCOMPARE(m_dialog->height(), before.height());
+    const QSize grown = m_dialog->size();
+    list()->setCurrentRow(0);
+    QCOMPARE(m_dialog->size(), grown);
+}
+
+void SettingsDialogTest::givesThePageTheWholeArea()
+{
+    open();
+    QWidget* const ground = m_dialog->findChild<PageArea*>()->ground();
+    const QWidget* const page = ground->findChild<QWidget*>("Mail");
+    QVERIFY(page);
+    m_dialog->resize(m_dialog->size() + QSize(60, 40));
+    QTRY_COMPARE(page->geometry(), ground->rect());
+    QVERIFY(page->width() >= 400 + 60);
+}
+
+void SettingsDialogTest::closesWhenAllAgree()
+{
+    open();
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(PlayedPlugin::takeEvents(),
+             QStringList({"Mail OK", "Links OK", "Mail hidden"}));
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+}
+
+void SettingsDialogTest::staysForOneThatDoesNot()
+{
+    open();
+    m_links->setProperty("refuses", true);
+    press(QDialogButtonBox::Ok);
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(shownPage(), "Links");
+    QCOMPARE(list()->currentRow(), 1);
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail OK", "Links OK",
+                                                      "Mail hidden", "Links shown"}));
+    m_links->setProperty("refuses", false);
+    press(QDialogButtonBox::Ok);
+    QVERIFY(!m_dialog->isVisible());
+}
+
+void SettingsDialogTest::cancels_data()
+{
+    QTest::addColumn<QString>("by");
+    QTest::addColumn<bool>("refuses");
+    QTest::newRow("button") << "button" << false;
+    QTest::newRow("Escape") << "Escape" << false;
+    QTest::newRow("close button") << "close" << false;
+    QTest::newRow("though a plug-in would not") << "button" << true;
+}
+
+void SettingsDialogTest::cancels()
+{
+    QFETCH(QString, by);
+    QFETCH(bool, refuses);
+    open();
+    m_mail->setProperty("refuses", refuses);
+    if (by == "Escape")
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    else if (by == "close")
+        m_dialog->close();
+    else
+        press(QDialogButtonBox::Cancel);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
+}
+
+void SettingsDialogTest::showsNoPageOfAPluginWithout()
+{
+    open();
+    m_links->setProperty("isPageless", true);
+    list()->setCurrentRow(1);
+    QCOMPARE(shownPage(), QString());
+    list()->setCurrentRow(0);
+    QCOMPARE(shownPage(), "Mail");
+}
+
+void SettingsDialogTest::asksNothingOfAPluginThatIsGone()
+{
+    open();
+    m_links.reset();
+    list()->setCurrentRow(1);
+    QCOMPARE(shownPage(), QString());
+    press(QDialogButtonBox::Ok);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
+}
+
+void SettingsDialogTest::followsTheLanguage()
+{
+    open();
+    m_mail->setProperty("caption", "Mein Briefkasten");
+    const FakeTranslator other;
+    QTRY_COMPARE(m_dialog->windowTitle(), "*Settings");
+    QCOMPARE(captions(), QStringList({"Mein Briefkasten", "My Links"}));
+    QCOMPARE(shownPage(), "Mail");
+}
+
+REGISTER_TEST(SettingsDialogTest)
+#include "SettingsDialogTest.moc"

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The user's choices, from one start to the next.
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "RecordingTrace.h"
+#include "UserFolder.h"
+#include "UserSettings.h"
+#include "ProcessLimits.h"
+#include "Test.h"
+
+class UserSettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheLanguage_data();
+    void keepsTheLanguage();
+    void knowsNoneAtFirst();
+    void makesTheMissingFolder();
+    void warnsWhenItCannotBeKept();
+};
+
+/** A folder of the user that goes with it. */
+class OwnFolder
+{
+public:
+    explicit OwnFolder(const QString& below = QString()) { UserFolder::setPath(m_folder.path() + below); }
+    ~OwnFolder() { UserFolder::setPath(QString()); }
+
+    static QString file() { return UserFolder::path() + "/vellumconnect.ini"; }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void UserSettingsTest::keepsTheLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("de") << "de";
+    QTest::newRow("pt_BR") << "pt_BR";
+    QTest::newRow("the system's") << QString();
+}
+
+void UserSettingsTest::keepsTheLanguage()
+{
+    QFETCH(QString, language);
+    const OwnFolder folder;
+    UserSettings::setLanguage("fr");
+    UserSettings::setLanguage(language);
+    QCOMPARE(UserSettings::language(), language);
+    // Not only in this process.
+    QFile file(OwnFolder::file());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    QVERIFY2(text.contains(QString("language=%1\n").arg(language)), qPrintable(text));
+}
+
+void UserSettingsTest::knowsNoneAtFirst()
+{
+    const OwnFolder folder;
+    QCOMPARE(UserSettings::language(), QString());
+    QVERIFY(!QFileInfo::exists(OwnFolder::file()));
+}
+
+void UserSettingsTest::makesTheMissingFolder()
+{
+    const OwnFolder folder("/not/there");
+    const RecordingTrace trace;
+    QCOMPARE(UserSettings::language(), QString());
+    UserSettings::setLanguage("de");
+    QVERIFY(QFileInfo::exists(OwnFolder::file()));
+    QCOMPARE(UserSettings::language(), "de");
+    QCOMPARE(trace.warningLines, QStringList());
+}
+
+void UserSettingsTest::warnsWhenItCannotBeKept()
+{
+    const OwnFolder folder;
+    const QString path = UserFolder::path();
+    QVERIFY(QFile::setPermissions(path, QFile::Permissions(0x5555)));
+    const RecordingTrace trace;
+    {
+        const WithoutPrivileges user;
+        QVERIFY(user.isBound());
+        UserSettings::setLanguage("de");
+    }
+    QFile::setPermissions(path, QFile::Permissions(0x7700)); // so that it can be cleared away
+    QCOMPARE(trace.warningLines, QStringList("The choice cannot be kept in " + OwnFolder::file()));
+    QCOMPARE(QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+}
+
+REGISTER_TEST(UserSettingsTest)
+#include "UserSettingsTest.moc"

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include <QSignalSpy>
+
+#include "ConnectionMonitor.h"
+#include "FakeSource.h"
+#include "Test.h"
+
+class ConnectionMonitorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void tellsUpOnce();
+    void tellsWhatIsTrueAtThatMoment();
+    void wasUpBefore();
+    void asksOnceMoreBeforeItTells();
+    void tellsDownWhenItStaysAway();
+    void knowsSinceWhen();
+    void userTellsWithoutService();
+    void userIsNotAskedWhileThereIsAService();
+    void usersWordEndsWhenTheServiceComes();
+    void serviceLostAndReturned();
+    void sleepIsPassedOn();
+    void waitsAMinuteAfterSleep();
+
+private:
+    void start();
+
+    std::unique_ptr<FakeSource> m_made;
+    FakeSource* m_source = nullptr; ///< the monitor's from start() on
+    std::unique_ptr<ConnectionMonitor> m_monitor;
+    QStringList m_told;
+};
+
+void ConnectionMonitorTest::init()
+{
+    m_told.clear();
+    m_made = std::make_unique<FakeSource>();
+    m_source = m_made.get();
+    m_monitor = std::make_unique<ConnectionMonitor>();
+    connect(m_monitor.get(), &ConnectionMonitor::announced, this, [this](bool isUp, const QString& reason) {
+        m_told.append((isUp ? "UP " : "DOWN ") + reason);
+    });
+}
+
+void ConnectionMonitorTest::cleanup()
+{
+    m_monitor.reset();
+}
+
+void ConnectionMonitorTest::start()
+{
+    m_monitor->start(std::move(m_made));
+    QCOMPARE(m_told, QStringList());
+}
+
+void ConnectionMonitorTest::tellsUpOnce()
+{
+    start();
+    const QSignalSpy changed(m_monitor.get(), &ConnectionMonitor::changed);
+    m_source->become("a");
+    QCOMPARE(changed.size(), 1);
+    m_source->become("a");
+    Q_EMIT m_source->changed();
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::tellsWhatIsTrueAtThatMoment()
+{
+    start();
+    QList<bool> states;
+    connect(m_monitor.get(), &ConnectionMonitor::announced, this,
+            [this, &states] { states.append(m_monitor->state().isUp); });
+    m_source->become("a");
+    QCOMPARE(states, QList<bool>({true}));
+}
+
+void ConnectionMonitorTest::wasUpBefore()
+{
+    m_source->become("a");
+    start();
+    QVERIFY(m_monitor->state().isUp);
+    QVERIFY(!m_monitor->upSince().isValid());
+}
+
+void ConnectionMonitorTest::asksOnceMoreBeforeItTells()
+{
+    start();
+    m_source->current.isUp = true;
+    m_source->current.id = "a";
+    m_source->current.reach = ConnectionState::Reach::Full;
+    m_source->stillUp = false;
+    Q_EMIT m_source->changed();
+    QCOMPARE(m_told, QStringList());
+    m_source->become(QString());
+    m_source->become("a");
+    QCOMPARE(m_told.size(), 1);
+}
+
+void ConnectionMonitorTest::tellsDownWhenItStaysAway()
+{
+    start();
+    m_source->become("a");
+    m_told.clear();
+    m_source->become(QString());
+    QVERIFY(!m_monitor->state().isUp);
+    QCOMPARE(m_told, QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(m_told, QStringList("DOWN down"), 30000);
+}
+
+void ConnectionMonitorTest::knowsSinceWhen()
+{
+    start();
+    QVERIFY(!m_monitor->upSince().isValid());
+    const QDateTime before = QDateTime::currentDateTime();
+    m_source->become("a");
+    const QDateTime since = m_monitor->upSince();
+    QVERIFY(since >= before && since <= QDateTime::currentDateTime());
+    m_source->become("a", ConnectionState::Reach::Portal);
+    QCOMPARE(m_monitor->upSince(), since);
+    m_source->become(QString());
+    QVERIFY(!m_monitor->upSince().isValid());
+}
+
+void ConnectionMonitorTest::userTellsWithoutService()
+{
+    ConnectionMonitor monitor;
+    QSignalSpy told(&monitor, &ConnectionMonitor::announced);
+    monitor.start(nullptr);
+    QVERIFY(monitor.isManual());
+    QVERIFY(!monitor.lacksService());
+    monitor.setManuallyUp(true);
+    monitor.setManuallyUp(true);
+    QCOMPARE(told.size(), 1);
+    QVERIFY(monitor.state().isUp);
+    monitor.setManuallyUp(false);
+    QVERIFY(!monitor.state().isUp);
+}
+
+void ConnectionMonitorTest::userIsNotAskedWhileThereIsAService()
+{
+    start();
+    QVERIFY(!m_monitor->isManual());
+    m_monitor->setManuallyUp(true);
+    QVERIFY(!m_monitor->state().isUp);
+    m_source->setAvailable(false);
+    QVERIFY(m_monitor->isManual());
+    QVERIFY(m_monitor->lacksService());
+    QVERIFY(!m_monitor->state().isUp);
+    QCOMPARE(m_told, QStringList());
+}
+
+void ConnectionMonitorTest::usersWordEndsWhenTheServiceComes()
+{
+    m_source->available = false;
+    start();
+    m_monitor->setManuallyUp(true);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+    m_source->setAvailable(true);
+    QVERIFY(!m_monitor->state().isUp);
+    m_source->setAvailable(false);
+    QVERIFY(!m_monitor->state().isUp);
+}
+
+void ConnectionMonitorTest::serviceLostAndReturned()
+{
+    start();
+    m_source->become("a");
+    m_told.clear();
+    m_source->setAvailable(false);
+    QVERIFY(!m_monitor->state().isUp);
+    m_source->setAvailable(true);
+    QVERIFY(m_monitor->state().isUp);
+    QCOMPARE(m_told, QStringList());
+    m_source->setAvailable(false);
+    m_source->current = ConnectionState();
+    m_source->setAvailable(true);
+    QCOMPARE(m_told, QStringList("DOWN down since the service is back"));
+    m_source->become("a");
+    QCOMPARE(m_told.size(), 2);
+    m_source->setAvailable(false);
+    m_source->current.id = "b";
+    m_source->setAvailable(true);
+    QCOMPARE(m_told.size(), 3);
+}
+
+void ConnectionMonitorTest::sleepIsPassedOn()
+{
+    start();
+    m_source->become("a");
+    m_told.clear();
+    m_monitor->fallAsleep();
+    m_source->become(QString());
+    m_monitor->wakeUp();
+    m_source->become("b");
+    m_source->become("a");
+    // Another connection than before sleep is told; that "a" took over from it is not.
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::waitsAMinuteAfterSleep()
+{
+    start();
+    const QTimer* const deadline = m_monitor->findChild<QTimer*>();
+    QTest::qSleep(2); // The clock of the monitor must have begun to count.
+    m_source->become("a");
+    m_source->become(QString());
+    QVERIFY(deadline->isActive());
+    m_monitor->fallAsleep();
+    QVERIFY(!deadline->isActive());
+    m_monitor->wakeUp();
+    QVERIFY(deadline->isActive());
+    QVERIFY(deadline->interval() > 50000);
+    QVERIFY(deadline->interval() <= TransitionRules::wakeUpLimit);
+}
+
+REGISTER_TEST(ConnectionMonitorTest)
+#include "ConnectionMonitorTest.moc"

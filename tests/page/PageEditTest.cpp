@@ -1,0 +1,426 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The Edit button: what the dialog is filled with, and what becomes of the link.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "ShownPage.h"
+#include "QuickLinkSettingNewEditDlg.h"
+#include "Test.h"
+
+class PageEditTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { m_page.end(); }
+
+    void dialogOpens();
+    void dialogIsInEditMode();
+    void field_data();
+    void field();
+    void checkBoxes_data();
+    void checkBoxes();
+    void longNameIsCutLikeTheField();
+    void secondEditReplacesTheDialog();
+    void editDoesNotTouchTheNewDialog();
+    void changedInPlace_data();
+    void changedInPlace();
+    void typeChangesInTheTable();
+    void editedLinkIsNumberedAnew();
+    void rightsComeBack();
+    void optionsGoWithoutAClick_data();
+    void optionsGoWithoutAClick();
+    void unchangedNameIsNotRefused();
+    void nameOfAnotherLinkIsRefused();
+    void rowKeepsTheDialogsObject();
+    void oldRecordIsFreed();
+    void fileIsNotReadBack();
+    void menuIsToldOnceTheFileIsWritten();
+    void tableGetsTheFocus();
+    void editingEnds_data();
+    void editingEnds();
+    void cancelChangesNothing();
+
+private:
+    void edit(int row);
+
+    ShownPage m_page;
+};
+
+void PageEditTest::edit(int row)
+{
+    m_page.select(row);
+    m_page.click("m_editBtn");
+}
+
+void PageEditTest::dialogOpens()
+{
+    m_page.begin(links("a b"));
+    FakeHost::instance().language = "de";
+    edit(1);
+    QCOMPARE(FakeHost::instance().frames.size(), 1);
+    QVERIFY(m_page.frame()->isVisible());
+    QCOMPARE(m_page.frame()->parentWidget(), m_page.host.data());
+    QCOMPARE(FakeHost::instance().frames.first().titles, QStringList()
+                                                             << "de:IDS_LINK_SETTING_EDIT_TITLE");
+    QCOMPARE(m_page.page->m_editDlg->m_frameDialog, m_page.frame());
+    QVERIFY(!m_page.page->m_newDlg);
+}
+
+void PageEditTest::dialogIsInEditMode()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    QVERIFY(m_page.page->m_editDlg->m_isEdit);
+    QCOMPARE(m_page.page->m_editDlg->m_editedName, "b");
+    QVERIFY(m_page.page->m_isEditing);
+}
+
+void PageEditTest::field_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("parameters");
+    QTest::addColumn<QString>("address");
+    const struct {
+        const char* name;
+        const char* type;
+        const char* url;
+        int index;
+        const char* path;
+        const char* parameters;
+        const char* address;
+    } rows[] = {{"application", "IDS_LINK_TYPE_APPLICATION", "/opt/a b/run", 0, "/opt/a b/run", "-x -y", ""},
+                {"backslashes", "IDS_LINK_TYPE_APPLICATION", "C:\\Tools\\app.exe", 0, "C:/Tools/app.exe", "-x -y", ""},
+                {"mixed slashes", "IDS_LINK_TYPE_APPLICATION", "\\\\h/d\\", 0, "//h/d/", "-x -y", ""},
+                {"e-mail", "IDS_LINK_TYPE_E-MAIL", "mailto:x@example.org", 1, "", "", ""},
+                {"Internet", "IDS_LINK_TYPE_INTERNET", "http://example.org/a\\b", 2, "", "", "http://example.org/a\\b"},
+                {"unknown type", "IDS_LINK_TYPE_E_MAIL", "http://x", 2, "", "", "http://x"},
+                {"type in other letters", "ids_link_type_application", "/x", 2, "", "", "/x"},
+                {"type with a blank", "IDS_LINK_TYPE_APPLICATION ", "/x", 2, "", "", "/x"},
+                {"no type", "", "http://x", 2, "", "", "http://x"}};
+    for (const auto& row : rows)
+        QTest::newRow(row.name) << QString::fromLatin1(row.type) << QString::fromLatin1(row.url) << row.index
+                                << QString::fromLatin1(row.path) << QString::fromLatin1(row.parameters)
+                                << QString::fromLatin1(row.address);
+}
+
+void PageEditTest::field()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, url);
+    QFETCH(int, index);
+    QFETCH(QString, path);
+    QFETCH(QString, parameters);
+    QFETCH(QString, address);
+    QuickLinkRecordList records = links("a b");
+    records[1].type = type;
+    records[1].url = url;
+    records[1].para = "-x -y";
+    m_page.begin(records);
+    edit(1);
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_appNameEdit")->text(), "b");
+    QCOMPARE(m_page.inDialog<QComboBox>("m_appTypeChoice")->currentIndex(), index);
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_appPathEdit")->text(), path);
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_appParamEdit")->text(), parameters);
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_EditUrlName")->text(), address);
+    QCOMPARE(m_page.page->m_editDlg->m_applicationPanel->isVisible(), index == 0);
+    QCOMPARE(m_page.page->m_editDlg->m_EmailTab->isVisible(), index == 1);
+    QCOMPARE(m_page.page->m_editDlg->m_InternetTab->isVisible(), index == 2);
+    QVERIFY(m_page.inDialog<QPushButton>("m_okBtn")->isEnabled());
+}
+
+void PageEditTest::checkBoxes_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("onConnect");
+    QTest::addColumn<QString>("onStart");
+    const char* const kinds[] = {"Internet", "e-mail", "application"};
+    const char* const flags[][2] = {{"0", "0"}, {"1", "0"}, {"0", "1"}, {"1", "1"}, {"", "true"}, {"2", " 1"}};
+    for (int kind = 0; kind < 3; ++kind) {
+        for (const char* const* flag : flags)
+            QTest::newRow(
+                qPrintable(QString("%1 \"%2\" \"%3\"")
+                               .arg(QLatin1String(kinds[kind]), QLatin1String(flag[0]), QLatin1String(flag[1]))))
+                << kind << QString::fromLatin1(flag[0]) << QString::fromLatin1(flag[1]);
+    }
+}
+
+void PageEditTest::checkBoxes()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, onConnect);
+    QFETCH(QString, onStart);
+    QuickLinkRecordList records = links("a b c");
+    records[kind].startconnect = onConnect;
+    records[kind].startmobile = onStart;
+    m_page.begin(records);
+    edit(kind);
+    const char* const boxes[][2] = {{"m_launchWhenConnectCBForInternet", "m_launchWhenSWLaunchCBForInternet"},
+                                    {"m_launchWhenConnectCBForEmail", "m_launchWhenSWLaunchCBForEmail"},
+                                    {"m_launchWhenConnectCB", "m_launchWhenSWLaunchCB"}};
+    for (int each = 0; each < 3; ++each) {
+        const bool isShown = each == kind;
+        QCOMPARE(m_page.inDialog<QCheckBox>(boxes[each][0])->isChecked(), isShown && onConnect == "1");
+        QCOMPARE(m_page.inDialog<QCheckBox>(boxes[each][1])->isChecked(), isShown && onStart == "1");
+    }
+    QCOMPARE(m_page.page->m_editDlg->m_launchOnConnect, "0");
+    QCOMPARE(m_page.page->m_editDlg->m_launchOnSoftware, "0");
+}
+
+void PageEditTest::longNameIsCutLikeTheField()
+{
+    QuickLinkRecordList records = links("a b");
+    records[1].name = QString(60, 'n');
+    m_page.begin(records);
+    edit(1);
+    QCOMPARE(m_page.page->m_editDlg->m_editedName, QString(49, 'n'));
+}
+
+void PageEditTest::secondEditReplacesTheDialog()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    const QPointer<QObject> first = m_page.page->m_editDlg;
+    const QPointer<QWidget> firstFrame = m_page.frame();
+    m_page.enter("m_appNameEdit", "half typed");
+    m_page.page->onEditBtnClick();
+    QVERIFY(!first);
+    QVERIFY(!firstFrame);
+    QCOMPARE(m_page.liveFrames(), 1);
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_appNameEdit")->text(), "b");
+}
+
+void PageEditTest::editDoesNotTouchTheNewDialog()
+{
+    m_page.begin(links("a"));
+    m_page.click("m_newBtn");
+    const QPointer<QuickLinkSettingNewEditDlg> dialog = m_page.page->m_newDlg;
+    m_page.page->onEditBtnClick();
+    QVERIFY(dialog);
+    QCOMPARE(m_page.page->m_newDlg, dialog.data());
+    QCOMPARE(m_page.liveFrames(), 2);
+}
+
+void PageEditTest::changedInPlace_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("first") << 0 << "new b c";
+    QTest::newRow("second") << 1 << "a new c";
+    QTest::newRow("third") << 2 << "a b new";
+}
+
+void PageEditTest::changedInPlace()
+{
+    QFETCH(int, row);
+    QFETCH(QString, names);
+    QuickLinkRecordList records = links("a b c");
+    for (QuickLinkRecord& record : records)
+        record.type = "IDS_LINK_TYPE_INTERNET";
+    m_page.begin(records);
+    const QuickLinkRecord* others[] = {m_page.recordOf(0), m_page.recordOf(1), m_page.recordOf(2)};
+    const QString buttons = (edit(row), m_page.enabledButtons());
+    m_page.enter("m_appNameEdit", "new");
+    m_page.pressOk();
+    QCOMPARE(m_page.shownNames(), names);
+    QCOMPARE(m_page.listNames(), names);
+    QCOMPARE(m_page.currentRow(), row);
+    QCOMPARE(m_page.enabledButtons(), buttons);
+    QCOMPARE(m_page.disorder(), QString());
+    for (int each = 0; each < 3; ++each)
+        QCOMPARE(m_page.recordOf(each) == others[each], each != row);
+    QVERIFY(!m_page.frame()->isVisible());
+}
+
+void PageEditTest::typeChangesInTheTable()
+{
+    m_page.begin(links("a b c"));
+    edit(0);
+    m_page.chooseType(1);
+    m_page.pressOk();
+    QCOMPARE(m_page.table()->item(0, 1)->text(), shown("IDS_LINK_TYPE_E-MAIL"));
+    QCOMPARE(m_page.page->m_recordList->at(0).url, "mailto:");
+    QCOMPARE(m_page.disorder(), QString());
+}
+
+void PageEditTest::editedLinkIsNumberedAnew()
+{
+    m_page.begin(links("a b c"));
+    edit(1);
+    m_page.enter("m_appNameEdit", "changed");
+    m_page.pressOk();
+    QCOMPARE(m_page.page->m_recordList->at(1).id, QString());
+    QuickLinkRecordList onDisk = *m_page.page->m_recordList;
+    onDisk[1].id = "2";
+    QCOMPARE(FakeHost::instance().readConfig(),
+             configDocument("1", "3", onDisk.toList()));
+}
+
+void PageEditTest::rightsComeBack()
+{
+    QuickLinkRecordList records = links("a b");
+    records[1].delete_ = "0";
+    m_page.begin(records);
+    edit(1);
+    QCOMPARE(m_page.enabledButtons(), "New Edit Up");
+    m_page.enter("m_appNameEdit", "c");
+    m_page.pressOk();
+    QCOMPARE(m_page.page->m_recordList->at(1).delete_, "1");
+    m_page.select(1);
+    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
+}
+
+void PageEditTest::optionsGoWithoutAClick_data()
+{
+    QTest::addColumn<bool>("isClicked");
+    QTest::newRow("not clicked") << false;
+    QTest::newRow("off and on again") << true;
+}
+
+void PageEditTest::optionsGoWithoutAClick()
+{
+    QFETCH(bool, isClicked);
+    QuickLinkRecordList records = links("a b");
+    records[1].startconnect = records[1].startmobile = "1";
+    m_page.begin(records);
+    edit(1);
+    for (int i = 0; isClicked && i < 2; ++i)
+        QTest::mouseClick(m_page.inDialog<QCheckBox>("m_launchWhenConnectCBForEmail"), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(5, m_page.inDialog<QCheckBox>("m_launchWhenConnectCBForEmail")->height() / 2));
+    QVERIFY(m_page.inDialog<QCheckBox>("m_launchWhenConnectCBForEmail")->isChecked());
+    m_page.pressOk();
+    QCOMPARE(m_page.page->m_recordList->at(1).startconnect,
+             isClicked ? "1" : "0");
+    QCOMPARE(m_page.page->m_recordList->at(1).startmobile, "0");
+}
+
+void PageEditTest::unchangedNameIsNotRefused()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    m_page.pressOk();
+    QCOMPARE(FakeHost::instance().messages.size(), 0);
+    QCOMPARE(m_page.shownNames(), "a b");
+    QVERIFY(!m_page.page->m_isEditing);
+}
+
+void PageEditTest::nameOfAnotherLinkIsRefused()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    m_page.enter("m_appNameEdit", "a");
+    m_page.pressOk();
+    QCOMPARE(FakeHost::instance().messages.size(), 1);
+    QCOMPARE(m_page.shownNames(), "a b");
+    QVERIFY(m_page.page->m_isEditing);
+    QVERIFY(m_page.frame()->isVisible());
+}
+
+void PageEditTest::rowKeepsTheDialogsObject()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    m_page.pressOk();
+    QCOMPARE(m_page.recordOf(1), m_page.page->m_editDlg->m_record);
+    const RecordProbe probe(m_page.recordOf(1));
+    edit(1);
+    QVERIFY(!probe.isFreed());
+    m_page.pressOk();
+    QVERIFY(probe.isFreed());
+}
+
+void PageEditTest::oldRecordIsFreed()
+{
+    m_page.begin(links("a b"));
+    const RecordProbe first(m_page.recordOf(0));
+    const RecordProbe second(m_page.recordOf(1));
+    edit(1);
+    QVERIFY(!second.isFreed());
+    m_page.pressOk();
+    QVERIFY(second.isFreed());
+    QVERIFY(!first.isFreed());
+}
+
+void PageEditTest::fileIsNotReadBack()
+{
+    m_page.begin(links("a b"));
+    const QuickLinkRecordList* const list = m_page.page->m_recordList;
+    edit(1);
+    {
+        RecordingTrace trace;
+        m_page.pressOk();
+        QCOMPARE(trace.countDebug(".*ReadXmlInformation.*"), 0);
+        QCOMPARE(trace.countDebug(tracePattern("%T : %F: SaveToConfigFile: Exit")), 1);
+    }
+    QCOMPARE(m_page.page->m_recordList, list);
+    QCOMPARE(QuickLinkXmlParse::GetInstance()->m_currentId, "2");
+}
+
+void PageEditTest::menuIsToldOnceTheFileIsWritten()
+{
+    m_page.begin(links("a b"));
+    QByteArray file;
+    FakeHost::instance().duringNotification = [&file] {
+        file = FakeHost::instance().readConfig();
+    };
+    edit(1);
+    m_page.enter("m_appNameEdit", "c");
+    m_page.pressOk();
+    QCOMPARE(FakeHost::instance().notifications, QStringList() << "MenuMgrPlugin 2309 0 0");
+    QVERIFY(file.contains("name=\"c\""));
+    QCOMPARE(file, FakeHost::instance().readConfig());
+}
+
+void PageEditTest::tableGetsTheFocus()
+{
+    m_page.begin(links("a b"));
+    edit(1);
+    m_page.pressOk();
+    QTRY_COMPARE(m_page.host->focusWidget(), static_cast<QWidget*>(m_page.table()));
+}
+
+void PageEditTest::editingEnds_data()
+{
+    QTest::addColumn<bool>("isCancelled");
+    QTest::newRow("by OK") << false;
+    QTest::newRow("by Cancel") << true;
+}
+
+void PageEditTest::editingEnds()
+{
+    QFETCH(bool, isCancelled);
+    m_page.begin(links("a b"));
+    edit(1);
+    if (isCancelled)
+        m_page.pressCancel();
+    else
+        m_page.pressOk();
+    QVERIFY(!m_page.page->m_isEditing);
+    QVERIFY(m_page.page->m_editDlg);
+    m_page.addLink(1, "c");
+    QCOMPARE(m_page.shownNames(), "a b c");
+}
+
+void PageEditTest::cancelChangesNothing()
+{
+    m_page.begin(links("a b"));
+    const QByteArray before = FakeHost::instance().readConfig();
+    const RecordProbe probe(m_page.recordOf(1));
+    edit(1);
+    m_page.enter("m_appNameEdit", "c");
+    m_page.pressCancel();
+    QVERIFY(!probe.isFreed());
+    QCOMPARE(m_page.shownNames(), "a b");
+    QCOMPARE(FakeHost::instance().readConfig(), before);
+    QCOMPARE(FakeHost::instance().notifications, QStringList());
+}
+
+REGISTER_TEST(PageEditTest)
+#include "PageEditTest.moc"

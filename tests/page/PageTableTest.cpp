@@ -1,0 +1,290 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+// The table when it is filled: how it is configured, its headers and its rows.
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+
+#include "ShownPage.h"
+#include "Test.h"
+
+class PageTableTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void configuration();
+    void columnsKeepTheDefaultWidth();
+    void header_data();
+    void header();
+    void rowHeight_data();
+    void rowHeight();
+    void item_data();
+    void item();
+    void typeText_data();
+    void typeText();
+    void rowsInOrderOfTheList_data();
+    void rowsInOrderOfTheList();
+    void recordIsACopyOfAllFields();
+    void hiddenLinksHaveRowsToo();
+    void cellsCannotBeEdited_data();
+    void cellsCannotBeEdited();
+    void rewritingARowReusesItsItems();
+    void rewritingARowKeepsTheOldRecord();
+    void traceOfARow();
+
+private:
+    ShownPage m_page;
+};
+
+void PageTableTest::cleanup()
+{
+    m_page.end();
+    QApplication::setFont(QFont());
+}
+
+void PageTableTest::configuration()
+{
+    m_page.begin(links("One Two"));
+    const QTableWidget* const table = m_page.table();
+    QVERIFY(!table->horizontalHeader()->stretchLastSection());
+    QVERIFY(!table->showGrid());
+    QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
+    QCOMPARE(table->selectionMode(), QAbstractItemView::SingleSelection);
+    QCOMPARE(table->itemDelegate(), static_cast<QAbstractItemDelegate*>(m_page.page->m_gridDelegate));
+    QVERIFY(table->verticalHeader()->isHidden());
+    QVERIFY(!table->horizontalHeader()->isHidden());
+    QCOMPARE(table->columnCount(), 2);
+    QVERIFY(!table->wordWrap());
+    QVERIFY(table->updatesEnabled());
+    QVERIFY(!table->isSortingEnabled());
+}
+
+void PageTableTest::columnsKeepTheDefaultWidth()
+{
+    QuickLinkRecordList records = links("One");
+    records[0].name = QString(200, 'W');
+    m_page.begin(records);
+    const QHeaderView* const columns = m_page.table()->horizontalHeader();
+    QCOMPARE(columns->defaultSectionSize(), QTableWidget().horizontalHeader()->defaultSectionSize());
+    QCOMPARE(m_page.table()->columnWidth(0), columns->defaultSectionSize());
+    QCOMPARE(m_page.table()->columnWidth(1), columns->defaultSectionSize());
+}
+
+void PageTableTest::header_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("links");
+    QTest::newRow("name") << 0 << "IDS_LINK_SETTING_NAME" << 2;
+    QTest::newRow("type") << 1 << "IDS_LINK_SETTING_TYPE" << 2;
+    QTest::newRow("name, no links") << 0 << "IDS_LINK_SETTING_NAME" << 0;
+    QTest::newRow("type, no links") << 1 << "IDS_LINK_SETTING_TYPE" << 0;
+}
+
+void PageTableTest::header()
+{
+    QFETCH(int, column);
+    QFETCH(QString, key);
+    QFETCH(int, links);
+    m_page.begin(::links(links ? "One Two" : ""));
+    QCOMPARE(m_page.table()->rowCount(), links);
+    const QTableWidgetItem* const item = m_page.table()->horizontalHeaderItem(column);
+    QVERIFY(item);
+    QCOMPARE(item, column == 0 ? m_page.page->m_nameHeaderItem : m_page.page->m_typeHeaderItem);
+    QCOMPARE(item->text(), shown(key.toLatin1().constData()));
+    QCOMPARE(item->data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignLeft));
+    QCOMPARE(item->type(), 0);
+}
+
+void PageTableTest::rowHeight_data()
+{
+    QTest::addColumn<int>("pointSize");
+    QTest::newRow("small font") << 6;
+    QTest::newRow("usual font") << 10;
+    QTest::newRow("very large font") << 48;
+}
+
+void PageTableTest::rowHeight()
+{
+    QFETCH(int, pointSize);
+    QFont font;
+    font.setPointSize(pointSize);
+    QApplication::setFont(font);
+    m_page.begin(links("One Two Three"));
+    m_page.addLink(1, "Four");
+    QCoreApplication::processEvents();
+    for (int row = 0; row < 4; ++row)
+        QCOMPARE(m_page.table()->rowHeight(row), 14);
+}
+
+void PageTableTest::item_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasRecord");
+    const char* const types[] = {"en:IDS_LINK_TYPE_INTERNET", "en:IDS_LINK_TYPE_E-MAIL",
+                                 "en:IDS_LINK_TYPE_APPLICATION"};
+    const char* const names[] = {"One", "Two", "Three"};
+    for (int row = 0; row < 3; ++row) {
+        QTest::newRow(names[row]) << row << 0 << QString::fromLatin1(names[row]) << true;
+        QTest::newRow(types[row]) << row << 1 << QString::fromLatin1(types[row]) << false;
+    }
+}
+
+void PageTableTest::item()
+{
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(QString, text);
+    QFETCH(bool, hasRecord);
+    m_page.begin(links("One Two Three"));
+    const QTableWidgetItem* const item = m_page.table()->item(row, column);
+    QVERIFY(item);
+    QCOMPARE(item->text(), text);
+    QCOMPARE(item->type(), 0);
+    QCOMPARE(item->data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignLeft));
+    QCOMPARE(int(item->flags()), int(QTableWidgetItem().flags() & ~Qt::ItemIsEditable));
+    bool isNumber = false;
+    const qulonglong data = item->data(Qt::UserRole).toULongLong(&isNumber);
+    QVERIFY(isNumber);
+    QCOMPARE(data != 0, hasRecord);
+    if (hasRecord)
+        QCOMPARE(m_page.recordOf(row)->name, text);
+}
+
+void PageTableTest::typeText_data()
+{
+    QTest::addColumn<QString>("type");
+    const char* const types[] = {
+        "IDS_LINK_TYPE_APPLICATION", "IDS_LINK_TYPE_E-MAIL", "IDS_LINK_TYPE_E_MAIL", "IDS_LINK_TYPE_INTERNET", "2", ""};
+    for (const char* type : types)
+        QTest::newRow(type) << QString::fromLatin1(type);
+}
+
+void PageTableTest::typeText()
+{
+    QFETCH(QString, type);
+    QuickLinkRecordList records = links("One");
+    records[0].type = type;
+    m_page.begin(records);
+    QCOMPARE(m_page.table()->item(0, 1)->text(), "en:" + type);
+}
+
+void PageTableTest::rowsInOrderOfTheList_data()
+{
+    QTest::addColumn<QByteArray>("names");
+    QTest::newRow("none") << QByteArray();
+    QTest::newRow("one") << QByteArray("One");
+    QTest::newRow("three") << QByteArray("One Two Three");
+    QTest::newRow("not sorted") << QByteArray("c a b");
+    QTest::newRow("twice the same") << QByteArray("a a a");
+}
+
+void PageTableTest::rowsInOrderOfTheList()
+{
+    QFETCH(QByteArray, names);
+    m_page.begin(links(names.constData()));
+    QCOMPARE(m_page.shownNames(), QString::fromLatin1(names));
+    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(m_page.currentRow(), names.isEmpty() ? -1 : 0);
+    QCOMPARE(m_page.table()->selectedItems().size(), names.isEmpty() ? 0 : 2);
+}
+
+void PageTableTest::recordIsACopyOfAllFields()
+{
+    QuickLinkRecord record;
+    record.id = "17";
+    record.name = "name";
+    record.url = "url";
+    record.startconnect = "sc";
+    record.startmobile = "sm";
+    record.type = "type";
+    record.para = "para";
+    record.delete_ = "d";
+    record.edit = "e";
+    record.visible = "1";
+    m_page.begin(QuickLinkRecordList() << record);
+    QCOMPARE(difference(*m_page.recordOf(0), record), QString());
+    QVERIFY(m_page.recordOf(0) != &m_page.page->m_recordList->at(0));
+}
+
+void PageTableTest::hiddenLinksHaveRowsToo()
+{
+    m_page.beginHidden(links("One"));
+    QuickLinkRecordList hidden = links("Two");
+    hidden[0].visible = "0";
+    m_page.page->m_recordList->append(hidden.first());
+    m_page.show();
+    QCOMPARE(m_page.shownNames(), "One Two");
+    QCOMPARE(m_page.disorder(), QString());
+}
+
+void PageTableTest::cellsCannotBeEdited_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::newRow("name") << 0;
+    QTest::newRow("type") << 1;
+}
+
+void PageTableTest::cellsCannotBeEdited()
+{
+    QFETCH(int, column);
+    m_page.begin(links("One Two"));
+    QTableWidget* const table = m_page.table();
+    table->setCurrentCell(1, column);
+    const QPoint place = table->visualItemRect(table->item(1, column)).center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::keyClick(table, Qt::Key_F2);
+    QTest::keyClicks(table->viewport(), "x");
+    QVERIFY(table->findChildren<QLineEdit*>().isEmpty());
+    QCOMPARE(m_page.shownNames(), "One Two");
+}
+
+void PageTableTest::rewritingARowReusesItsItems()
+{
+    m_page.begin(links("One Two"));
+    const QTableWidgetItem* const name = m_page.table()->item(1, 0);
+    const QTableWidgetItem* const type = m_page.table()->item(1, 1);
+    QuickLinkRecord* const old = m_page.recordOf(1);
+    QuickLinkRecord* const record = new QuickLinkRecord(makeRecord("Other", "application", "/x"));
+    RecordingTrace trace;
+    m_page.page->populateTableRow(record, 1);
+    QCOMPARE(m_page.table()->item(1, 0), name);
+    QCOMPARE(m_page.table()->item(1, 1), type);
+    QCOMPARE(name->text(), "Other");
+    QCOMPARE(type->text(), shown("IDS_LINK_TYPE_APPLICATION"));
+    QCOMPARE(m_page.recordOf(1), record);
+    QVERIFY(!(name->flags() & Qt::ItemIsEditable));
+    QCOMPARE(trace.warningLines, QStringList());
+    m_page.page->freeRecord(old);
+}
+
+void PageTableTest::rewritingARowKeepsTheOldRecord()
+{
+    m_page.begin(links("One"));
+    QuickLinkRecord* const old = m_page.recordOf(0);
+    const RecordProbe probe(old);
+    m_page.page->populateTableRow(new QuickLinkRecord(makeRecord("Other", "email", "mailto:")), 0);
+    QVERIFY(!probe.isFreed());
+    m_page.page->freeRecord(old);
+    QVERIFY(probe.isFreed());
+}
+
+void PageTableTest::traceOfARow()
+{
+    m_page.begin(links("One"));
+    QuickLinkRecord* const same = m_page.recordOf(0);
+    RecordingTrace trace;
+    m_page.page->populateTableRow(same, 0);
+    QCOMPARE(trace.debugDifference(QStringList() << tracePattern("%F: populateTableRow: %T : Entered ")), QString());
+}
+
+REGISTER_TEST(PageTableTest)
+#include "PageTableTest.moc"

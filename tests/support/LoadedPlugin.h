@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMetaType>
+
+#include "FakeHost.h"
+#include "QuickLinkRecord.h"
+#include "QuickLinkSettingPluginDlg.h"
+#include "QuickLinkXmlParse.h"
+#include "Records.h"
+#include "RecordingTrace.h"
+
+Q_DECLARE_METATYPE(QuickLinkRecord)
+
+/** The plug-in object of one test: make() in init(), unload() in cleanup(). Only for tests that see private members. */
+class LoadedPlugin
+{
+public:
+    LoadedPlugin()
+        : page(nullptr)
+    {
+    }
+
+    /** A fresh host and the plug-in object as the loader makes it, without Init(). */
+    void make()
+    {
+        FakeHost::instance().reset();
+        page = new QuickLinkSettingPluginDlg;
+    }
+
+    /** Init() without a file, then exactly these links in the list, hidden ones included. */
+    void load(const QuickLinkRecordList& records)
+    {
+        page->Init();
+        *page->m_recordList = records;
+    }
+
+    /** What the host does at its end. A test may have called OnDestroy() before. */
+    void unload()
+    {
+        if (page)
+            page->OnDestroy();
+        delete page;
+        page = nullptr;
+        QuickLinkXmlParse::Destroy();
+    }
+
+    QuickLinkSettingPluginDlg* page;
+};
+
+/** The pattern of a trace line, in which %T stands for the time, %F for the source file and %L for the line. */
+inline QString tracePattern(const char* line)
+{
+    QString pattern = QLatin1String(line);
+    pattern.replace("%T", QLatin1String(TracePattern::time));
+    pattern.replace("%F", QLatin1String(TracePattern::file));
+    pattern.replace("%L", QLatin1String(TracePattern::line));
+    return pattern;
+}
