@@ -303,7 +303,7 @@ void PageConstructionTest::textsComeFromTheirContext()
 {
     m_page.begin(links("One Two Three"));
     QCOMPARE(FakeHost::instance().translationContexts, QStringList() << "QuickLinkUIPlugin");
-    QCOMPARE(m_page.page->tr("IDS_ANY"), "en:IDS_ANY");
+    QCOMPARE(m_page.page->tr(QString("IDS_ANY")), "en:IDS_ANY");
 }
 
 void PageConstructionTest::slot_data()

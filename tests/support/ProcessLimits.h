@@ -17,13 +17,14 @@ class WithoutPrivileges
 public:
     WithoutPrivileges()
         : m_user(geteuid())
-        , m_isDropped(m_user == 0 && seteuid(nobody) == 0)
+        // The real user as well: some questions to the system go by that one.
+        , m_isDropped(m_user == 0 && setresuid(nobody, nobody, 0) == 0)
     {
     }
 
     ~WithoutPrivileges()
     {
-        if (m_isDropped && seteuid(m_user) != 0)
+        if (m_isDropped && setresuid(0, 0, 0) != 0)
             qFatal("cannot become root again");
     }
 

@@ -34,6 +34,10 @@ RegisteredTest::RegisteredTest(const char* name, TestMaker make)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+#if QT_VERSION >= 0x050000
+    // As QTEST_MAIN does: sizes must not depend on the screen.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+#endif
     QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() > 1 && tests().contains(arguments.at(1)))
         return runTest(arguments.takeAt(1), arguments);
