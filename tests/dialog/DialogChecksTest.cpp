@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QTemporaryDir>
 
 #include "OpenDialog.h"
 #include "FakeHost.h"

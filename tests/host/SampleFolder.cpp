@@ -32,7 +32,7 @@ QString SampleFolder::file(const QString& name) const
 bool SampleFolder::add(const QString& sample, const QString& name) const
 {
     const QString to = file(name.isEmpty() ? sample : name);
-    const QString from = QString("%1/%2/lib%2.so").arg(QStringLiteral(SAMPLES), sample);
+    const QString from = QString("%1/%2/lib%2.so").arg(QString(SAMPLES), sample);
     return QDir().mkpath(QFileInfo(to).path()) && QFile::copy(from, to);
 }
 

@@ -5,7 +5,7 @@
 
 #include <QObject>
 #include <QStringList>
-#include <QTemporaryDir>
+#include "QtVersions.h"
 
 #include "PluginContainer.h"
 

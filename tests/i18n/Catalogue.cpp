@@ -71,14 +71,14 @@ QList<CatalogueText> readCatalogue(const QString& path)
 
 QString cataloguePath(const QString& language)
 {
-    return QStringLiteral(CATALOGUES "/") + QLatin1String(prefix) + language + QLatin1String(suffix);
+    return QString(CATALOGUES "/") + QLatin1String(prefix) + language + QLatin1String(suffix);
 }
 
 QStringList catalogueLanguages()
 {
     QStringList languages;
     const QStringList files =
-        QDir(QStringLiteral(CATALOGUES))
+        QDir(QString(CATALOGUES))
             .entryList({QLatin1String(prefix) + '*' + QLatin1String(suffix)}, QDir::Files, QDir::Name);
     for (const QString& file : files)
         languages.append(file.mid(int(qstrlen(prefix)), file.size() - int(qstrlen(prefix) + qstrlen(suffix))));

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include "Catalogue.h"
 #include "QuickLinkKeys.h"
@@ -88,9 +87,9 @@ void CataloguesTest::initTestCase()
 {
     const QString catalogue = m_folder.filePath("sources.ts");
     QProcess lupdate;
-    lupdate.start(QStringLiteral(LUPDATE),
+    lupdate.start(QString(LUPDATE),
                   {"-silent", "-locations", "none",
-                   QStringLiteral(HOST_SOURCES), "-ts", catalogue});
+                   QString(HOST_SOURCES), "-ts", catalogue});
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
     m_complaints = lupdate.readAllStandardError();
@@ -103,7 +102,7 @@ void CataloguesTest::keysAreThoseThatThePluginUses()
     // The way in which config.xml spells a type is no text.
     const QString spelling = "\"IDS_LINK_TYPE_E_MAIL\"";
     QStringList used;
-    const QDir folder(QStringLiteral(PLUGIN_SOURCES));
+    const QDir folder(QString(PLUGIN_SOURCES));
     const QStringList files = folder.entryList({"*.cpp", "*.h"}, QDir::Files);
     for (const QString& name : files) {
         QFile file(folder.filePath(name));

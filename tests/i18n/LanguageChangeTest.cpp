@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTemporaryDir>
 
 #include "Change.h"
 #include "Host.h"
@@ -224,7 +223,7 @@ void LanguageChangeTest::pageFollows()
     m_host->setLanguage("de");
     QCoreApplication::processEvents();
     const Changes changed = changes(before, textsOf(m_settings.data()));
-    QCOMPARE(listOf(changed), QStringLiteral("&Down; &Edit…; &New…; &Up; Cancel; De&lete; Links open in this order:; "
+    QCOMPARE(listOf(changed), QString("&Down; &Edit…; &New…; &Up; Cancel; De&lete; Links open in this order:; "
                                              "Quick Links; Quick Links; Settings; Type"));
     QCOMPARE(wrong(changed), QStringList());
 }
@@ -238,7 +237,7 @@ void LanguageChangeTest::editDialogFollows()
     m_host->setLanguage("de");
     QCoreApplication::processEvents();
     const Changes changed = changes(before, textsOf(dialog));
-    QCOMPARE(listOf(changed), QStringLiteral("Application; Application; Browse…; Cancel; E-mail; Open when connected; "
+    QCOMPARE(listOf(changed), QString("Application; Application; Browse…; Cancel; E-mail; Open when connected; "
                                              "Open when the program starts; Parameters:; Program file:; Type:"));
     QCOMPARE(wrong(changed), QStringList());
 }
@@ -260,7 +259,7 @@ void LanguageChangeTest::windowFollows()
     m_host->setLanguage("de");
     QCoreApplication::processEvents();
     QCOMPARE(listOf(changes(before, textsOf(m_window))),
-             QStringLiteral("&About Vellum Connect; &Connection; &Help; &Language; &Quick Links; &Quit; &Settings…; "
+             QString("&About Vellum Connect; &Connection; &Help; &Language; &Quick Links; &Quit; &Settings…; "
                             "&Status Bar; &System Language; &Tools; &View; Co&nnect; Not connected; "
                             "Press Connect when your connection is up.; Quick Links"));
 }

@@ -33,7 +33,7 @@ void writeLinks(const QString& folder)
 } // namespace
 
 PluginWindows::PluginWindows()
-    : m_loader(QStringLiteral(PLUGIN_FILE))
+    : m_loader(QString(PLUGIN_FILE))
     , m_plugin(qobject_cast<IBasePlugin*>(m_loader.instance()))
 {
     // As the program does: the plug-in's trace is not asked for.

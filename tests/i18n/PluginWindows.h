@@ -5,7 +5,7 @@
 
 #include <QDialog>
 #include <QPluginLoader>
-#include <QTemporaryDir>
+#include "QtVersions.h"
 
 #include <memory>
 

@@ -49,7 +49,7 @@ void ProgramLanguageTest::speaks()
     const QString expected = description(spoken);
     QVERIFY(!expected.isEmpty());
     QProcess program;
-    program.start(QStringLiteral(PROGRAM_FILE), {"--language", asked, "--help"});
+    program.start(QString(PROGRAM_FILE), {"--language", asked, "--help"});
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitCode(), 0);
     const QString help = QString::fromUtf8(program.readAllStandardOutput());

@@ -13,7 +13,7 @@ ShownLanguage::ShownLanguage(const QString& language)
     if (m_toolkit.load(QLocale(language), "qtbase", "_",
                        Places::toolkitTranslationFolder()))
         QCoreApplication::installTranslator(&m_toolkit);
-    m_isKnown = m_texts.load("vellumconnect_" + language, QStringLiteral(TRANSLATIONS));
+    m_isKnown = m_texts.load("vellumconnect_" + language, QString(TRANSLATIONS));
     if (m_isKnown)
         QCoreApplication::installTranslator(&m_texts);
 }

@@ -6,7 +6,6 @@
 #include <climits>
 
 #include <QAction>
-#include <QLoggingCategory>
 
 #include "LaunchEvents.h"
 #include "Trace.h"
@@ -228,21 +227,21 @@ void HostNotificationsTest::connectionSlotLaunches()
 void HostNotificationsTest::silentWithoutDebugChannel()
 {
     QVERIFY(Trace::isOn());
-    QLoggingCategory::setFilterRules("default.debug=false");
-    const bool isOn = Trace::isOn();
+    if (!DebugChannelOff::isPossible())
+        QSKIP("this toolkit cannot tell whether the debug channel is read");
     host().isConnected = true;
     {
+        const DebugChannelOff off;
+        // Off means that not even the arguments of a line are worked out.
+        QVERIFY(!Trace::isOn());
         RecordingTrace trace;
         m_plugin.page->Notify(1536, 0, 0);
         m_plugin.page->Notify(258, 0, 0);
         m_plugin.page->Notify(1024, 0, 0);
         m_plugin.page->LaunchQuickLinkAction(m_plugin.page->GetActionFromQuickLink(0));
-        QLoggingCategory::setFilterRules(QString());
         QCOMPARE(trace.debugLines, QStringList());
         QCOMPARE(trace.warningLines, QStringList());
     }
-    // Off means that not even the arguments of a line are worked out.
-    QVERIFY(!isOn);
     QCOMPARE(host().openings.size(), 3);
     RecordingTrace trace;
     m_plugin.page->Notify(1536, 0, 0);

@@ -42,7 +42,7 @@ int receiverCount(const QObject* object)
     for (int i = 0; i < object->metaObject()->methodCount(); ++i) {
         const QMetaMethod method = object->metaObject()->method(i);
         if (method.methodType() == QMetaMethod::Signal)
-            count += object->receivers(QByteArray('2' + method.methodSignature()).constData());
+            count += object->receivers(QByteArray('2' + signatureOf(method)).constData());
     }
     return count;
 }

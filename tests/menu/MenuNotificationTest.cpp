@@ -4,7 +4,6 @@
 // Telling the host's menu manager that the links changed, and what is said where that cannot be done.
 
 #include <QAction>
-#include <QLoggingCategory>
 
 #include "LoadedPlugin.h"
 #include "Test.h"
@@ -16,13 +15,6 @@ const char notLoaded[] = "%F: sendNotifyToMenu: plugin is not loaded ";
 const char start[] = "Start of %F: sendNotifyToMenu: %L: ";
 const char end[] = "End of %F: sendNotifyToMenu: %L: ";
 
-/** The debug channel is off while this lives. */
-class DebugChannelOff
-{
-public:
-    DebugChannelOff() { QLoggingCategory::setFilterRules("default.debug=false"); }
-    ~DebugChannelOff() { QLoggingCategory::setFilterRules(QString()); }
-};
 } // namespace
 
 class MenuNotificationTest : public QObject

@@ -111,7 +111,7 @@ void TransitionRulesTest::table_data()
     QTest::addColumn<QString>("events");
     QTest::addColumn<QString>("expected");
 
-    QFile file(QStringLiteral(RULES));
+    QFile file(QString(RULES));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
     int rows = 0;

@@ -52,7 +52,7 @@ void GridDelegateLayoutTest::pen()
     QPainter painter(&image);
     const QPen before(QBrush(Qt::red), 3, Qt::DotLine);
     painter.setPen(before);
-    QStyleOptionViewItem option;
+    ViewItemOption option;
     option.state = QStyle::State(QFlag(state));
     GridDelegateLayout().drawFocus(&painter, option, QRect(2, 2, 10, 10));
     if (!isSet) {
@@ -72,7 +72,7 @@ void GridDelegateLayoutTest::nothingIsDrawn()
     image.fill(qRgb(10, 20, 30));
     const QImage before = image.copy();
     QPainter painter(&image);
-    QStyleOptionViewItem option;
+    ViewItemOption option;
     option.state = QStyle::State(QFlag(state));
     option.rect = QRect(0, 0, 20, 20);
     GridDelegateLayout().drawFocus(&painter, option, option.rect);
@@ -89,7 +89,7 @@ QImage GridDelegateLayoutTest::cell(const QItemDelegate& delegate, QStyle::State
     QImage image(80, 30, QImage::Format_ARGB32);
     image.fill(qRgb(255, 255, 255));
     QPainter painter(&image);
-    QStyleOptionViewItem option;
+    ViewItemOption option;
     option.initFrom(&table);
     option.widget = &table;
     option.rect = QRect(0, 0, 80, 30);

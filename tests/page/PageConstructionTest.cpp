@@ -200,7 +200,7 @@ void PageConstructionTest::buttonColumn()
     m_page.page->m_pageWidget->resize(600, 500);
     m_page.page->m_pageWidget->show();
     QCoreApplication::processEvents();
-    const QRect inside = m_page.page->m_pageWidget->rect().marginsRemoved(m_page.page->m_pageLayout->contentsMargins());
+    const QRect inside = m_page.page->m_pageLayout->contentsRect();
     QCOMPARE(m_page.page->m_newBtn->y(), inside.top() + 35);
     QCOMPARE(m_page.page->m_editBtn->y(), m_page.page->m_newBtn->geometry().bottom() + 1 + 20);
     QCOMPARE(m_page.page->m_deleteBtn->y(), m_page.page->m_editBtn->geometry().bottom() + 1 + 20);
@@ -325,7 +325,7 @@ void PageConstructionTest::slot()
     QFETCH(QByteArray, signature);
     const QMetaObject& meta = QuickLinkSettingPluginDlg::staticMetaObject;
     const QMetaMethod method = meta.method(meta.methodOffset() + place);
-    QCOMPARE(method.methodSignature(), signature);
+    QCOMPARE(signatureOf(method), signature);
     QCOMPARE(int(method.methodType()), int(QMetaMethod::Slot));
     QCOMPARE(int(method.access()), int(QMetaMethod::Private));
     QCOMPARE(QByteArray(method.typeName()), QByteArray("void"));

@@ -152,7 +152,7 @@ void PageDeleteFailuresTest::noCurrentRow()
 {
     m_page.begin(links("a b"));
     m_file = FakeHost::instance().readConfig();
-    m_page.table()->selectionModel()->clearCurrentIndex();
+    m_page.table()->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
     {
         RecordingTrace trace;
         m_page.click("m_deleteBtn");
@@ -167,7 +167,7 @@ void PageDeleteFailuresTest::rowBeyondTheList()
     m_file = FakeHost::instance().readConfig();
     m_page.select(1);
     const QuickLinkRecord link = m_page.page->m_recordList->last();
-    m_page.page->m_recordList->removeLast();
+    m_page.page->m_recordList->pop_back();
     m_page.click("m_deleteBtn");
     m_page.page->m_recordList->append(link);
     checkUntouched();

@@ -180,10 +180,10 @@ void PageEditFailuresTest::recordComesBackToNoRow()
     const QuickLinkRecord link = m_page.page->m_recordList->last();
     QTableWidgetItem* taken = nullptr;
     if (what == "current") {
-        m_page.table()->selectionModel()->clearCurrentIndex();
+        m_page.table()->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
     } else if (what == "list") {
         m_page.table()->setCurrentCell(2, 0);
-        m_page.page->m_recordList->removeLast();
+        m_page.page->m_recordList->pop_back();
     } else {
         taken = m_page.table()->takeItem(1, 0);
     }

@@ -3,7 +3,6 @@
 
 // The host deletes its widget, and the page in it: every operation is then as if the page had never been built.
 
-#include <QRegularExpression>
 
 #include "ShownPage.h"
 #include "QuickLinkSettingNewEditDlg.h"
@@ -223,8 +222,7 @@ QString PageHostDeletesTest::outcome(const Operation& operation)
         lines += trace.debugLines;
         lines += trace.warningLines.filter("sendNotifyToMenu");
     }
-    QString text = lines.join("\n");
-    text.remove(QRegularExpression("\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d"));
+    QString text = withoutTimes(lines.join("\n"));
     for (int i = framesBefore; i < host.frames.size(); ++i)
         text += QString("\nframe, parent %1, titles ").arg(host.frames.at(i).parent != nullptr) +
                 host.frames.at(i).titles.join(",");

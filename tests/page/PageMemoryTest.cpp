@@ -4,7 +4,6 @@
 // A thousand times: show the page, press New, Cancel, and the host deletes its widget. Nothing may pile up.
 
 #include <QApplication>
-#include <QLoggingCategory>
 
 #include <unistd.h>
 
@@ -16,7 +15,6 @@ class PageMemoryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void cleanup() { m_page.end(); }
 
     void nothingPilesUp_data();
@@ -27,13 +25,9 @@ private:
     /** Resident memory of the process in bytes; 0 when it cannot be read. */
     static qint64 residentBytes();
 
+    const DebugChannelOff m_quiet;
     ShownPage m_page;
 };
-
-void PageMemoryTest::initTestCase()
-{
-    QLoggingCategory::setFilterRules("default.debug=false");
-}
 
 qint64 PageMemoryTest::residentBytes()
 {
@@ -95,7 +89,7 @@ void PageMemoryTest::nothingPilesUp()
 #endif
     QVERIFY(bytes > 0);
     const qint64 after = residentBytes();
-    qInfo("resident after 100 rounds %lld bytes, after 1000 rounds %lld bytes", static_cast<long long>(bytes),
+    qDebug("resident after 100 rounds %lld bytes, after 1000 rounds %lld bytes", static_cast<long long>(bytes),
           static_cast<long long>(after));
     QVERIFY2(after <= bytes + bytes / 50, "more than 2 % were added in 900 rounds");
 }

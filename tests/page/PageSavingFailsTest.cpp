@@ -122,7 +122,7 @@ QByteArray PageSavingFailsTest::document() const
 void PageSavingFailsTest::noFolder()
 {
     begin();
-    QVERIFY(QDir(FakeHost::instance().configFolder()).removeRecursively());
+    QVERIFY(removeFolder(FakeHost::instance().configFolder()));
     {
         RecordingTrace trace;
         change();
@@ -270,7 +270,7 @@ void PageSavingFailsTest::diskFull()
 void PageSavingFailsTest::counterAfterAFailure()
 {
     begin();
-    QVERIFY(QDir(FakeHost::instance().configFolder()).removeRecursively());
+    QVERIFY(removeFolder(FakeHost::instance().configFolder()));
     m_page.addLink(1, "d");
     QCOMPARE(QuickLinkXmlParse::GetInstance()->m_currentId, "3");
     QVERIFY(QDir().mkpath(FakeHost::instance().configFolder()));
@@ -283,7 +283,7 @@ void PageSavingFailsTest::worksAgainAfterwards()
 {
     QFETCH(QString, what);
     begin();
-    QVERIFY(QDir(FakeHost::instance().configFolder()).removeRecursively());
+    QVERIFY(removeFolder(FakeHost::instance().configFolder()));
     change();
     QVERIFY(QDir().mkpath(FakeHost::instance().configFolder()));
     m_page.show();

@@ -1,18 +1,38 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The built module in the hands of Qt's own plug-in loader, with the real host libraries behind it.
+// The installed module in the hands of the toolkit's own plug-in loader, with the real host libraries behind it. The same
+// program for every Qt: what differs between them is what the loader asks of the file.
 
-
+#include <QAction>
+#include <QDesktopServices>
 #include <QLibrary>
 #include <QPluginLoader>
-#include <QTemporaryDir>
+#include <QPointer>
+#include <QScopedPointer>
+#include <QTableWidget>
+#include <QUrl>
 
 #include "INotify.h"
 #include "IQuickLinkPlugin.h"
 #include "ISettingUIPlugin.h"
 #include "IUIPlugin.h"
 #include "Test.h"
+
+/** Stands in for the desktop: remembers every address that the host hands to it. */
+class RecordingBrowser : public QObject
+{
+    Q_OBJECT
+
+public:
+    RecordingBrowser() { QDesktopServices::setUrlHandler("http", this, "open"); }
+    ~RecordingBrowser() override { QDesktopServices::unsetUrlHandler("http"); }
+
+    QStringList opened;
+
+public Q_SLOTS:
+    void open(const QUrl& url) { opened.append(url.toString()); }
+};
 
 class PluginLoaderTest : public QObject
 {
@@ -23,18 +43,27 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void metadata();
     void objectHasEveryInterface_data();
     void objectHasEveryInterface();
     void objectAnswersWhoItIs();
     void sameObjectEveryTime();
     void verificationText();
-    void lifeWithLinks();
+    void wholeLife();
     void lifeWithoutFile();
     void unloadDeletesTheObject();
     void objectDeletedByHandIsMadeAnew();
+    void fileForAnotherQtIsRefused_data();
+    void fileForAnotherQtIsRefused();
 
 private:
+    template <class Interface>
+    Interface* plugin() const
+    {
+        return qobject_cast<Interface*>(m_loader->instance());
+    }
+    /** The shown table of links below a widget; null without one. */
+    static QTableWidget* table(const QWidget& parent);
+
     QTemporaryDir m_dataHome;
     QScopedPointer<QPluginLoader> m_loader;
 };
@@ -48,23 +77,21 @@ void PluginLoaderTest::initTestCase()
 
 void PluginLoaderTest::init()
 {
-    m_loader.reset(new QPluginLoader(QString::fromLocal8Bit(PLUGIN_FILE)));
+    m_loader.reset(new QPluginLoader(QString::fromLocal8Bit(INSTALLED_PLUGIN)));
     QVERIFY2(m_loader->load(), qPrintable(m_loader->errorString()));
 }
 
 void PluginLoaderTest::cleanup()
 {
     if (m_loader->isLoaded() && m_loader->instance())
-        qobject_cast<IBasePlugin*>(m_loader->instance())->OnDestroy();
+        plugin<IBasePlugin>()->OnDestroy();
     m_loader->unload();
 }
 
-void PluginLoaderTest::metadata()
+QTableWidget* PluginLoaderTest::table(const QWidget& parent)
 {
-    const QJsonObject data = m_loader->metaData();
-    QCOMPARE(data.value("IID").toString(),
-             "com.norvik.vellumconnect.plugin.IBasePlugin");
-    QCOMPARE(data.value("className").toString(), "QuickLinkSettingPluginDlg");
+    QTableWidget* const found = parent.findChild<QTableWidget*>("m_QLinkListTblView");
+    return found && found->isVisible() ? found : nullptr;
 }
 
 void PluginLoaderTest::objectHasEveryInterface_data()
@@ -87,12 +114,12 @@ void PluginLoaderTest::objectHasEveryInterface()
 
 void PluginLoaderTest::objectAnswersWhoItIs()
 {
-    IBasePlugin* const plugin = qobject_cast<IBasePlugin*>(m_loader->instance());
-    QVERIFY(plugin);
-    QCOMPARE(plugin->GetPluginName(), "QuickLinkUIPlugin");
-    QCOMPARE(plugin->GetCLSID(), "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6");
-    QCOMPARE(plugin->GetVersion(), 0x101);
-    QCOMPARE(plugin->GetPluginType(), 0);
+    IBasePlugin* const base = plugin<IBasePlugin>();
+    QVERIFY(base);
+    QCOMPARE(base->GetPluginName(), "QuickLinkUIPlugin");
+    QCOMPARE(base->GetCLSID(), "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6");
+    QCOMPARE(base->GetVersion(), 0x101);
+    QCOMPARE(base->GetPluginType(), 0);
 }
 
 void PluginLoaderTest::sameObjectEveryTime()
@@ -100,7 +127,7 @@ void PluginLoaderTest::sameObjectEveryTime()
     QObject* const object = m_loader->instance();
     QVERIFY(object);
     QCOMPARE(m_loader->instance(), object);
-    QPluginLoader second(QString::fromLocal8Bit(PLUGIN_FILE));
+    QPluginLoader second(QString::fromLocal8Bit(INSTALLED_PLUGIN));
     QCOMPARE(second.instance(), object);
     second.unload();
     QCOMPARE(m_loader->instance(), object);
@@ -108,48 +135,72 @@ void PluginLoaderTest::sameObjectEveryTime()
 
 void PluginLoaderTest::verificationText()
 {
-    QLibrary library(QString::fromLocal8Bit(PLUGIN_FILE));
+    QLibrary library(QString::fromLocal8Bit(INSTALLED_PLUGIN));
     typedef const char* (*Query)();
     const Query query = reinterpret_cast<Query>(library.resolve("qt_plugin_query_verification_data"));
     QVERIFY2(query, qPrintable(library.errorString()));
-    QCOMPARE(QByteArray(query()), QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
-                                             "buildkey=i386 linux g++-4 full-config"));
+    QCOMPARE(QByteArray(query()), "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
+                                  "buildkey=i386 linux g++-4 full-config");
     library.unload();
 }
 
-void PluginLoaderTest::lifeWithLinks()
+void PluginLoaderTest::wholeLife()
 {
     const QString folder = m_dataHome.path() + "/vellumconnect/plugins/QuickLinkUIPlugin";
     QVERIFY(QDir().mkpath(folder));
     QFile file(folder + "/config.xml");
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<tovadoc><menu><item name='a' visible='1'/><item name='b' visible='1'/></menu></tovadoc>");
+    file.write("<tovadoc><menu>"
+               "<item name='a' type='IDS_LINK_TYPE_INTERNET' url='http://a.example.org/' visible='1'/>"
+               "<item name='b' type='IDS_LINK_TYPE_INTERNET' url='http://b.example.org/' visible='1' startmobile='1'/>"
+               "</menu></tovadoc>");
     file.close();
-    QObject* const object = m_loader->instance();
-    IBasePlugin* const plugin = qobject_cast<IBasePlugin*>(object);
-    IQuickLinkPlugin* const links = qobject_cast<IQuickLinkPlugin*>(object);
-    QCOMPARE(plugin->Init(), 1);
+    RecordingBrowser browser;
+    QCOMPARE(plugin<IBasePlugin>()->Init(), 1);
+
+    IQuickLinkPlugin* const links = plugin<IQuickLinkPlugin>();
     QCOMPARE(links->GetQuickLinkRecordSize(), 2);
-    QVERIFY(links->GetActionFromQuickLink(1));
-    QVERIFY(!qobject_cast<ISettingUIPlugin*>(object)->GetModuleName().isEmpty());
-    plugin->OnDestroy();
+    QAction* const action = links->GetActionFromQuickLink(0);
+    QCOMPARE(action->text(), "a");
+    links->LaunchQuickLinkAction(action);
+    plugin<INotify>()->Notify(258, 0, 0);
+    QCOMPARE(browser.opened, QStringList() << "http://a.example.org/"
+                                           << "http://b.example.org/");
+
+    ISettingUIPlugin* const page = plugin<ISettingUIPlugin>();
+    QVERIFY(!page->GetModuleName().isEmpty());
+    QRect area(0, 0, 450, 400);
+    QScopedPointer<QWidget> parent(new QWidget);
+    parent->show();
+    QCOMPARE(page->ShowSettingDialog(parent.data(), area), 1);
+    QVERIFY(table(*parent));
+    QCOMPARE(table(*parent)->rowCount(), 2);
+    // The host's widget goes, and the page with it; in the next one it is there again.
+    parent.reset(new QWidget);
+    parent->show();
+    QCOMPARE(page->ShowSettingDialog(parent.data(), area), 1);
+    QVERIFY(table(*parent));
+    QCOMPARE(table(*parent)->item(1, 0)->text(), "b");
+
+    plugin<IBasePlugin>()->OnDestroy();
+    QVERIFY(!table(*parent));
     QCOMPARE(links->GetQuickLinkRecordSize(), -1);
+    QVERIFY2(m_loader->unload(), qPrintable(m_loader->errorString()));
     QVERIFY(file.remove());
 }
 
 void PluginLoaderTest::lifeWithoutFile()
 {
-    QObject* const object = m_loader->instance();
-    QCOMPARE(qobject_cast<IBasePlugin*>(object)->Init(), 1);
-    QCOMPARE(qobject_cast<IQuickLinkPlugin*>(object)->GetQuickLinkRecordSize(), 0);
+    QCOMPARE(plugin<IBasePlugin>()->Init(), 1);
+    QCOMPARE(plugin<IQuickLinkPlugin>()->GetQuickLinkRecordSize(), 0);
 }
 
 void PluginLoaderTest::unloadDeletesTheObject()
 {
-    QPointer<QObject> object(m_loader->instance());
+    const QPointer<QObject> object(m_loader->instance());
     QVERIFY(object);
-    qobject_cast<IBasePlugin*>(object.data())->Init();
-    qobject_cast<IBasePlugin*>(object.data())->OnDestroy();
+    plugin<IBasePlugin>()->Init();
+    plugin<IBasePlugin>()->OnDestroy();
     QVERIFY2(m_loader->unload(), qPrintable(m_loader->errorString()));
     QVERIFY(!object);
     QVERIFY(!m_loader->isLoaded());
@@ -157,12 +208,35 @@ void PluginLoaderTest::unloadDeletesTheObject()
 
 void PluginLoaderTest::objectDeletedByHandIsMadeAnew()
 {
-    QPointer<QObject> first(m_loader->instance());
+    const QPointer<QObject> first(m_loader->instance());
     delete first.data();
-    QPointer<QObject> second(m_loader->instance());
+    const QPointer<QObject> second(m_loader->instance());
     QVERIFY(!first);
     QVERIFY(second);
-    QVERIFY(qobject_cast<IBasePlugin*>(second.data()));
+    QVERIFY(plugin<IBasePlugin>());
+}
+
+void PluginLoaderTest::fileForAnotherQtIsRefused_data()
+{
+    // Whoever builds for several Qts names the other files, with ":" between them; scripts/test.sh does.
+    QTest::addColumn<QString>("file");
+    const QStringList files = QFile::decodeName(qgetenv("OTHER_QUICK_LINKS")).split(':');
+    for (const QString& file : files)
+        QTest::newRow(file.isEmpty() ? "none given" : qPrintable(file)) << file;
+}
+
+void PluginLoaderTest::fileForAnotherQtIsRefused()
+{
+    QFETCH(QString, file);
+    if (file.isEmpty())
+        QSKIP("OTHER_QUICK_LINKS names no file for another Qt");
+    QVERIFY(QFile::exists(file));
+    QPluginLoader loader(file);
+    QVERIFY(!loader.load());
+    QVERIFY(!loader.instance());
+    QVERIFY(!loader.isLoaded());
+    // In words, with the file's name, for whoever reads the trace.
+    QVERIFY2(loader.errorString().contains(QFileInfo(file).fileName()), qPrintable(loader.errorString()));
 }
 
 REGISTER_TEST(PluginLoaderTest)

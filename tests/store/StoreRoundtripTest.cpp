@@ -80,7 +80,7 @@ void StoreRoundtripTest::textInAllFields_data()
     QTest::newRow("one blank") << " ";
     QTest::newRow("blanks around") << "  a  b  ";
     QTest::newRow("format characters") << "%s%n%1";
-    QTest::newRow("backslash") << QStringLiteral("C:\\x\\n");
+    QTest::newRow("backslash") << QString("C:\\x\\n");
     QTest::newRow("next line and line separator") << QString::fromUtf8("a\xc2\x85\xe2\x80\xa8z");
     QTest::newRow("no-break blank") << QString::fromUtf8("a\xc2\xa0z");
     QTest::newRow("accents") << QString::fromUtf8("\xc3\xa9 and e\xcc\x81");

@@ -11,7 +11,7 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
+#include "QtVersions.h"
 #include <QUrl>
 
 #include "ExtendDialog.h"

@@ -13,6 +13,7 @@
 #include "RecordingTrace.h"
 
 Q_DECLARE_METATYPE(QuickLinkRecord)
+DECLARE_LIST_METATYPE(QuickLinkRecordList)
 
 /** The plug-in object of one test: make() in init(), unload() in cleanup(). Only for tests that see private members. */
 class LoadedPlugin

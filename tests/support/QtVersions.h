@@ -5,7 +5,8 @@
 
 #include <QtGlobal>
 
-// What tests use of QtTest and QtCore and Qt 4.8 lacks, in the words of Qt 5. The tests themselves know no versions.
+// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know no
+// versions. What is missing of QtTest is in QtTestVersions.h.
 
 #if QT_VERSION < 0x050000
 #include <cstdlib>
@@ -14,25 +15,53 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMetaMethod>
 #include <QString>
-#include <QTest>
-#include <QWidget>
+#include <QStyleOptionViewItemV4>
+#include <QtPlugin>
 
-#define QTRY_VERIFY(condition)                                                                                         \
-    do {                                                                                                               \
-        for (int waited = 0; waited < 5000 && !(condition); waited += 20)                                              \
-            QTest::qWait(20);                                                                                          \
-        QVERIFY(condition);                                                                                            \
-    } while (false)
+/** A plug-in's entry point, where the class cannot name it. */
+#define EXPORT_FAKE_PLUGIN(Class) Q_EXPORT_PLUGIN2(fake, Class)
+#define Q_PLUGIN_METADATA(metadata)
 
-#define QTRY_COMPARE(actual, expected)                                                                                 \
-    do {                                                                                                               \
-        for (int waited = 0; waited < 5000 && !((actual) == (expected)); waited += 20)                                 \
-            QTest::qWait(20);                                                                                          \
-        QCOMPARE(actual, expected);                                                                                    \
-    } while (false)
-
+/** Without its point: the text is copied, not data of the library. */
+#define QStringLiteral(text) QString::fromUtf8(text)
 #define qUtf8Printable(text) QString(text).toUtf8().constData()
+
+/** Lets a list of values stand in a test's table. */
+#define DECLARE_LIST_METATYPE(List) Q_DECLARE_METATYPE(List)
+DECLARE_LIST_METATYPE(QList<int>)
+
+typedef QStyleOptionViewItemV4 ViewItemOption;
+
+inline bool qunsetenv(const char* name)
+{
+    return unsetenv(name) == 0;
+}
+
+inline bool qEnvironmentVariableIsSet(const char* name)
+{
+    return getenv(name) != nullptr;
+}
+
+/** "name(types)" of a method. */
+inline QByteArray signatureOf(const QMetaMethod& method)
+{
+    return method.signature();
+}
+
+/** Removes a folder with all that is in it, links unfollowed; false when something stays. */
+inline bool removeFolder(const QString& path)
+{
+    bool isRemoved = true;
+    const QFileInfoList entries =
+        QDir(path).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QFileInfo& entry : entries) {
+        const bool isFolder = entry.isDir() && !entry.isSymLink();
+        isRemoved = (isFolder ? removeFolder(entry.filePath()) : QFile::remove(entry.filePath())) && isRemoved;
+    }
+    return QDir().rmdir(path) && isRemoved;
+}
 
 /** A folder of its own below the system's temporary one, which goes with the object. */
 class QTemporaryDir
@@ -47,7 +76,7 @@ public:
     ~QTemporaryDir()
     {
         if (isValid())
-            remove(m_path);
+            removeFolder(m_path);
     }
 
     bool isValid() const { return !m_path.isEmpty(); }
@@ -57,39 +86,26 @@ public:
 private:
     Q_DISABLE_COPY(QTemporaryDir)
 
-    static void remove(const QString& path)
-    {
-        const QDir folder(path);
-        const QFileInfoList entries =
-            folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-        for (const QFileInfo& entry : entries) {
-            if (entry.isDir() && !entry.isSymLink())
-                remove(entry.filePath());
-            else
-                QFile::remove(entry.filePath());
-        }
-        QDir().rmdir(path);
-    }
-
     QString m_path;
 };
-
-namespace QTest
-{
-/** Qt 4.8 waits only for the window to be shown; the rest is waited for here. */
-inline bool qWaitForWindowActive(QWidget* window)
-{
-    qWaitForWindowShown(window);
-    for (int waited = 0; waited < 5000 && !window->isActiveWindow(); waited += 20)
-        qWait(20);
-    return window->isActiveWindow();
-}
-
-inline bool qWaitForWindowExposed(QWidget* window)
-{
-    return qWaitForWindowShown(window);
-}
-} // namespace QTest
 #else
+#include <QDir>
+#include <QMetaMethod>
+#include <QStyleOptionViewItem>
 #include <QTemporaryDir>
+
+#define EXPORT_FAKE_PLUGIN(Class)
+#define DECLARE_LIST_METATYPE(List)
+
+typedef QStyleOptionViewItem ViewItemOption;
+
+inline QByteArray signatureOf(const QMetaMethod& method)
+{
+    return method.methodSignature();
+}
+
+inline bool removeFolder(const QString& path)
+{
+    return QDir(path).removeRecursively();
+}
 #endif

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
-#include <QTemporaryDir>
+#include "QtVersions.h"
 
 /** Makes the file with these bytes and permissions, or ends the test program. */
 inline void writeFile(const QString& path, const QByteArray& bytes, QFile::Permissions permissions)
@@ -30,7 +30,7 @@ public:
         : m_path(qgetenv("PATH"))
     {
         qputenv("OPENED", QFile::encodeName(m_folder.path()));
-        qputenv("PATH", QByteArrayLiteral(RECORDING_DESKTOP) + ':' + m_path);
+        qputenv("PATH", QByteArray(RECORDING_DESKTOP) + ':' + m_path);
     }
     ~RecordingDesktop()
     {

@@ -4,6 +4,7 @@
 #include "RecordingTrace.h"
 
 #if QT_VERSION >= 0x050000
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #else
 #include <QRegExp>
@@ -110,3 +111,43 @@ QString RecordingTrace::debugDifference(const QStringList& patterns) const
     return "lines:\n" + debugLines.join("\n") + "\npatterns:\n" +
            patterns.join("\n");
 }
+
+#if QT_VERSION >= 0x050000
+DebugChannelOff::DebugChannelOff()
+{
+    QLoggingCategory::setFilterRules("default.debug=false");
+}
+
+DebugChannelOff::~DebugChannelOff()
+{
+    QLoggingCategory::setFilterRules(QString());
+}
+
+bool DebugChannelOff::isPossible()
+{
+    return true;
+}
+
+QString withoutTimes(QString text)
+{
+    return text.remove(QRegularExpression(TracePattern::time));
+}
+#else
+DebugChannelOff::DebugChannelOff()
+{
+}
+
+DebugChannelOff::~DebugChannelOff()
+{
+}
+
+bool DebugChannelOff::isPossible()
+{
+    return false;
+}
+
+QString withoutTimes(QString text)
+{
+    return text.remove(QRegExp(TracePattern::time));
+}
+#endif

@@ -33,6 +33,20 @@ private:
     RecordingTrace& operator=(const RecordingTrace&);
 };
 
+/** The debug channel is off while this lives, where the toolkit lets it be. */
+class DebugChannelOff
+{
+public:
+    DebugChannelOff();
+    ~DebugChannelOff();
+
+    /** Whether the toolkit lets it be off. */
+    static bool isPossible();
+};
+
+/** The text without the times of day in it. */
+QString withoutTimes(QString text);
+
 /** Patterns for the pieces of a trace line: a time of day, a source file, a line number. */
 namespace TracePattern
 {

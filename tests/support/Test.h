@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QtTest>
 
+#include "QtTestVersions.h"
 #include "QtVersions.h"
 
 // What every test file begins with.

@@ -6,10 +6,13 @@
 #include <QObject>
 #include <QtPlugin>
 
+#include "QtVersions.h"
+
 class BarePlugin : public QObject
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.norvik.vellumconnect.plugin.IBasePlugin")
 };
 
+EXPORT_FAKE_PLUGIN(BarePlugin)
 #include "BarePlugin.moc"

@@ -4,6 +4,7 @@
 // The played plug-in as a library of its own, whose name comes from the build.
 
 #include "PlayedPlugin.h"
+#include "QtVersions.h"
 
 class LoadedPlayedPlugin : public PlayedPlugin
 {
@@ -17,4 +18,5 @@ public:
     }
 };
 
+EXPORT_FAKE_PLUGIN(LoadedPlayedPlugin)
 #include "PlayedPlugin.moc"

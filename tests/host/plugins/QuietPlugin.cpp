@@ -4,6 +4,7 @@
 // A plug-in that has no more than it must.
 
 #include "PlainAnswers.h"
+#include "QtVersions.h"
 
 class QuietPlugin : public QObject, public PlainAnswers<IBasePlugin>
 {
@@ -16,4 +17,5 @@ public:
     QString GetPluginName() override { return QStringLiteral(SAMPLE_NAME); }
 };
 
+EXPORT_FAKE_PLUGIN(QuietPlugin)
 #include "QuietPlugin.moc"

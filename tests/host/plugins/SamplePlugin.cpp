@@ -11,6 +11,7 @@
 #include "IPluginContainer.h"
 #include "PlainAnswers.h"
 #include "Startup.h"
+#include "QtVersions.h"
 
 static void record(const QString& event)
 {
@@ -58,4 +59,5 @@ public:
     }
 };
 
+EXPORT_FAKE_PLUGIN(SamplePlugin)
 #include "SamplePlugin.moc"

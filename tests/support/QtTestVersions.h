@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtTest>
+
+// What tests use of QtTest and Qt 4.8 lacks, in the words of Qt 5.
+
+#if QT_VERSION < 0x050000
+#include <QWidget>
+
+#undef QSKIP
+#define QSKIP(reason)                                                                                                  \
+    do {                                                                                                               \
+        QTest::qSkip(reason, QTest::SkipSingle, __FILE__, __LINE__);                                                   \
+        return;                                                                                                        \
+    } while (false)
+
+#define QTRY_VERIFY(condition)                                                                                         \
+    do {                                                                                                               \
+        for (int waited = 0; waited < 5000 && !(condition); waited += 20)                                              \
+            QTest::qWait(20);                                                                                          \
+        QVERIFY(condition);                                                                                            \
+    } while (false)
+
+#define QTRY_COMPARE(actual, expected)                                                                                 \
+    do {                                                                                                               \
+        for (int waited = 0; waited < 5000 && !((actual) == (expected)); waited += 20)                                 \
+            QTest::qWait(20);                                                                                          \
+        QCOMPARE(actual, expected);                                                                                    \
+    } while (false)
+
+namespace QTest
+{
+/** Qt 4.8 waits only for the window to be shown; the rest is waited for here. */
+inline bool qWaitForWindowActive(QWidget* window)
+{
+    qWaitForWindowShown(window);
+    for (int waited = 0; waited < 5000 && !window->isActiveWindow(); waited += 20)
+        qWait(20);
+    return window->isActiveWindow();
+}
+
+inline bool qWaitForWindowExposed(QWidget* window)
+{
+    return qWaitForWindowShown(window);
+}
+} // namespace QTest
+#endif
