@@ -1,24 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-#include "GivenHost.h"
+#include "FakeAnswers.h"
 
 #include "CommonUtils.h"
 
-static QString& givenFolder()
+static QString& userFolder()
 {
     static QString folder;
     return folder;
 }
 
-void GivenHost::setUserFolder(const QString& folder)
+void FakeAnswers::setUserFolder(const QString& folder)
 {
-    givenFolder() = folder;
+    userFolder() = folder;
 }
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return givenFolder();
+    return userFolder();
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon, QWidget*, QString, QString, QString, QString, QString, bool,

@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-#include "FirstPaint.h"
-#include "GivenHost.h"
+#include "FakeAnswers.h"
 #include "Measure.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
+#include "ShowAndPaint.h"
 
 namespace
 {
@@ -18,7 +18,7 @@ namespace
 struct Loaded {
     explicit Loaded(const QString& folder)
     {
-        GivenHost::setUserFolder(folder);
+        FakeAnswers::setUserFolder(folder);
         plugin.Init();
     }
 
@@ -46,14 +46,14 @@ struct Loaded {
 
 void load(const QString& folder)
 {
-    GivenHost::setUserFolder(folder);
+    FakeAnswers::setUserFolder(folder);
     QuickLinkXmlParse* const store = QuickLinkXmlParse::GetInstance();
     measure([store] { store->ReadXmlInformation(); });
 }
 
 void save(const QString& folder)
 {
-    GivenHost::setUserFolder(folder);
+    FakeAnswers::setUserFolder(folder);
     QuickLinkXmlParse* const store = QuickLinkXmlParse::GetInstance();
     store->ReadXmlInformation();
     measure([store] { store->SaveToConfigFile(store->m_recordList, 1); });
@@ -114,10 +114,10 @@ int main(int argc, char** argv)
     return runTask(argc, argv,
                    {{"load", load, false},
                     {"save", save, false},
-                    {"menu", menu, true},
-                    {"page", page, true},
-                    {"paint", paint, true},
-                    {"up", up, true},
-                    {"delete", deleteLink, true},
-                    {"new", newLink, true}});
+                    {"menu", menu},
+                    {"page", page},
+                    {"paint", paint},
+                    {"up", up},
+                    {"delete", deleteLink},
+                    {"new", newLink}});
 }

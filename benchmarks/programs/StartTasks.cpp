@@ -6,7 +6,7 @@
 #include <QPluginLoader>
 
 #include "BareLinks.h"
-#include "GivenHost.h"
+#include "FakeAnswers.h"
 #include "IBasePlugin.h"
 #include "Measure.h"
 
@@ -14,7 +14,7 @@ namespace
 {
 void plugin(const QString& folder)
 {
-    GivenHost::setUserFolder(folder);
+    FakeAnswers::setUserFolder(folder);
     measure([] {
         QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
         IBasePlugin* const object = qobject_cast<IBasePlugin*>(loader.instance());
@@ -37,5 +37,5 @@ void bare(const QString& folder)
 
 int main(int argc, char** argv)
 {
-    return runTask(argc, argv, {{"plugin", plugin, true}, {"bare", bare, true}});
+    return runTask(argc, argv, {{"plugin", plugin}, {"bare", bare}});
 }

@@ -100,11 +100,7 @@ void newLink(const QString& folder)
 
 int main(int argc, char** argv)
 {
-    return runTask(argc, argv,
-                   {{"load", load, true},
-                    {"save", save, true},
-                    {"menu", menu, true},
-                    {"up", up, true},
-                    {"delete", deleteLink, true},
-                    {"new", newLink, true}});
+    return runTask(
+        argc, argv,
+        {{"load", load}, {"save", save}, {"menu", menu}, {"up", up}, {"delete", deleteLink}, {"new", newLink}});
 }

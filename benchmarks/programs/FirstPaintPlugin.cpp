@@ -28,10 +28,10 @@ void tell()
     std::_Exit(0);
 }
 
-class PaintWatch : public QObject
+class WindowPaintWatch : public QObject
 {
 public:
-    PaintWatch() { QCoreApplication::instance()->installEventFilter(this); }
+    WindowPaintWatch() { QCoreApplication::instance()->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -53,5 +53,5 @@ QObject* FirstPaintPlugin::create(const QString& name, const QString& arguments)
 {
     Q_UNUSED(name);
     Q_UNUSED(arguments);
-    return new PaintWatch;
+    return new WindowPaintWatch;
 }

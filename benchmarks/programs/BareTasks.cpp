@@ -9,8 +9,8 @@
 
 #include "BareLinks.h"
 #include "BarePage.h"
-#include "FirstPaint.h"
 #include "Measure.h"
+#include "ShowAndPaint.h"
 
 namespace
 {
@@ -92,10 +92,10 @@ int main(int argc, char** argv)
     return runTask(argc, argv,
                    {{"load", load, false},
                     {"save", save, false},
-                    {"menu", menu, true},
-                    {"page", page, true},
-                    {"paint", paint, true},
-                    {"up", up, true},
-                    {"delete", deleteLink, true},
-                    {"new", newLink, true}});
+                    {"menu", menu},
+                    {"page", page},
+                    {"paint", paint},
+                    {"up", up},
+                    {"delete", deleteLink},
+                    {"new", newLink}});
 }

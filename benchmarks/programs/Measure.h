@@ -12,7 +12,7 @@
 struct NamedTask {
     const char* name;
     void (*run)(const QString& folder); ///< folder: that of the links, which the task may change
-    bool needsScreen;                   ///< works with widgets or actions
+    bool needsScreen = true;            ///< works with widgets or actions
 };
 
 /**

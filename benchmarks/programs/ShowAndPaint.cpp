@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-#include "FirstPaint.h"
+#include "ShowAndPaint.h"
 
 #include <QCoreApplication>
 #include <QEvent>
