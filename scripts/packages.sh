@@ -14,10 +14,10 @@ source "$(dirname "$0")/common.sh"
 
 run=(cmake ninja-build g++ pkgconf qtbase5-dev qttools5-dev qttranslations5-l10n libkf5networkmanagerqt-dev xdg-utils fonts-dejavu-core
     xterm x11-apps)
-demo=(xvfb openbox xdotool imagemagick)
+demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
-    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer procps x11-utils
+    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer procps
     clang-format-14 clang-tidy-14 clazy reuse shellcheck)
 
 case "${1-}" in

@@ -3,7 +3,7 @@
 
 """The settings and the New/Edit dialog, as a user works with them."""
 
-from screen import press
+from display import press
 from waiting import wait_for
 
 TYPES = ("Application", "E-mail", "Internet")

@@ -3,9 +3,9 @@
 
 """Ways out of the settings and the New dialog, and in again."""
 
+from display import press
 from links import EMAIL, INTERNET, link
 from scenario import TITLE, main
-from screen import press
 from settings_dialog import TYPES, SettingsDialog
 from settings_scenario import SettingsScenario
 

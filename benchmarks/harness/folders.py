@@ -6,30 +6,15 @@
 import os
 import shutil
 import threading
-from xml.sax.saxutils import quoteattr
+from xml.sax.saxutils import escape
 
-HEAD = """<?xml version="1.0" encoding="UTF-8"?>
-<tovadoc type="config">
-    <function>
-        <Visible>1</Visible>
-        <CurrentID>{count}</CurrentID>
-    </function>
-    <type>
-        <item id=" 0" name="IDS_LINK_TYPE_APPLICATION"/>
-        <item id=" 1" name="IDS_LINK_TYPE_E_MAIL"/>
-        <item id=" 2" name="IDS_LINK_TYPE_INTERNET"/>
-    </type>
-    <menu parent="quicklink">
-"""
-ITEM = ('        <item id="{id}" name={name} type="{type}" url={url} para="" startconnect="{connect}" startmobile="0"'
-        ' delete="1" edit="1" visible="1"/>\n')
-TAIL = "    </menu>\n</tovadoc>\n"
+from links import APPLICATION, EMAIL, INTERNET, config_path, link, save
 
 XBEL_HEAD = """<?xml version="1.0" encoding="UTF-8"?>
 <!DOCTYPE xbel>
 <xbel xmlns:bookmark="http://www.freedesktop.org/standards/desktop-bookmarks">
 """
-XBEL_ITEM = """ <bookmark href={url}>
+XBEL_ITEM = """ <bookmark href="{url}">
   <title>{name}</title>
   <info>
    <metadata owner="http://freedesktop.org">
@@ -40,35 +25,24 @@ XBEL_ITEM = """ <bookmark href={url}>
 """
 
 
-def link(number):
+def sample(number):
     """Name, type and address of a link: of ten, seven are Internet addresses, two applications, one mail."""
     kind = number % 10
     if kind < 7:
-        return f"Portal {number} & more", "IDS_LINK_TYPE_INTERNET", f"http://www.example.org/portal/{number}/"
+        return f"Portal {number} & more", INTERNET, f"http://www.example.org/portal/{number}/"
     if kind < 9:
-        return f"Program {number}", "IDS_LINK_TYPE_APPLICATION", f"/usr/lib/programs/program{number}"
-    return f"Mail {number}", "IDS_LINK_TYPE_E-MAIL", "mailto:"
-
-
-def config_path(folder):
-    return os.path.join(folder, "plugins", "QuickLinkUIPlugin", "config.xml")
+        return f"Program {number}", APPLICATION, f"/usr/lib/programs/program{number}"
+    return f"Mail {number}", EMAIL, "mailto:"
 
 
 def write_links(folder, count):
     """Writes both files into the folder, config.xml byte by byte as the plug-in saves it."""
-    os.makedirs(os.path.dirname(config_path(folder)))
-    with open(config_path(folder), "w", encoding="utf-8") as config:
-        config.write(HEAD.format(count=count))
-        for number in range(count):
-            name, kind, url = link(number)
-            config.write(ITEM.format(id=number, name=quoteattr(name), type=kind, url=quoteattr(url),
-                                     connect=int(number % 50 == 0)))
-        config.write(TAIL)
+    save(folder, *(link(number, *sample(number), startconnect=int(number % 50 == 0)) for number in range(count)))
     with open(os.path.join(folder, "bookmarks.xbel"), "w", encoding="utf-8") as bookmarks:
         bookmarks.write(XBEL_HEAD)
         for number in range(count):
-            name, _, url = link(number)
-            bookmarks.write(XBEL_ITEM.format(url=quoteattr(url), name=name.replace("&", "&amp;")))
+            name, _, url = sample(number)
+            bookmarks.write(XBEL_ITEM.format(url=url, name=escape(name)))
         bookmarks.write("</xbel>\n")
 
 
