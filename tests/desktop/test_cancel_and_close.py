@@ -23,7 +23,7 @@ class CancelAndClose(SettingsScenario):
         dialog = settings.new()
         dialog.choose_type(TYPES[1])
         dialog.field("Name:").type("Mail")
-        dialog.ok()
+        dialog.close()
         settings.wait_for_links("Portal", "Mail")
 
     def test_cancel_keeps_changes(self):
