@@ -10,9 +10,47 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "Members.h"
 #include "Pointers.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Trace.h"
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitContents(Page& page, Visitor&& visit)
+{
+    visit(page.m_launchOrderLbl, "m_launchOrderLbl");
+    visit(page.m_QLinkListTblView, "m_QLinkListTblView");
+    visit(page.m_upBtn, "m_upBtn");
+    visit(page.m_downBtn, "m_downBtn");
+    visit(page.m_newBtn, "m_newBtn");
+    visit(page.m_editBtn, "m_editBtn");
+    visit(page.m_deleteBtn, "m_deleteBtn");
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitNamedWidgets(Page& page, Visitor&& visit)
+{
+    visit(page.m_QLinkTabWidget, "m_QLinkTabWidget");
+    visit(page.m_QLinkTab, "m_QLinkTab");
+    visitContents(page, visit);
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitLayouts(Page& page, Visitor&& visit)
+{
+    visit(page.m_pageLayout, nullptr);
+    visit(page.m_tabLayout, nullptr);
+    visit(page.m_buttonColumnLayout, nullptr);
+    visit(page.m_orderButtonsLayout, nullptr);
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitAll(Page& page, Visitor&& visit)
+{
+    visit(page.m_pageWidget, nullptr);
+    visitNamedWidgets(page, visit);
+    visitLayouts(page, visit);
+}
 
 void QuickLinkSettingPluginDlg::createWidgetMemory(QWidget* parent)
 {
@@ -33,7 +71,7 @@ void QuickLinkSettingPluginDlg::createWidgetMemory(QWidget* parent)
     m_tabLayout = new QVBoxLayout;
     m_buttonColumnLayout = new QVBoxLayout;
     m_orderButtonsLayout = new QHBoxLayout;
-    m_watch.watch(m_pageWidget);
+    visitAll(*this, Members::Watch(m_watch));
     TRACE_END();
 }
 
@@ -139,48 +177,25 @@ void QuickLinkSettingPluginDlg::setDisplayString()
 void QuickLinkSettingPluginDlg::onWatchedObjectGone(void* page, QObject* object)
 {
     QuickLinkSettingPluginDlg* const self = static_cast<QuickLinkSettingPluginDlg*>(page);
-    if (object == self->m_pageWidget)
-        self->forgetPage();
-    if (object == self->m_parentWidget)
-        self->m_parentWidget = nullptr;
-}
-
-void QuickLinkSettingPluginDlg::clearPageMembers()
-{
-    m_pageWidget = nullptr;
-    m_QLinkTabWidget = nullptr;
-    m_QLinkTab = nullptr;
-    m_QLinkListTblView = nullptr;
-    m_launchOrderLbl = nullptr;
-    m_upBtn = nullptr;
-    m_downBtn = nullptr;
-    m_newBtn = nullptr;
-    m_editBtn = nullptr;
-    m_deleteBtn = nullptr;
-    m_pageLayout = nullptr;
-    m_tabLayout = nullptr;
-    m_buttonColumnLayout = nullptr;
-    m_orderButtonsLayout = nullptr;
-}
-
-void QuickLinkSettingPluginDlg::forgetPage()
-{
-    // The page is going, but its children are still there: the table must not take the header items with it unseen.
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
-    clearPageMembers();
+    const Members::Forget forget(object);
+    visitAll(*self, forget);
+    forget(self->m_parentWidget, nullptr);
+    if (object == self->m_headerOwner) {
+        self->m_nameHeaderItem = nullptr;
+        self->m_typeHeaderItem = nullptr;
+        self->m_headerOwner = nullptr;
+    }
 }
 
 void QuickLinkSettingPluginDlg::deletePage()
 {
     releaseRows();
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
+    releaseHeaderItems();
     release(m_gridDelegate);
     release(m_QLinkListTblView);
-    QWidget* page = m_pageWidget;
-    clearPageMembers();
-    release(page);
+    release(m_pageWidget);
+    // Those that were never installed did not go with the page.
+    visitLayouts(*this, Members::Release());
 }
 
 void QuickLinkSettingPluginDlg::releaseRows()
@@ -193,24 +208,9 @@ void QuickLinkSettingPluginDlg::releaseRows()
 
 void QuickLinkSettingPluginDlg::releasePageContents()
 {
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
-    release(m_QLinkListTblView);
-    release(m_launchOrderLbl);
-    release(m_upBtn);
-    release(m_downBtn);
-    release(m_newBtn);
-    release(m_editBtn);
-    release(m_deleteBtn);
-    // The layouts of Qt 4 do not notice that an inner one is deleted.
-    if (m_tabLayout && m_orderButtonsLayout)
-        m_tabLayout->removeItem(m_orderButtonsLayout);
-    release(m_orderButtonsLayout);
-    if (m_pageLayout && m_buttonColumnLayout)
-        m_pageLayout->removeItem(m_buttonColumnLayout);
-    release(m_buttonColumnLayout);
-    release(m_tabLayout);
-    release(m_pageLayout);
+    releaseHeaderItems();
+    visitContents(*this, Members::Release());
+    visitLayouts(*this, Members::Release());
 }
 
 void QuickLinkSettingPluginDlg::releasePageFrame()

@@ -17,8 +17,6 @@ int QuickLinkSettingPluginDlg::ShowSettingDialog(QWidget* parent, QRect& area)
 int QuickLinkSettingPluginDlg::ShowWindow(QWidget* parent, QRect& area)
 {
     TRACE_START();
-    if (m_parentWidget != parent)
-        m_watch.unwatch(m_parentWidget);
     m_parentWidget = parent;
     m_watch.watch(m_parentWidget);
     createWidgetMemory(parent);

@@ -30,8 +30,7 @@ QVariant recordToData(QuickLinkRecord* record)
 void QuickLinkSettingPluginDlg::fillTable()
 {
     TRACE_START();
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
+    releaseHeaderItems();
     m_nameHeaderItem = new (std::nothrow) QTableWidgetItem;
     m_typeHeaderItem = new (std::nothrow) QTableWidgetItem;
     release(m_gridDelegate);
@@ -70,6 +69,16 @@ void QuickLinkSettingPluginDlg::configureTable()
     table->setHorizontalHeaderItem(typeColumn, m_typeHeaderItem);
     m_typeHeaderItem->setText(tr(QLatin1String("IDS_LINK_SETTING_TYPE")));
     m_typeHeaderItem->setTextAlignment(Qt::AlignLeft);
+    m_headerOwner = table->model();
+    m_watch.watch(m_headerOwner);
+}
+
+void QuickLinkSettingPluginDlg::releaseHeaderItems()
+{
+    // An item takes itself out of its table.
+    release(m_nameHeaderItem);
+    release(m_typeHeaderItem);
+    m_headerOwner = nullptr;
 }
 
 bool QuickLinkSettingPluginDlg::fillRows()

@@ -13,18 +13,8 @@ QuickLinkSettingPluginDlg* QuickLinkSettingPluginDlg::m_pInstance = nullptr;
 
 QuickLinkSettingPluginDlg::QuickLinkSettingPluginDlg()
     : QObject(nullptr)
-    , m_parentWidget(nullptr)
-    , m_nameHeaderItem(nullptr)
-    , m_typeHeaderItem(nullptr)
-    , m_gridDelegate(nullptr)
-    , m_newDlg(nullptr)
-    , m_editDlg(nullptr)
-    , m_isEditing(false)
-    , m_store(nullptr)
-    , m_recordList(nullptr)
     , m_watch(this, &QuickLinkSettingPluginDlg::onWatchedObjectGone)
 {
-    clearPageMembers();
 }
 
 QuickLinkSettingPluginDlg::~QuickLinkSettingPluginDlg()
