@@ -120,8 +120,10 @@ void QuickLinkSettingNewEditDlg::onClickBrowseButton()
     const QPointer<QObject> self(this);
     const QString path = chooseFile(m_mainWidget);
     // While the chooser was open the page may have disposed of this dialog, or the host of the frame.
-    if (!self)
+    if (!self) {
+        TRACE_END();
         return;
+    }
     if (!m_appPathEdit) {
         TRACE_NULL();
         return;

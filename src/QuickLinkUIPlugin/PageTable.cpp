@@ -196,11 +196,10 @@ void QuickLinkSettingPluginDlg::enableDeleteEditButton()
         TRACE_NULL();
         return;
     }
-    const QuickLinkRecord* const record = recordOf(item);
-    if (!record)
-        return;
-    m_deleteBtn->setEnabled(record->delete_ == QLatin1String("1"));
-    m_editBtn->setEnabled(record->edit == QLatin1String("1"));
+    if (const QuickLinkRecord* const record = recordOf(item)) {
+        m_deleteBtn->setEnabled(record->delete_ == QLatin1String("1"));
+        m_editBtn->setEnabled(record->edit == QLatin1String("1"));
+    }
     TRACE_END();
 }
 
@@ -213,19 +212,19 @@ void QuickLinkSettingPluginDlg::onClickQuickLinkRow(int row)
         TRACE_NULL();
         return;
     }
-    if (m_QLinkListTblView->selectedItems().size() / columnCount == 0)
-        return;
     const int currentRow = m_QLinkListTblView->currentRow();
     const int rowCount = m_QLinkListTblView->rowCount();
-    if (rowCount == 1) {
+    if (m_QLinkListTblView->selectedItems().size() / columnCount == 0) {
+        // Nothing selected: the buttons keep their states.
+    } else if (rowCount == 1) {
         m_upBtn->setEnabled(false);
         m_downBtn->setEnabled(false);
         enableDeleteEditButton();
-        return;
+    } else {
+        enableDeleteEditButton();
+        m_upBtn->setEnabled(currentRow != 0);
+        m_downBtn->setEnabled(currentRow == 0 || currentRow != rowCount - 1);
     }
-    enableDeleteEditButton();
-    m_upBtn->setEnabled(currentRow != 0);
-    m_downBtn->setEnabled(currentRow == 0 || currentRow != rowCount - 1);
     TRACE_END();
 }
 
