@@ -45,7 +45,8 @@ int QuickLinkSettingPluginDlg::Init()
         m_recordList = m_store->m_recordList;
     }
     // The single object is a second one beside the one that the loader made; OnDestroy() deletes it.
-    GetInstance();
+    if (!m_pInstance)
+        m_pInstance = new QuickLinkSettingPluginDlg;
     return 1;
 }
 

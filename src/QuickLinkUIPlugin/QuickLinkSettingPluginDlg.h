@@ -54,8 +54,8 @@ public:
     /** Frees the action map and, as their parent, the actions. All else is OnDestroy()'s. */
     ~QuickLinkSettingPluginDlg() override;
 
-    /** The separate single object that Init() makes; made here if it is missing. It lives until Destroy() or
-     * OnDestroy(). */
+    /** The separate single object that Init() makes; made here if it is missing. For hosts; nothing in here calls it. It
+     * lives until Destroy() or OnDestroy(). */
     static QuickLinkSettingPluginDlg* GetInstance();
 
     /** Deletes the single object if there is one. */
