@@ -17,9 +17,9 @@
 
 namespace
 {
-QString flag(bool isSet)
+QString flag(bool isOn)
 {
-    return isSet ? QLatin1String("1") : QLatin1String("0");
+    return isOn ? QLatin1String("1") : QLatin1String("0");
 }
 
 /**

@@ -17,16 +17,12 @@ namespace Members
 {
 /** Notes whether any is null. */
 struct FindNull {
-    FindNull()
-        : isFound(false)
-    {
-    }
     template <class T>
     void operator()(T* member, const char*)
     {
         isFound = isFound || !member;
     }
-    bool isFound;
+    bool isFound = false;
 };
 
 /** Gives every object its name. None of those that have one may be null. */

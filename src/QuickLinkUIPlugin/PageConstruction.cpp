@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The settings page: its widgets, names, layouts, texts and connections, and how it goes again.
+// The settings page: its widgets, names, layouts and connections, and how it goes again.
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -78,9 +78,7 @@ void QuickLinkSettingPluginDlg::createWidgetMemory(QWidget* parent)
 void QuickLinkSettingPluginDlg::initializeUI()
 {
     TRACE_START();
-    if (anyNull({m_pageWidget, m_QLinkTabWidget, m_QLinkTab, m_QLinkListTblView, m_launchOrderLbl, m_upBtn, m_downBtn,
-                 m_newBtn, m_editBtn, m_deleteBtn, m_pageLayout, m_tabLayout, m_buttonColumnLayout,
-                 m_orderButtonsLayout})) {
+    if (!isComplete()) {
         TRACE("%s: %s: Cell-Log UI Intialization Failed: ", __FILE__, __func__);
         return;
     }
@@ -106,29 +104,18 @@ void QuickLinkSettingPluginDlg::initializeUI()
 void QuickLinkSettingPluginDlg::setObjectNameDlg()
 {
     TRACE_START();
-    if (anyNull({m_QLinkTabWidget, m_QLinkTab, m_launchOrderLbl, m_QLinkListTblView, m_upBtn, m_downBtn, m_newBtn,
-                 m_editBtn, m_deleteBtn})) {
+    if (!hasNamedWidgets()) {
         TRACE_NULL();
         return;
     }
-    m_QLinkTabWidget->setObjectName(QLatin1String("m_QLinkTabWidget"));
-    m_QLinkTab->setObjectName(QLatin1String("m_QLinkTab"));
-    m_launchOrderLbl->setObjectName(QLatin1String("m_launchOrderLbl"));
-    m_QLinkListTblView->setObjectName(QLatin1String("m_QLinkListTblView"));
-    m_upBtn->setObjectName(QLatin1String("m_upBtn"));
-    m_downBtn->setObjectName(QLatin1String("m_downBtn"));
-    m_newBtn->setObjectName(QLatin1String("m_newBtn"));
-    m_editBtn->setObjectName(QLatin1String("m_editBtn"));
-    m_deleteBtn->setObjectName(QLatin1String("m_deleteBtn"));
+    visitNamedWidgets(*this, Members::SetName());
     TRACE_END();
 }
 
 void QuickLinkSettingPluginDlg::setDisplayLayout()
 {
     TRACE_START();
-    if (anyNull({m_pageLayout, m_tabLayout, m_orderButtonsLayout, m_buttonColumnLayout, m_QLinkTabWidget,
-                 m_launchOrderLbl, m_QLinkListTblView, m_upBtn, m_downBtn, m_QLinkTab, m_newBtn, m_editBtn, m_deleteBtn,
-                 m_pageWidget})) {
+    if (!isComplete()) {
         TRACE_NULL();
         return;
     }
@@ -154,24 +141,18 @@ void QuickLinkSettingPluginDlg::setDisplayLayout()
     TRACE_END();
 }
 
-void QuickLinkSettingPluginDlg::setDisplayString()
+bool QuickLinkSettingPluginDlg::isComplete() const
 {
-    TRACE_START();
-    if (anyNull({m_launchOrderLbl, m_upBtn, m_downBtn, m_QLinkTabWidget, m_newBtn, m_editBtn, m_deleteBtn})) {
-        TRACE_NULL();
-        return;
-    }
-    m_launchOrderLbl->setText(tr(QLatin1String("IDS_LINK_SETTING_ORDER")));
-    // What a screen reader calls the table; a buddy would not do, tables do not ask for it.
-    if (m_QLinkListTblView)
-        m_QLinkListTblView->setAccessibleName(m_launchOrderLbl->text());
-    m_upBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_UP")));
-    m_downBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_DOWN")));
-    m_QLinkTabWidget->setTabText(m_QLinkTabWidget->indexOf(m_QLinkTab), tr(QLatin1String("IDS_LINK_SETTING_TAB")));
-    m_newBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_NEW")));
-    m_editBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_EDIT")));
-    m_deleteBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_DEL")));
-    TRACE_END();
+    Members::FindNull null;
+    visitAll(*this, null);
+    return !null.isFound;
+}
+
+bool QuickLinkSettingPluginDlg::hasNamedWidgets() const
+{
+    Members::FindNull null;
+    visitNamedWidgets(*this, null);
+    return !null.isFound;
 }
 
 void QuickLinkSettingPluginDlg::onWatchedObjectGone(void* page, QObject* object)

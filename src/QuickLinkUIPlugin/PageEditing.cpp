@@ -78,8 +78,8 @@ void QuickLinkSettingPluginDlg::onEditBtnClick()
 void QuickLinkSettingPluginDlg::fillEditDialog(const QuickLinkRecord& record)
 {
     // The order matters: choosing the type clears what the fields of that type held.
-    const bool onConnect = record.startconnect == QLatin1String("1");
-    const bool onStart = record.startmobile == QLatin1String("1");
+    const bool onConnect = isSet(record.startconnect);
+    const bool onStart = isSet(record.startmobile);
     QuickLinkSettingNewEditDlg* const dialog = m_editDlg;
     dialog->m_appNameEdit->setText(record.name);
     if (record.type == LinkType::application()) {

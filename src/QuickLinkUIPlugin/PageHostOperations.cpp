@@ -69,11 +69,3 @@ void QuickLinkSettingPluginDlg::FitSize(QRect& area)
     Q_UNUSED(area);
     TRACE_END();
 }
-
-int QuickLinkSettingPluginDlg::ChangeLang(const QString& language)
-{
-    TRACE_START();
-    // The texts follow the notification that the host sends afterwards.
-    TRACE_END();
-    return language.isEmpty() ? 0 : 1;
-}

@@ -197,8 +197,8 @@ void QuickLinkSettingPluginDlg::enableDeleteEditButton()
         return;
     }
     if (const QuickLinkRecord* const record = recordOf(item)) {
-        m_deleteBtn->setEnabled(record->delete_ == QLatin1String("1"));
-        m_editBtn->setEnabled(record->edit == QLatin1String("1"));
+        m_deleteBtn->setEnabled(isSet(record->delete_));
+        m_editBtn->setEnabled(isSet(record->edit));
     }
     TRACE_END();
 }

@@ -3,7 +3,6 @@
 
 // The plug-in's life: made, Init(), in use, OnDestroy(), deleted.
 
-#include "PluginTexts.h"
 #include "Pointers.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
@@ -48,20 +47,6 @@ int QuickLinkSettingPluginDlg::Init()
     if (!m_pInstance)
         m_pInstance = new QuickLinkSettingPluginDlg;
     return 1;
-}
-
-QString QuickLinkSettingPluginDlg::GetModuleName()
-{
-    TRACE("Returning Module Name %s: %s: %d: ", __FILE__, __func__, __LINE__);
-    // A page without a caption is one that the host does not offer.
-    if (m_store && m_store->m_visible == QLatin1String("0"))
-        return QString();
-    return tr(QLatin1String("IDS_SETTING_NAME"));
-}
-
-QString QuickLinkSettingPluginDlg::tr(QString key)
-{
-    return PluginTexts::translated(key);
 }
 
 /*

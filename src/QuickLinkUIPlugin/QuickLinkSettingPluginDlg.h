@@ -54,8 +54,8 @@ public:
     /** Frees the action map and, as their parent, the actions. All else is OnDestroy()'s. */
     ~QuickLinkSettingPluginDlg() override;
 
-    /** The separate single object that Init() makes; made here if it is missing. For hosts; nothing in here calls it. It
-     * lives until Destroy() or OnDestroy(). */
+    /** The separate single object that Init() makes; made here if it is missing. For hosts; nothing in here calls it.
+     * It lives until Destroy() or OnDestroy(). */
     static QuickLinkSettingPluginDlg* GetInstance();
 
     /** Deletes the single object if there is one. */
@@ -165,6 +165,8 @@ private:
     template <class Page, class Visitor>
     static void visitAll(Page& page, Visitor&& visit);
 
+    bool isComplete() const;      ///< every widget and layout is there
+    bool hasNamedWidgets() const; ///< every widget but the page's own is there
     static void onWatchedObjectGone(void* page, QObject* object);
     void deletePage();
     void releaseRows();
