@@ -10,6 +10,7 @@
 #include "CommonUtils.h"
 #include "ConnectionPanel.h"
 #include "FirstStart.h"
+#include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "Places.h"
@@ -61,9 +62,9 @@ void Host::loadPlugins(const QString& folder)
     m_container.loadFolder(pluginFolder);
 }
 
-QList<QObject*> Host::plugins() const
+const PluginContainer& Host::container() const
 {
-    return m_container.plugins();
+    return m_container;
 }
 
 void Host::showWindow(ConnectionKind kind)
@@ -137,7 +138,7 @@ void Host::quit()
 
 void Host::showSettings()
 {
-    SettingsDialog dialog(m_container.plugins(), m_window.get());
+    SettingsDialog dialog(m_container.all<ISettingUIPlugin>(), m_window.get());
     dialog.exec();
 }
 

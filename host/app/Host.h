@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QList>
 #include <QString>
 
 #include <memory>
@@ -41,8 +40,8 @@ public:
     /** Prepares the user's folder and loads every plug-in of folder; empty stands for the installed ones. */
     void loadPlugins(const QString& folder);
 
-    /** The loaded plug-ins in load order, which stay the host's. */
-    QList<QObject*> plugins() const;
+    /** The container with the loaded plug-ins. */
+    const PluginContainer& container() const;
 
     /**
      * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include "INotify.h"
+#include "PluginWith.h"
 
 class IQuickLinkPlugin;
 class PluginContainer;
@@ -45,9 +46,9 @@ Q_SIGNALS:
     void rebuilt(const QList<QAction*>& actions);
 
 private:
-    void addLinks(QObject* plugin);
+    void addLinks(const PluginWith<IQuickLinkPlugin>& plugin);
     static void setTexts(QAction* action);
-    QAction* newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs);
+    QAction* newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs);
 
     const PluginContainer& m_container;
     QList<QAction*> m_actions;

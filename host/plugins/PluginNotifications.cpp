@@ -4,7 +4,6 @@
 #include "PluginNotifications.h"
 
 #include "ConnectionMonitor.h"
-#include "IBasePlugin.h"
 #include "INotify.h"
 #include "IUIPlugin.h"
 #include "PluginContainer.h"
@@ -15,20 +14,12 @@ const unsigned int started = 258;
 const unsigned int languageChanged = 1024;
 const unsigned int connectionChanged = 1536;
 
-QString nameOf(QObject* plugin)
-{
-    IBasePlugin* const base = qobject_cast<IBasePlugin*>(plugin);
-    return base ? base->GetPluginName() : QString();
-}
-
 void tell(const PluginContainer& container, unsigned int code, const QString& reason)
 {
     QStringList answers;
-    const QList<QObject*> plugins = container.plugins();
-    for (QObject* plugin : plugins) {
-        if (INotify* const listener = qobject_cast<INotify*>(plugin))
-            answers.append(QStringLiteral("%1 %2").arg(nameOf(plugin)).arg(listener->Notify(code, 0, 0)));
-    }
+    const QList<PluginWith<INotify>> listeners = container.all<INotify>();
+    for (const PluginWith<INotify>& listener : listeners)
+        answers.append(QStringLiteral("%1 %2").arg(listener.name).arg(listener.interface->Notify(code, 0, 0)));
     qCInfo(connectionLog, "notification %u sent (%s); answers: %s", code, qUtf8Printable(reason),
            answers.isEmpty() ? "none" : qUtf8Printable(answers.join(QStringLiteral(", "))));
 }
@@ -47,10 +38,8 @@ void PluginNotifications::tellConnectionChanged(const PluginContainer& container
 
 void PluginNotifications::tellLanguageChanged(const PluginContainer& container, const QString& language)
 {
-    const QList<QObject*> plugins = container.plugins();
-    for (QObject* plugin : plugins) {
-        if (IUIPlugin* const texts = qobject_cast<IUIPlugin*>(plugin))
-            texts->ChangeLang(language);
-    }
+    const QList<PluginWith<IUIPlugin>> plugins = container.all<IUIPlugin>();
+    for (const PluginWith<IUIPlugin>& plugin : plugins)
+        plugin.interface->ChangeLang(language);
     tell(container, languageChanged, QStringLiteral("language ") + language);
 }

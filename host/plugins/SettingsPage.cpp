@@ -8,32 +8,30 @@
 
 #include "ISettingUIPlugin.h"
 
-SettingsPage::SettingsPage(QObject* plugin, ISettingUIPlugin* settings)
+SettingsPage::SettingsPage(const PluginWith<ISettingUIPlugin>& plugin)
     : m_plugin(plugin)
-    , m_settings(settings)
 {
 }
 
-QList<SettingsPage> SettingsPage::of(const QList<QObject*>& plugins)
+QList<SettingsPage> SettingsPage::of(const QList<PluginWith<ISettingUIPlugin>>& plugins)
 {
     QList<SettingsPage> pages;
-    for (QObject* plugin : plugins) {
-        ISettingUIPlugin* const settings = qobject_cast<ISettingUIPlugin*>(plugin);
-        if (settings && !settings->GetModuleName().isEmpty())
-            pages.append(SettingsPage(plugin, settings));
+    for (const PluginWith<ISettingUIPlugin>& plugin : plugins) {
+        if (!plugin.interface->GetModuleName().isEmpty())
+            pages.append(SettingsPage(plugin));
     }
     return pages;
 }
 
 QString SettingsPage::caption() const
 {
-    return m_plugin ? m_settings->GetModuleName() : QString();
+    return m_plugin.object ? m_plugin.interface->GetModuleName() : QString();
 }
 
 QPointer<QWidget> SettingsPage::show(QWidget* parent, const QRect& area) const
 {
     QRect place = area;
-    if (!m_plugin || !m_settings->ShowSettingDialog(parent, place))
+    if (!m_plugin.object || !m_plugin.interface->ShowSettingDialog(parent, place))
         return nullptr;
     const QList<QWidget*> children = parent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
@@ -45,17 +43,17 @@ QPointer<QWidget> SettingsPage::show(QWidget* parent, const QRect& area) const
 
 void SettingsPage::hide() const
 {
-    if (m_plugin)
-        m_settings->HideSetting();
+    if (m_plugin.object)
+        m_plugin.interface->HideSetting();
 }
 
 bool SettingsPage::accept() const
 {
-    return !m_plugin || m_settings->OnClickSettingOkButton();
+    return !m_plugin.object || m_plugin.interface->OnClickSettingOkButton();
 }
 
 void SettingsPage::reject() const
 {
-    if (m_plugin)
-        m_settings->OnClickSettingCancelButton();
+    if (m_plugin.object)
+        m_plugin.interface->OnClickSettingCancelButton();
 }

@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QString>
 
+#include "PluginWith.h"
+
 class ISettingUIPlugin;
 class QRect;
 class QWidget;
@@ -15,8 +17,8 @@ class QWidget;
 class SettingsPage
 {
 public:
-    /** The pages of plugins, in their order: of each that has settings and a caption for them. */
-    static QList<SettingsPage> of(const QList<QObject*>& plugins);
+    /** The pages of plugins, in their order: of each that has a caption for its page. */
+    static QList<SettingsPage> of(const QList<PluginWith<ISettingUIPlugin>>& plugins);
 
     /** In the language of now. */
     QString caption() const;
@@ -37,8 +39,7 @@ public:
     void reject() const;
 
 private:
-    SettingsPage(QObject* plugin, ISettingUIPlugin* settings);
+    explicit SettingsPage(const PluginWith<ISettingUIPlugin>& plugin);
 
-    QPointer<QObject> m_plugin;
-    ISettingUIPlugin* m_settings;
+    PluginWith<ISettingUIPlugin> m_plugin;
 };

@@ -14,7 +14,7 @@
 
 #include "PageArea.h"
 
-SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
+SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent)
     : QDialog(parent)
     , m_pages(SettingsPage::of(plugins))
     , m_list(new QListWidget)

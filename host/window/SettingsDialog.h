@@ -19,7 +19,7 @@ class SettingsDialog : public QDialog
 
 public:
     /** Offers the pages of plugins, which must stay loaded while the dialog is open. parent may be null. */
-    SettingsDialog(const QList<QObject*>& plugins, QWidget* parent);
+    SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent);
 
     /** Closes when every plug-in agrees; else shows the page of the one that does not. */
     void accept() override;

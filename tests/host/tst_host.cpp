@@ -61,7 +61,7 @@ void HostTest::init()
     m_translator = std::make_unique<Translator>();
     m_host = std::make_unique<Host>(*m_translator);
     m_host->loadPlugins(m_plugins.path());
-    QCOMPARE(m_host->plugins().size(), 2);
+    QCOMPARE(m_host->container().plugins().size(), 2);
     PlayedPlugin::takeEvents();
 }
 
@@ -120,8 +120,8 @@ void HostTest::preparesThePluginsFolders()
 
 void HostTest::showsLinksInTheMenu()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a"), QStringLiteral("b")});
-    m_host->plugins().at(1)->setProperty("links", QStringList{QStringLiteral("c")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    m_host->container().plugins().at(1)->setProperty("links", QStringList{QStringLiteral("c")});
     showWindow();
     QCOMPARE(menuTexts(), QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
     PlayedPlugin::takeEvents();
@@ -204,7 +204,7 @@ void HostTest::servesPluginsThatNotifyTheMenu()
 {
     showWindow();
     QCOMPARE(menuTexts(), QStringList(QStringLiteral("No quick links")));
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("new")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("new")});
     INotifyService* const service = qobject_cast<INotifyService*>(
         Startup::GetPluginContainer()->GetPlugin(QStringLiteral("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412"), 0x2011));
     QVERIFY(service);
@@ -214,7 +214,7 @@ void HostTest::servesPluginsThatNotifyTheMenu()
 
 void HostTest::takesTheWindowDownBeforeThePlugins()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a")});
     showWindow();
     PlayedPlugin::takeEvents();
     m_host.reset();

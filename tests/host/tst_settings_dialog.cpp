@@ -37,6 +37,8 @@ private Q_SLOTS:
     void followsTheLanguage();
 
 private:
+    template <class... Plugin>
+    void make(Plugin*... plugin);
     void open();
     void press(QDialogButtonBox::StandardButton button);
     QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
@@ -65,10 +67,18 @@ void SettingsDialogTest::cleanup()
     m_silent.reset();
 }
 
+/** Makes the dialog with the pages of these. */
+template <class... Plugin>
+void SettingsDialogTest::make(Plugin*... plugin)
+{
+    const QList<PluginWith<ISettingUIPlugin>> plugins{{plugin, plugin, plugin->objectName()}...};
+    m_dialog = std::make_unique<SettingsDialog>(plugins, nullptr);
+}
+
 /** Opens the dialog with the pages of both plug-ins, and forgets what it took to do so. */
 void SettingsDialogTest::open()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_links.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
     PlayedPlugin::takeEvents();
@@ -102,9 +112,7 @@ QString SettingsDialogTest::shownPage() const
 
 void SettingsDialogTest::listsPluginsWithACaption()
 {
-    QObject withoutSettings;
-    m_dialog = std::make_unique<SettingsDialog>(
-        QList<QObject*>{m_mail.get(), &withoutSettings, m_silent.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_silent.get(), m_links.get());
     QCOMPARE(captions(), QStringList({QStringLiteral("My Mail"), QStringLiteral("My Links")}));
     QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Settings"));
     QCOMPARE(list()->accessibleName(), QStringLiteral("Pages"));
@@ -114,7 +122,7 @@ void SettingsDialogTest::listsPluginsWithACaption()
 
 void SettingsDialogTest::saysThatThereAreNoPages()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_silent.get()}, nullptr);
+    make(m_silent.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
     QVERIFY(!list()->isVisible());
@@ -133,7 +141,7 @@ void SettingsDialogTest::saysThatThereAreNoPages()
 
 void SettingsDialogTest::showsTheFirstPage()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_links.get());
     m_dialog->show();
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList(QStringLiteral("Mail shown")));
     QCOMPARE(list()->currentRow(), 0);
