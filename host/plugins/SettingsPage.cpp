@@ -17,7 +17,7 @@ QList<SettingsPage> SettingsPage::of(const QList<PluginWith<ISettingUIPlugin>>& 
 {
     QList<SettingsPage> pages;
     for (const PluginWith<ISettingUIPlugin>& plugin : plugins) {
-        if (!plugin.interface->GetModuleName().isEmpty())
+        if (plugin.interface->IsActiveSetting() && !plugin.interface->GetModuleName().isEmpty())
             pages.append(SettingsPage(plugin));
     }
     return pages;
@@ -52,8 +52,7 @@ bool SettingsPage::accept() const
     return !m_plugin.object || m_plugin.interface->OnClickSettingOkButton();
 }
 
-void SettingsPage::reject() const
+bool SettingsPage::reject() const
 {
-    if (m_plugin.object)
-        m_plugin.interface->OnClickSettingCancelButton();
+    return !m_plugin.object || m_plugin.interface->OnClickSettingCancelButton();
 }

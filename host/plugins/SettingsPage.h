@@ -17,10 +17,10 @@ class QWidget;
 class SettingsPage
 {
 public:
-    /** The pages of plugins, in their order: of each that has a caption for its page. */
+    /** The pages of plugins, in their order: of each that takes part now and has a caption for its page. */
     static QList<SettingsPage> of(const QList<PluginWith<ISettingUIPlugin>>& plugins);
 
-    /** In the language of now. */
+    /** The name in the dialog's list, in the current language. */
     QString caption() const;
 
     /**
@@ -35,8 +35,8 @@ public:
     /** The user pressed OK. Whether the dialog may close. */
     bool accept() const;
 
-    /** The user cancelled. A shown page then is no longer in the dialog. */
-    void reject() const;
+    /** The user cancelled. Whether the dialog may close; the page may have left the dialog even where it may not. */
+    bool reject() const;
 
 private:
     explicit SettingsPage(const PluginWith<ISettingUIPlugin>& plugin);

@@ -50,21 +50,28 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
 
 void SettingsDialog::accept()
 {
-    for (int i = 0; i < m_pages.size(); ++i) {
-        if (!m_pages.at(i).accept()) {
-            m_list->setCurrentRow(i);
-            return;
-        }
-    }
+    if (!allAgree(&SettingsPage::accept))
+        return;
     showPage(-1);
     QDialog::accept();
 }
 
 void SettingsDialog::reject()
 {
-    for (const SettingsPage& page : qAsConst(m_pages))
-        page.reject();
-    QDialog::reject();
+    if (allAgree(&SettingsPage::reject))
+        QDialog::reject();
+}
+
+/** Asks page after page, and shows the first that says no. */
+bool SettingsDialog::allAgree(bool (SettingsPage::*question)() const)
+{
+    for (int i = 0; i < m_pages.size(); ++i) {
+        if (!(m_pages.at(i).*question)()) {
+            m_list->setCurrentRow(i);
+            return false;
+        }
+    }
+    return true;
 }
 
 void SettingsDialog::showEvent(QShowEvent* event)

@@ -24,7 +24,7 @@ public:
     /** Closes when every plug-in agrees; else shows the page of the one that does not. */
     void accept() override;
 
-    /** Cancels, as do Escape and the window's close button. No plug-in can prevent it. */
+    /** Cancels, as do Escape and the window's close button, when every plug-in agrees; else as accept(). */
     void reject() override;
 
 protected:
@@ -35,6 +35,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool allAgree(bool (SettingsPage::*question)() const);
     void setTexts();
     void showPage(int index);
     void growToPage();

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void cleanup();
 
     void listsPluginsWithACaption();
+    void leavesOutInactivePages();
     void saysThatThereAreNoPages();
     void showsTheFirstPage();
     void leavesAPageForAnother();
@@ -30,8 +31,10 @@ private Q_SLOTS:
     void givesThePageTheWholeArea();
     void closesWhenAllAgree();
     void staysForOneThatDoesNot();
-    void cancels_data();
+    void cancels_data() { addWaysToCancel(); }
     void cancels();
+    void staysForOneThatDoesNotCancel_data() { addWaysToCancel(); }
+    void staysForOneThatDoesNotCancel();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
     void followsTheLanguage();
@@ -41,6 +44,8 @@ private:
     void make(Plugin*... plugin);
     void open();
     void press(QDialogButtonBox::StandardButton button);
+    static void addWaysToCancel();
+    void cancel(const QString& by);
     QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
     QStringList captions() const;
     QString shownPage() const;
@@ -118,6 +123,17 @@ void SettingsDialogTest::listsPluginsWithACaption()
     QCOMPARE(list()->accessibleName(), QStringLiteral("Pages"));
     // Pages are built when they are seen.
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+}
+
+void SettingsDialogTest::leavesOutInactivePages()
+{
+    m_mail->setProperty("isInactive", true);
+    make(m_mail.get(), m_links.get());
+    QCOMPARE(captions(), QStringList(QStringLiteral("My Links")));
+    m_dialog->show();
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(PlayedPlugin::takeEvents(),
+             QStringList({QStringLiteral("Links shown"), QStringLiteral("Links OK"), QStringLiteral("Links hidden")}));
 }
 
 void SettingsDialogTest::saysThatThereAreNoPages()
@@ -211,31 +227,48 @@ void SettingsDialogTest::staysForOneThatDoesNot()
     QVERIFY(!m_dialog->isVisible());
 }
 
-void SettingsDialogTest::cancels_data()
+void SettingsDialogTest::addWaysToCancel()
 {
     QTest::addColumn<QString>("by");
-    QTest::addColumn<bool>("refuses");
-    QTest::newRow("button") << QStringLiteral("button") << false;
-    QTest::newRow("Escape") << QStringLiteral("Escape") << false;
-    QTest::newRow("close button") << QStringLiteral("close") << false;
-    QTest::newRow("though a plug-in would not") << QStringLiteral("button") << true;
+    for (const char* way : {"button", "Escape", "close button"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void SettingsDialogTest::cancel(const QString& by)
+{
+    if (by == QLatin1String("Escape"))
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    else if (by == QLatin1String("close button"))
+        m_dialog->close();
+    else
+        press(QDialogButtonBox::Cancel);
 }
 
 void SettingsDialogTest::cancels()
 {
     QFETCH(QString, by);
-    QFETCH(bool, refuses);
     open();
-    m_mail->setProperty("refuses", refuses);
-    if (by == QLatin1String("Escape"))
-        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    else if (by == QLatin1String("close"))
-        m_dialog->close();
-    else
-        press(QDialogButtonBox::Cancel);
+    cancel(by);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel")}));
+}
+
+void SettingsDialogTest::staysForOneThatDoesNotCancel()
+{
+    QFETCH(QString, by);
+    open();
+    m_links->setProperty("refuses", true);
+    cancel(by);
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(shownPage(), QStringLiteral("Links"));
+    QCOMPARE(list()->currentRow(), 1);
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
+                                                      QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
+    m_links->setProperty("refuses", false);
+    cancel(by);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
 }
 
 void SettingsDialogTest::showsNoPageOfAPluginWithout()
