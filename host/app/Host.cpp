@@ -9,6 +9,7 @@
 
 #include "CommonUtils.h"
 #include "ConnectionPanel.h"
+#include "ConnectionTexts.h"
 #include "FirstStart.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
@@ -17,6 +18,7 @@
 #include "PluginNotifications.h"
 #include "SettingsDialog.h"
 #include "StartupContainer.h"
+#include "SystemSource.h"
 #include "Translator.h"
 #include "Tray.h"
 #include "UserSettings.h"
@@ -71,19 +73,19 @@ void Host::showWindow(ConnectionKind kind)
 {
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
-    m_panel = new ConnectionPanel(m_monitor, kind);
+    m_texts = std::make_unique<ConnectionTexts>(m_monitor, kind);
     const QString language = m_translator.followsSystem() ? QString() : m_translator.current();
     LanguageMenu* const languages = new LanguageMenu(Translator::languages(), language);
     QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& chosen) {
         UserSettings::setLanguage(chosen);
         setLanguage(chosen);
     });
-    m_window = std::make_unique<MainWindow>(m_panel, languages);
+    m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     m_menuManager.rebuild();
     showRefusals();
-    // Before the window shows, so that it does not show what is not so.
+    // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
     m_window->show();
 }
@@ -117,8 +119,8 @@ void Host::setLanguage(const QString& language)
 
 void Host::showConnection()
 {
-    m_tray->setState(m_monitor.state().isUp, m_panel->summary());
-    m_window->setStanding(m_panel->shortcoming());
+    m_tray->setState(m_monitor.state().isUp, m_texts->summary());
+    m_window->setPermanentStatus(m_texts->missingService());
 }
 
 void Host::windowClosed()

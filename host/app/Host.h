@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
 #include "DialupService.h"
 #include "LinkOpener.h"
@@ -14,9 +15,8 @@
 #include "NotifyService.h"
 #include "PluginContainer.h"
 #include "SleepWatch.h"
-#include "SystemSource.h"
 
-class ConnectionPanel;
+class ConnectionTexts;
 class MainWindow;
 class Tray;
 class Translator;
@@ -68,7 +68,7 @@ private:
     MenuManager m_menuManager;
     LinkOpener m_linkOpener;
     std::unique_ptr<MainWindow> m_window;
-    ConnectionPanel* m_panel = nullptr; ///< in the window
+    std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<Tray> m_tray;
     std::unique_ptr<SleepWatch> m_sleepWatch; ///< only with a window: it opens the system bus
 };

@@ -66,11 +66,6 @@
 <context>
     <name>ConnectionPanel</name>
     <message>
-        <source>%1: %2</source>
-        <comment>state and name of the connection</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Disconnect</source>
         <translation type="unfinished"></translation>
     </message>
@@ -92,6 +87,14 @@
     </message>
     <message>
         <source>Since:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -66,11 +66,6 @@
 <context>
     <name>ConnectionPanel</name>
     <message>
-        <source>%1: %2</source>
-        <comment>state and name of the connection</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>&amp;Disconnect</source>
         <translation>&amp;Desconectar</translation>
     </message>
@@ -93,6 +88,14 @@
     <message>
         <source>Since:</source>
         <translation>Desde:</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Connected</source>

@@ -27,8 +27,8 @@ public:
     /** The menu of the quick links, which stays the window's. */
     QMenu& linkMenu();
 
-    /** A line that stays in the status bar until the next one; empty for none. */
-    void setStanding(const QString& text);
+    /** Keeps text at the end of the status bar until the next one, beside what comes and goes; empty for none. */
+    void setPermanentStatus(const QString& text);
 
 Q_SIGNALS:
     /** The window stands on the screen for the first time, or was put away before it did. */
@@ -56,7 +56,7 @@ private:
 
     LinkButtons* m_linkButtons = nullptr;
     QLabel* m_linkHeading = nullptr;
-    QLabel* m_standing = nullptr;
+    QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
 
     QMenu* m_connectionMenu = nullptr;
