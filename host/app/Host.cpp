@@ -23,13 +23,6 @@
 #include "Tray.h"
 #include "UserSettings.h"
 
-namespace
-{
-const int notifyServiceKind = 0x2011;
-const int menuManagerKind = 0x2012;
-const int dialupServiceKind = 0x4011;
-} // namespace
-
 Host::Host(Translator& translator)
     : m_translator(translator)
     , m_dialupService(m_monitor)
@@ -37,12 +30,9 @@ Host::Host(Translator& translator)
     , m_menuManager(m_container)
 {
     installPluginContainer(&m_container);
-    m_container.registerComponent(QStringLiteral("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412"), notifyServiceKind,
-                                  QStringLiteral("NotifyService"), &m_notifyService);
-    m_container.registerComponent(QStringLiteral("0F6E2B94-83D1-4C57-A6B0-91E5D27C3A48"), menuManagerKind,
-                                  QStringLiteral("MenuMgrPlugin"), &m_menuManager);
-    m_container.registerComponent(QStringLiteral("61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E"), dialupServiceKind,
-                                  QStringLiteral("DialupService"), &m_dialupService);
+    registerComponent(HostContract::notifyService, &m_notifyService);
+    registerComponent(HostContract::menuManager, &m_menuManager);
+    registerComponent(HostContract::dialupService, &m_dialupService);
 }
 
 Host::~Host()
@@ -53,6 +43,12 @@ Host::~Host()
     m_menuManager.clear();
     m_container.shutdown();
     installPluginContainer(nullptr);
+}
+
+void Host::registerComponent(const HostContract::Component& identity, QObject* component)
+{
+    m_container.registerComponent(QLatin1String(identity.clsid), identity.kind, QLatin1String(identity.name),
+                                  component);
 }
 
 void Host::loadPlugins(const QString& folder)

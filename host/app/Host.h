@@ -10,6 +10,7 @@
 #include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
 #include "DialupService.h"
+#include "HostContract.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
 #include "NotifyService.h"
@@ -53,6 +54,7 @@ public:
     void setLanguage(const QString& language);
 
 private:
+    void registerComponent(const HostContract::Component& identity, QObject* component);
     void connectWindow();
     void showConnection();
     void windowClosed();

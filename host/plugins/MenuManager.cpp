@@ -6,11 +6,10 @@
 #include <QPointer>
 #include <QTextDocument>
 
+#include "HostContract.h"
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
 #include "PluginContainer.h"
-
-static const unsigned int quickLinksChanged = 2309;
 
 MenuManager::MenuManager(const PluginContainer& container)
     : m_container(container)
@@ -21,7 +20,7 @@ int MenuManager::Notify(unsigned int code, unsigned int param1, unsigned int par
 {
     Q_UNUSED(param1);
     Q_UNUSED(param2);
-    if (code == quickLinksChanged)
+    if (code == HostContract::linksChanged)
         rebuild();
     return 0;
 }

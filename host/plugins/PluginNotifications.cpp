@@ -3,37 +3,38 @@
 
 #include "PluginNotifications.h"
 
+#include <QLoggingCategory>
+
 #include "ConnectionMonitor.h"
+#include "HostContract.h"
 #include "INotify.h"
 #include "IUIPlugin.h"
 #include "PluginContainer.h"
 
 namespace
 {
-const unsigned int started = 258;
-const unsigned int languageChanged = 1024;
-const unsigned int connectionChanged = 1536;
+Q_LOGGING_CATEGORY(pluginLog, "vellum.plugins")
 
-void tell(const PluginContainer& container, unsigned int code, const QString& reason)
+void tell(const PluginContainer& container, unsigned int code, const QString& reason, const QLoggingCategory& log)
 {
     QStringList answers;
     const QList<PluginWith<INotify>> listeners = container.all<INotify>();
     for (const PluginWith<INotify>& listener : listeners)
         answers.append(QStringLiteral("%1 %2").arg(listener.name).arg(listener.interface->Notify(code, 0, 0)));
-    qCInfo(connectionLog, "notification %u sent (%s); answers: %s", code, qUtf8Printable(reason),
+    qCInfo(log, "notification %u sent (%s); answers: %s", code, qUtf8Printable(reason),
            answers.isEmpty() ? "none" : qUtf8Printable(answers.join(QStringLiteral(", "))));
 }
 } // namespace
 
 void PluginNotifications::tellStarted(const PluginContainer& container)
 {
-    tell(container, started, QStringLiteral("the program has started"));
+    tell(container, HostContract::programStarted, QStringLiteral("the program has started"), pluginLog());
 }
 
 void PluginNotifications::tellConnectionChanged(const PluginContainer& container, bool isUp, const QString& reason)
 {
-    tell(container, connectionChanged,
-         (isUp ? QStringLiteral("connection up: ") : QStringLiteral("connection down: ")) + reason);
+    tell(container, HostContract::connectionChanged,
+         (isUp ? QStringLiteral("connection up: ") : QStringLiteral("connection down: ")) + reason, connectionLog());
 }
 
 void PluginNotifications::tellLanguageChanged(const PluginContainer& container, const QString& language)
@@ -41,5 +42,5 @@ void PluginNotifications::tellLanguageChanged(const PluginContainer& container, 
     const QList<PluginWith<IUIPlugin>> plugins = container.all<IUIPlugin>();
     for (const PluginWith<IUIPlugin>& plugin : plugins)
         plugin.interface->ChangeLang(language);
-    tell(container, languageChanged, QStringLiteral("language ") + language);
+    tell(container, HostContract::languageChanged, QStringLiteral("language ") + language, pluginLog());
 }
