@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QStatusBar>
 
 #include "CommonUtils.h"
 #include "ConnectionPanel.h"
@@ -142,10 +141,10 @@ void Host::showSettings()
 
 void Host::showRefusals()
 {
-    QStringList names;
+    QStringList files;
     const QList<PluginContainer::Refusal> refusals = m_container.refusals();
     for (const PluginContainer::Refusal& refusal : refusals)
-        names.append(QFileInfo(refusal.file).fileName());
-    if (!names.isEmpty())
-        m_window->statusBar()->showMessage(MainWindow::tr("Not loaded: %1").arg(names.join(QStringLiteral(", "))));
+        files.append(QFileInfo(refusal.file).fileName());
+    if (!files.isEmpty())
+        m_window->showNotLoaded(files);
 }

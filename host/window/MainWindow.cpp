@@ -51,6 +51,11 @@ QMenu& MainWindow::linkMenu()
     return *m_linkMenu;
 }
 
+void MainWindow::showNotLoaded(const QStringList& files)
+{
+    statusBar()->showMessage(tr("Not loaded: %1").arg(files.join(QStringLiteral(", "))));
+}
+
 void MainWindow::setPermanentStatus(const QString& text)
 {
     m_permanentStatus->setText(text);

@@ -27,6 +27,9 @@ public:
     /** The menu of the quick links, which stays the window's. */
     QMenu& linkMenu();
 
+    /** Names the files of plug-ins that were not loaded in the status bar, until something else is said there. */
+    void showNotLoaded(const QStringList& files);
+
     /** Keeps text at the end of the status bar until the next one, beside what comes and goes; empty for none. */
     void setPermanentStatus(const QString& text);
 

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void tellsWhatTheUserSaysOfTheConnection();
     void tellsTheLanguage();
     void servesPluginsThatNotifyTheMenu();
+    void namesWhatWasNotLoaded();
     void takesTheWindowDownBeforeThePlugins();
     void takesPluginsDownOnceWithoutAWindow();
 
@@ -210,6 +213,18 @@ void HostTest::servesPluginsThatNotifyTheMenu()
     QVERIFY(service);
     QCOMPARE(service->Notify(QStringLiteral("MenuMgrPlugin"), 2309, 0, 0), 0);
     QCOMPARE(menuTexts(), QStringList(QStringLiteral("new")));
+}
+
+void HostTest::namesWhatWasNotLoaded()
+{
+    const SampleFolder broken;
+    for (const char* name : {"BrokenOne", "BrokenTwo"})
+        QVERIFY(broken.write(QString::fromLatin1(name), "no library"));
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Plug-in refused: ")));
+    m_host->loadPlugins(broken.path());
+    showWindow();
+    QCOMPARE(window()->statusBar()->currentMessage(), QStringLiteral("Not loaded: libBrokenOne.so, libBrokenTwo.so"));
 }
 
 void HostTest::takesTheWindowDownBeforeThePlugins()
