@@ -120,8 +120,8 @@ void Host::showConnection()
 
 void Host::windowClosed()
 {
-    if (Tray::isThere())
-        m_tray->sayThatItGoesOn();
+    if (Tray::isAvailable())
+        m_tray->tellThatItKeepsRunning();
     else
         quit();
 }

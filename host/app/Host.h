@@ -46,7 +46,7 @@ public:
 
     /**
      * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
-     * plug-ins are told of the start when the window stands on the screen.
+     * plug-ins are told of the start when the window is on the screen.
      */
     void showWindow(ConnectionKind kind);
 
@@ -62,6 +62,7 @@ private:
     void showSettings();
     void showRefusals();
 
+    // Each uses only members above it: their order is their life, and they are destroyed in reverse.
     Translator& m_translator;
     PluginContainer m_container;
     ConnectionMonitor m_monitor;

@@ -35,10 +35,10 @@ public:
      */
     void rebuild();
 
-    /** Shows the texts of the actions in the language of now. Asks no plug-in. */
+    /** Shows the texts of the actions in the current language. Asks no plug-in. */
     void retranslate();
 
-    /** Lets go of all links, before their plug-ins go. */
+    /** Deletes all its actions, to be called before the plug-ins are unloaded. */
     void clear();
 
 Q_SIGNALS:

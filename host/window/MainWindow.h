@@ -18,7 +18,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it takes both. */
+    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
     MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
 
     /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
@@ -34,7 +34,7 @@ public:
     void setPermanentStatus(const QString& text);
 
 Q_SIGNALS:
-    /** The window stands on the screen for the first time, or was put away before it did. */
+    /** The window was painted for the first time, or was minimised before it was. */
     void appeared();
 
     /** The user wants to see the settings. */

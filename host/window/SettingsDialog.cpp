@@ -106,7 +106,7 @@ void SettingsDialog::showPage(int index)
     m_shown = index;
     if (m_shown < 0)
         return;
-    m_area->setPage(m_pages.at(m_shown).show(m_area->ground(), m_area->ground()->rect()));
+    m_area->setPage(m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect()));
     growToPage();
 }
 

@@ -107,7 +107,7 @@ QString SettingsDialogTest::shownPage() const
 {
     QStringList names;
     const QList<QWidget*> pages =
-        m_dialog->findChild<PageArea*>()->ground()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        m_dialog->findChild<PageArea*>()->pageParent()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* page : pages) {
         if (page->isVisible())
             names.append(page->objectName());
@@ -194,7 +194,7 @@ void SettingsDialogTest::growsToThePage()
 void SettingsDialogTest::givesThePageTheWholeArea()
 {
     open();
-    QWidget* const ground = m_dialog->findChild<PageArea*>()->ground();
+    QWidget* const ground = m_dialog->findChild<PageArea*>()->pageParent();
     const QWidget* const page = ground->findChild<QWidget*>(QStringLiteral("Mail"));
     QVERIFY(page);
     m_dialog->resize(m_dialog->size() + QSize(60, 40));
