@@ -62,6 +62,16 @@
         <source>Address not opened</source>
         <translation>Adresse non ouverte</translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>

@@ -62,6 +62,16 @@
         <source>Address not opened</source>
         <translation>アドレスを開けませんでした</translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>

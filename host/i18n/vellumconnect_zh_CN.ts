@@ -62,6 +62,16 @@
         <source>Address not opened</source>
         <translation>未打开地址</translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>
