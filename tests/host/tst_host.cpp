@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void tellsWhatTheUserSaysOfTheConnection();
     void tellsTheLanguage();
     void servesPluginsThatNotifyTheMenu();
+    void namesWhatWasNotLoaded();
     void takesTheWindowDownBeforeThePlugins();
     void takesPluginsDownOnceWithoutAWindow();
 
@@ -61,7 +64,7 @@ void HostTest::init()
     m_translator = std::make_unique<Translator>();
     m_host = std::make_unique<Host>(*m_translator);
     m_host->loadPlugins(m_plugins.path());
-    QCOMPARE(m_host->plugins().size(), 2);
+    QCOMPARE(m_host->container().plugins().size(), 2);
     PlayedPlugin::takeEvents();
 }
 
@@ -120,8 +123,8 @@ void HostTest::preparesThePluginsFolders()
 
 void HostTest::showsLinksInTheMenu()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a"), QStringLiteral("b")});
-    m_host->plugins().at(1)->setProperty("links", QStringList{QStringLiteral("c")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    m_host->container().plugins().at(1)->setProperty("links", QStringList{QStringLiteral("c")});
     showWindow();
     QCOMPARE(menuTexts(), QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
     PlayedPlugin::takeEvents();
@@ -204,7 +207,7 @@ void HostTest::servesPluginsThatNotifyTheMenu()
 {
     showWindow();
     QCOMPARE(menuTexts(), QStringList(QStringLiteral("No quick links")));
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("new")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("new")});
     INotifyService* const service = qobject_cast<INotifyService*>(
         Startup::GetPluginContainer()->GetPlugin(QStringLiteral("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412"), 0x2011));
     QVERIFY(service);
@@ -212,9 +215,21 @@ void HostTest::servesPluginsThatNotifyTheMenu()
     QCOMPARE(menuTexts(), QStringList(QStringLiteral("new")));
 }
 
+void HostTest::namesWhatWasNotLoaded()
+{
+    const SampleFolder broken;
+    for (const char* name : {"BrokenOne", "BrokenTwo"})
+        QVERIFY(broken.write(QString::fromLatin1(name), "no library"));
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Plug-in refused: ")));
+    m_host->loadPlugins(broken.path());
+    showWindow();
+    QCOMPARE(window()->statusBar()->currentMessage(), QStringLiteral("Not loaded: libBrokenOne.so, libBrokenTwo.so"));
+}
+
 void HostTest::takesTheWindowDownBeforeThePlugins()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a")});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{QStringLiteral("a")});
     showWindow();
     PlayedPlugin::takeEvents();
     m_host.reset();

@@ -33,12 +33,18 @@ public:
     void LaunchQuickLinkAction(QAction*) override {}
 };
 
+/** The table of plugins, by their object names. */
+template <class... Plugin>
+static QString tableOf(Plugin*... plugin)
+{
+    return linkTable({PluginWith<IQuickLinkPlugin>{plugin, plugin, plugin->objectName()}...});
+}
+
 void LinkTableTest::showsRowsInColumns()
 {
     PlayedPlugin first(QStringLiteral("Links"));
     first.setProperty("links", QString(10, QLatin1Char('A')).split(QString(), Qt::SkipEmptyParts)
                                    << QStringLiteral("A long name"));
-    QObject without;
     PlayedPlugin second(QStringLiteral("More"));
     second.setProperty("links", QStringList{QStringLiteral("B & C")});
     QString expected = QStringLiteral(" #  Name         Plug-in\n");
@@ -46,7 +52,7 @@ void LinkTableTest::showsRowsInColumns()
         expected += QStringLiteral("%1  A            Links\n").arg(i, 2);
     expected += QStringLiteral("11  A long name  Links\n"
                                "12  B & C        More\n");
-    QCOMPARE(linkTable({&first, &without, &second}), expected);
+    QCOMPARE(tableOf(&first, &second), expected);
 }
 
 void LinkTableTest::saysThatThereAreNone_data()
@@ -63,36 +69,32 @@ void LinkTableTest::saysThatThereAreNone()
     PlayedPlugin plugin(QStringLiteral("Links"));
     plugin.setProperty("links", QStringList{QStringLiteral("A")});
     plugin.setProperty("linkCount", count);
-    QObject without;
-    QList<QObject*> plugins{&without};
-    if (count > -2)
-        plugins.append(&plugin);
-    QCOMPARE(linkTable(plugins), QStringLiteral("No quick links\n"));
+    QCOMPARE(count > -2 ? tableOf(&plugin) : tableOf(), QStringLiteral("No quick links\n"));
 }
 
 void LinkTableTest::keepsARowOnItsLine()
 {
     PlayedPlugin plugin(QStringLiteral("Links"));
     plugin.setProperty("links", QStringList{QStringLiteral("a\tb"), QStringLiteral("c\nd")});
-    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
-                                                  "1  a b   Links\n"
-                                                  "2  c d   Links\n"));
+    QCOMPARE(tableOf(&plugin), QStringLiteral("#  Name  Plug-in\n"
+                                              "1  a b   Links\n"
+                                              "2  c d   Links\n"));
 }
 
 void LinkTableTest::passesOverMissingActions()
 {
     PlayedPlugin plugin(QStringLiteral("Links"));
     plugin.setProperty("links", QStringList{QString(), QStringLiteral("b"), QString(), QStringLiteral("d")});
-    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
-                                                  "1  b     Links\n"
-                                                  "2  d     Links\n"));
+    QCOMPARE(tableOf(&plugin), QStringLiteral("#  Name  Plug-in\n"
+                                              "1  b     Links\n"
+                                              "2  d     Links\n"));
 }
 
 void LinkTableTest::nameMayBeOfAPluginThatTellsNone()
 {
     NamelessPlugin plugin;
-    QCOMPARE(linkTable({&plugin}), QStringLiteral("#  Name  Plug-in\n"
-                                                  "1  Lost  \n"));
+    QCOMPARE(tableOf(&plugin), QStringLiteral("#  Name  Plug-in\n"
+                                              "1  Lost  \n"));
 }
 
 QTEST_MAIN(LinkTableTest)

@@ -3,6 +3,7 @@
 
 // What plug-ins are told, in which order, and the line that says so.
 
+#include <QLoggingCategory>
 #include <QTest>
 
 #include "PlayedContainer.h"
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void writesOneLine_data();
     void writesOneLine();
     void writesALineWithoutPlugins();
+    void keepsTheConnectionsLogToTheConnection();
 };
 
 static void tell(const QString& what, const PluginContainer& container)
@@ -95,6 +97,22 @@ void PluginNotificationsTest::writesALineWithoutPlugins()
     PluginNotifications::tellStarted(none);
     QCOMPARE(trace.infoLines,
              QStringList(QStringLiteral("notification 258 sent (the program has started); answers: none")));
+}
+
+void PluginNotificationsTest::keepsTheConnectionsLogToTheConnection()
+{
+    const PluginContainer none;
+    const TraceRecorder trace;
+    for (const char* const log : {"connection", "plugins"}) {
+        QLoggingCategory::setFilterRules(QStringLiteral("vellum.*=false\nvellum.%1=true").arg(QLatin1String(log)));
+        for (const char* const what : {"started", "language", "up"})
+            tell(QLatin1String(what), none);
+    }
+    QLoggingCategory::setFilterRules(QString());
+    QStringList codes;
+    for (const QString& line : trace.infoLines)
+        codes.append(line.section(QLatin1Char(' '), 1, 1));
+    QCOMPARE(codes, QStringList({QStringLiteral("1536"), QStringLiteral("258"), QStringLiteral("1024")}));
 }
 
 QTEST_MAIN(PluginNotificationsTest)

@@ -19,12 +19,12 @@ class SettingsDialog : public QDialog
 
 public:
     /** Offers the pages of plugins, which must stay loaded while the dialog is open. parent may be null. */
-    SettingsDialog(const QList<QObject*>& plugins, QWidget* parent);
+    SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent);
 
     /** Closes when every plug-in agrees; else shows the page of the one that does not. */
     void accept() override;
 
-    /** Cancels, as do Escape and the window's close button. No plug-in can prevent it. */
+    /** Cancels, as do Escape and the window's close button, when every plug-in agrees; else as accept(). */
     void reject() override;
 
 protected:
@@ -35,6 +35,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool allAgree(bool (SettingsPage::*question)() const);
     void setTexts();
     void showPage(int index);
     void growToPage();

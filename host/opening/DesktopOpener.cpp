@@ -23,7 +23,7 @@ static QString reasonOf(int exitCode)
     }
 }
 
-void cutOff(QProcess& process)
+void detachStandardStreams(QProcess& process)
 {
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
@@ -34,7 +34,7 @@ DesktopOpener::DesktopOpener(const QString& target)
 {
     setProgram(QStringLiteral("xdg-open"));
     setArguments({target});
-    cutOff(*this);
+    detachStandardStreams(*this);
 #if QT_VERSION >= 0x060000
     setChildProcessModifier([] { ::setsid(); });
 #endif

@@ -8,7 +8,8 @@
 class PluginContainer;
 
 /**
- * What every plug-in is told, in load order. Each notification is one line in the log, with what the plug-ins answered.
+ * What every plug-in is told, in load order. Each notification is one line with what the plug-ins answered: in the log
+ * category "vellum.connection" where it is of the connection, else in "vellum.plugins".
  */
 namespace PluginNotifications
 {

@@ -6,7 +6,9 @@
 #include <QList>
 #include <QString>
 
-class QObject;
+#include "PluginWith.h"
+
+class IQuickLinkPlugin;
 
 /** The quick links of plugins as a table for a terminal: number, name and plug-in. Ends with a line feed. */
-QString linkTable(const QList<QObject*>& plugins);
+QString linkTable(const QList<PluginWith<IQuickLinkPlugin>>& plugins);

@@ -15,17 +15,18 @@ public:
     /** Makes an empty area. */
     PageArea();
 
-    /** The widget for pages to stand in. */
-    QWidget* ground() const;
+    /** The widget that pages are to be made children of. */
+    QWidget* pageParent() const;
 
-    /** Keeps page, a child of the ground, as large as the area and never smaller than it wants to be; null for none. */
+    /** Keeps page, a child of pageParent(), as large as the area and never smaller than it wants to be; null for none.
+     */
     void setPage(QWidget* page);
 
     /** As large as shows the whole page. */
     QSize sizeHint() const override;
 
 protected:
-    /** Lets the page follow the size of the ground. */
+    /** Lets the page follow the size of its parent. */
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:

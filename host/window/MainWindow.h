@@ -18,7 +18,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it takes both. */
+    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
     MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
 
     /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
@@ -27,11 +27,14 @@ public:
     /** The menu of the quick links, which stays the window's. */
     QMenu& linkMenu();
 
-    /** A line that stays in the status bar until the next one; empty for none. */
-    void setStanding(const QString& text);
+    /** Names the files of plug-ins that were not loaded in the status bar, until something else is said there. */
+    void showNotLoaded(const QStringList& files);
+
+    /** Keeps text at the end of the status bar until the next one, beside what comes and goes; empty for none. */
+    void setPermanentStatus(const QString& text);
 
 Q_SIGNALS:
-    /** The window stands on the screen for the first time, or was put away before it did. */
+    /** The window was painted for the first time, or was minimised before it was. */
     void appeared();
 
     /** The user wants to see the settings. */
@@ -56,7 +59,7 @@ private:
 
     LinkButtons* m_linkButtons = nullptr;
     QLabel* m_linkHeading = nullptr;
-    QLabel* m_standing = nullptr;
+    QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
 
     QMenu* m_connectionMenu = nullptr;

@@ -7,13 +7,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 
 #include "ConnectionMonitor.h"
 #include "Heading.h"
-
-using Reach = ConnectionState::Reach;
 
 static QLabel* newValue()
 {
@@ -26,7 +23,7 @@ static QLabel* newValue()
 
 ConnectionPanel::ConnectionPanel(ConnectionMonitor& monitor, ConnectionKind kind)
     : m_monitor(monitor)
-    , m_kind(kind)
+    , m_texts(monitor, kind)
     , m_heading(newHeading(4))
     , m_hint(newValue())
     , m_button(new QPushButton)
@@ -59,19 +56,6 @@ ConnectionPanel::ConnectionPanel(ConnectionMonitor& monitor, ConnectionKind kind
     refresh();
 }
 
-QString ConnectionPanel::summary() const
-{
-    const QString name = m_monitor.state().name;
-    return name.isEmpty() ? heading() : tr("%1: %2", "state and name of the connection").arg(heading(), name);
-}
-
-QString ConnectionPanel::shortcoming() const
-{
-    if (m_kind == ConnectionKind::Manual || !m_monitor.isManual())
-        return QString();
-    return m_monitor.lacksService() ? tr("NetworkManager is not running") : tr("Built without NetworkManager");
-}
-
 void ConnectionPanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -82,47 +66,15 @@ void ConnectionPanel::changeEvent(QEvent* event)
 void ConnectionPanel::refresh()
 {
     const ConnectionState state = m_monitor.state();
-    m_heading->setText(heading());
-    m_hint->setText(hint());
+    m_heading->setText(m_texts.state());
+    m_hint->setText(m_texts.hint());
     m_hint->setVisible(!m_hint->text().isEmpty());
     m_button->setText(state.isUp ? tr("&Disconnect") : tr("Co&nnect"));
     m_button->setVisible(m_monitor.isManual());
     setRow(m_name, tr("Connection:"), state.name);
     setRow(m_device, tr("Device:"), state.device);
     setRow(m_operator, tr("Operator:"), state.operatorName);
-    setRow(m_since, tr("Since:"), since());
-}
-
-QString ConnectionPanel::heading() const
-{
-    const ConnectionState state = m_monitor.state();
-    if (state.isUp)
-        return tr("Connected");
-    return state.isComingUp ? tr("Connecting…") : tr("Not connected");
-}
-
-QString ConnectionPanel::hint() const
-{
-    const ConnectionState state = m_monitor.state();
-    if (state.isUp && state.reach == Reach::Portal)
-        return tr("This network asks for a login first.");
-    if (state.isUp && state.reach == Reach::Limited)
-        return tr("The Internet is out of reach.");
-    if (state.isUp || state.isComingUp)
-        return QString();
-    if (m_monitor.isManual())
-        return tr("Press Connect when your connection is up.");
-    return m_kind == ConnectionKind::Mobile ? tr("Waiting for mobile broadband.") : tr("Waiting for a connection.");
-}
-
-QString ConnectionPanel::since() const
-{
-    const QDateTime time = m_monitor.upSince();
-    if (!time.isValid())
-        return m_monitor.state().isUp ? tr("before this program started") : QString();
-    const QLocale locale;
-    return time.date() == QDate::currentDate() ? locale.toString(time.time(), QLocale::ShortFormat)
-                                               : locale.toString(time, QLocale::ShortFormat);
+    setRow(m_since, tr("Since:"), m_texts.since());
 }
 
 void ConnectionPanel::setRow(QLabel* value, const QString& caption, const QString& text)

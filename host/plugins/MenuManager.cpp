@@ -6,11 +6,10 @@
 #include <QPointer>
 #include <QTextDocument>
 
+#include "HostContract.h"
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
 #include "PluginContainer.h"
-
-static const unsigned int quickLinksChanged = 2309;
 
 MenuManager::MenuManager(const PluginContainer& container)
     : m_container(container)
@@ -21,7 +20,7 @@ int MenuManager::Notify(unsigned int code, unsigned int param1, unsigned int par
 {
     Q_UNUSED(param1);
     Q_UNUSED(param2);
-    if (code == quickLinksChanged)
+    if (code == HostContract::linksChanged)
         rebuild();
     return 0;
 }
@@ -30,8 +29,8 @@ void MenuManager::rebuild()
 {
     const QList<QAction*> old = m_actions;
     m_actions.clear();
-    const QList<QObject*> plugins = m_container.plugins();
-    for (QObject* plugin : plugins)
+    const QList<PluginWith<IQuickLinkPlugin>> plugins = m_container.all<IQuickLinkPlugin>();
+    for (const PluginWith<IQuickLinkPlugin>& plugin : plugins)
         addLinks(plugin);
     Q_EMIT rebuilt(m_actions);
     // Later: one of them may be what asked for the change.
@@ -53,13 +52,12 @@ void MenuManager::clear()
     m_actions.clear();
 }
 
-void MenuManager::addLinks(QObject* plugin)
+void MenuManager::addLinks(const PluginWith<IQuickLinkPlugin>& plugin)
 {
-    IQuickLinkPlugin* const links = qobject_cast<IQuickLinkPlugin*>(plugin);
-    const int count = links ? links->GetQuickLinkRecordSize() : 0;
+    const int count = plugin.interface->GetQuickLinkRecordSize();
     for (int i = 0; i < count; ++i) {
-        if (QAction* const theirs = links->GetActionFromQuickLink(i))
-            m_actions.append(newAction(plugin, links, theirs));
+        if (QAction* const theirs = plugin.interface->GetActionFromQuickLink(i))
+            m_actions.append(newAction(plugin, theirs));
     }
 }
 
@@ -71,16 +69,15 @@ void MenuManager::setTexts(QAction* action)
     action->setStatusTip(tip);
 }
 
-QAction* MenuManager::newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs)
+QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs)
 {
     const QString name = LinkName::onOneLine(theirs->text());
     QAction* const action = new QAction(LinkName::withAmpersands(name), this);
     action->setData(name);
     setTexts(action);
-    connect(action, &QAction::triggered, this,
-            [plugin = QPointer<QObject>(plugin), links, theirs = QPointer<QAction>(theirs)] {
-                if (plugin && theirs)
-                    links->LaunchQuickLinkAction(theirs);
-            });
+    connect(action, &QAction::triggered, this, [plugin, theirs = QPointer<QAction>(theirs)] {
+        if (plugin.object && theirs)
+            plugin.interface->LaunchQuickLinkAction(theirs);
+    });
     return action;
 }

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include "INotify.h"
+#include "PluginWith.h"
 
 class IQuickLinkPlugin;
 class PluginContainer;
@@ -34,10 +35,10 @@ public:
      */
     void rebuild();
 
-    /** Shows the texts of the actions in the language of now. Asks no plug-in. */
+    /** Shows the texts of the actions in the current language. Asks no plug-in. */
     void retranslate();
 
-    /** Lets go of all links, before their plug-ins go. */
+    /** Deletes all its actions, to be called before the plug-ins are unloaded. */
     void clear();
 
 Q_SIGNALS:
@@ -45,9 +46,9 @@ Q_SIGNALS:
     void rebuilt(const QList<QAction*>& actions);
 
 private:
-    void addLinks(QObject* plugin);
+    void addLinks(const PluginWith<IQuickLinkPlugin>& plugin);
     static void setTexts(QAction* action);
-    QAction* newAction(QObject* plugin, IQuickLinkPlugin* links, QAction* theirs);
+    QAction* newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs);
 
     const PluginContainer& m_container;
     QList<QAction*> m_actions;

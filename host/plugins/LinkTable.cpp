@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 
-#include "IBasePlugin.h"
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
 
@@ -24,23 +23,20 @@ class LinkTable
     Q_DECLARE_TR_FUNCTIONS(LinkTable)
 };
 
-void addLinks(QVector<Row>& rows, QObject* plugin)
+void addLinks(QVector<Row>& rows, const PluginWith<IQuickLinkPlugin>& plugin)
 {
-    IQuickLinkPlugin* const links = qobject_cast<IQuickLinkPlugin*>(plugin);
-    IBasePlugin* const base = qobject_cast<IBasePlugin*>(plugin);
-    const int count = links ? links->GetQuickLinkRecordSize() : 0;
+    const int count = plugin.interface->GetQuickLinkRecordSize();
     for (int i = 0; i < count; ++i) {
-        if (QAction* const action = links->GetActionFromQuickLink(i))
-            rows.append(Row{QString::number(rows.size()), LinkName::onOneLine(action->text()),
-                            base ? base->GetPluginName() : QString()});
+        if (QAction* const action = plugin.interface->GetActionFromQuickLink(i))
+            rows.append(Row{QString::number(rows.size()), LinkName::onOneLine(action->text()), plugin.name});
     }
 }
 } // namespace
 
-QString linkTable(const QList<QObject*>& plugins)
+QString linkTable(const QList<PluginWith<IQuickLinkPlugin>>& plugins)
 {
     QVector<Row> rows{Row{QStringLiteral("#"), LinkTable::tr("Name"), LinkTable::tr("Plug-in")}};
-    for (QObject* plugin : plugins)
+    for (const PluginWith<IQuickLinkPlugin>& plugin : plugins)
         addLinks(rows, plugin);
     if (rows.size() == 1)
         return LinkTable::tr("No quick links") + QLatin1Char('\n');

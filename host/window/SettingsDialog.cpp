@@ -14,7 +14,7 @@
 
 #include "PageArea.h"
 
-SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
+SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent)
     : QDialog(parent)
     , m_pages(SettingsPage::of(plugins))
     , m_list(new QListWidget)
@@ -50,21 +50,28 @@ SettingsDialog::SettingsDialog(const QList<QObject*>& plugins, QWidget* parent)
 
 void SettingsDialog::accept()
 {
-    for (int i = 0; i < m_pages.size(); ++i) {
-        if (!m_pages.at(i).accept()) {
-            m_list->setCurrentRow(i);
-            return;
-        }
-    }
+    if (!allAgree(&SettingsPage::accept))
+        return;
     showPage(-1);
     QDialog::accept();
 }
 
 void SettingsDialog::reject()
 {
-    for (const SettingsPage& page : qAsConst(m_pages))
-        page.reject();
-    QDialog::reject();
+    if (allAgree(&SettingsPage::reject))
+        QDialog::reject();
+}
+
+/** Asks page after page, and shows the first that says no. */
+bool SettingsDialog::allAgree(bool (SettingsPage::*question)() const)
+{
+    for (int i = 0; i < m_pages.size(); ++i) {
+        if (!(m_pages.at(i).*question)()) {
+            m_list->setCurrentRow(i);
+            return false;
+        }
+    }
+    return true;
 }
 
 void SettingsDialog::showEvent(QShowEvent* event)
@@ -99,7 +106,7 @@ void SettingsDialog::showPage(int index)
     m_shown = index;
     if (m_shown < 0)
         return;
-    m_area->setPage(m_pages.at(m_shown).show(m_area->ground(), m_area->ground()->rect()));
+    m_area->setPage(m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect()));
     growToPage();
 }
 

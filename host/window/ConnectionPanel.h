@@ -5,7 +5,7 @@
 
 #include <QFrame>
 
-#include "SystemSource.h"
+#include "ConnectionTexts.h"
 
 class ConnectionMonitor;
 class QGridLayout;
@@ -21,25 +21,16 @@ public:
     /** Shows what monitor knows, which must outlive the panel; kind is what it was asked to look for. */
     ConnectionPanel(ConnectionMonitor& monitor, ConnectionKind kind);
 
-    /** The state in one line, such as for a tool tip. */
-    QString summary() const;
-
-    /** Why the user is asked although something else was wanted; empty where that is not so. */
-    QString shortcoming() const;
-
 protected:
     /** Follows a change of the language. */
     void changeEvent(QEvent* event) override;
 
 private:
     void refresh();
-    QString heading() const;
-    QString hint() const;
-    QString since() const;
     void setRow(QLabel* value, const QString& caption, const QString& text);
 
     ConnectionMonitor& m_monitor;
-    const ConnectionKind m_kind;
+    const ConnectionTexts m_texts;
     QLabel* m_heading = nullptr;
     QLabel* m_hint = nullptr;
     QPushButton* m_button = nullptr;

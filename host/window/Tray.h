@@ -18,13 +18,13 @@ public:
     Tray(QWidget& window, QMenu& linkMenu);
 
     /** Whether the desktop has a tray now. */
-    static bool isThere();
+    static bool isAvailable();
 
     /** Shows the state, with summary as the tool tip. */
     void setState(bool isUp, const QString& summary);
 
-    /** Tells the user, the first time only, that the program goes on without its window. */
-    void sayThatItGoesOn();
+    /** Tells the user, the first time only, that the program keeps running without its window. */
+    void tellThatItKeepsRunning();
 
 Q_SIGNALS:
     /** The user wants to end the program. */
@@ -41,5 +41,5 @@ private:
     QAction* m_show = nullptr;
     QAction* m_quit = nullptr;
     QSystemTrayIcon m_icon;
-    bool m_hasSaidThatItGoesOn = false;
+    bool m_hasToldThatItKeepsRunning = false;
 };

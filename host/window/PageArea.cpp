@@ -7,16 +7,16 @@
 
 PageArea::PageArea()
 {
-    QWidget* const ground = new QWidget;
-    ground->installEventFilter(this);
-    setWidget(ground);
+    QWidget* const parent = new QWidget;
+    parent->installEventFilter(this);
+    setWidget(parent);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     // The page's own controls are what the keyboard goes to.
     setFocusPolicy(Qt::NoFocus);
 }
 
-QWidget* PageArea::ground() const
+QWidget* PageArea::pageParent() const
 {
     return widget();
 }
@@ -24,21 +24,21 @@ QWidget* PageArea::ground() const
 void PageArea::setPage(QWidget* page)
 {
     m_page = page;
-    ground()->setMinimumSize(page ? page->sizeHint().expandedTo(page->minimumSizeHint()).expandedTo(page->minimumSize())
-                                  : QSize(0, 0));
+    pageParent()->setMinimumSize(
+        page ? page->sizeHint().expandedTo(page->minimumSizeHint()).expandedTo(page->minimumSize()) : QSize(0, 0));
     if (page)
-        page->setGeometry(ground()->rect());
+        page->setGeometry(pageParent()->rect());
     updateGeometry();
 }
 
 QSize PageArea::sizeHint() const
 {
-    return ground()->minimumSize().expandedTo(QSize(400, 360));
+    return pageParent()->minimumSize().expandedTo(QSize(400, 360));
 }
 
 bool PageArea::eventFilter(QObject* object, QEvent* event)
 {
-    if (object == ground() && event->type() == QEvent::Resize && m_page)
-        m_page->setGeometry(ground()->rect());
+    if (object == pageParent() && event->type() == QEvent::Resize && m_page)
+        m_page->setGeometry(pageParent()->rect());
     return QScrollArea::eventFilter(object, event);
 }

@@ -19,7 +19,7 @@
 MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     : m_linkButtons(new LinkButtons)
     , m_linkHeading(newHeading(1))
-    , m_standing(new QLabel)
+    , m_permanentStatus(new QLabel)
 {
     // Without a title of its own the window is shown with the program's name, but a screen reader does not hear it.
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -30,7 +30,7 @@ MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     column->addWidget(m_linkHeading);
     column->addWidget(m_linkButtons, 1);
     setCentralWidget(content);
-    statusBar()->addPermanentWidget(m_standing);
+    statusBar()->addPermanentWidget(m_permanentStatus);
     buildMenus(languageMenu);
     setTexts();
     setLinks({});
@@ -51,10 +51,15 @@ QMenu& MainWindow::linkMenu()
     return *m_linkMenu;
 }
 
-void MainWindow::setStanding(const QString& text)
+void MainWindow::showNotLoaded(const QStringList& files)
 {
-    m_standing->setText(text);
-    m_standing->setVisible(!text.isEmpty());
+    statusBar()->showMessage(tr("Not loaded: %1").arg(files.join(QStringLiteral(", "))));
+}
+
+void MainWindow::setPermanentStatus(const QString& text)
+{
+    m_permanentStatus->setText(text);
+    m_permanentStatus->setVisible(!text.isEmpty());
 }
 
 bool MainWindow::event(QEvent* event)

@@ -51,7 +51,7 @@ void LinkOpener::startProgram(const QString& path)
     QProcess program;
     program.setProgram(path);
     program.setWorkingDirectory(QFileInfo(path).path());
-    cutOff(program);
+    detachStandardStreams(program);
     if (!program.startDetached())
         tell(tr("This program could not be started:"), path);
 }

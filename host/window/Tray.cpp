@@ -26,7 +26,7 @@ Tray::Tray(QWidget& window, QMenu& linkMenu)
     m_window.installEventFilter(this);
 }
 
-bool Tray::isThere()
+bool Tray::isAvailable()
 {
     return QSystemTrayIcon::isSystemTrayAvailable();
 }
@@ -39,11 +39,11 @@ void Tray::setState(bool isUp, const QString& summary)
     m_icon.show();
 }
 
-void Tray::sayThatItGoesOn()
+void Tray::tellThatItKeepsRunning()
 {
-    if (m_hasSaidThatItGoesOn)
+    if (m_hasToldThatItKeepsRunning)
         return;
-    m_hasSaidThatItGoesOn = true;
+    m_hasToldThatItKeepsRunning = true;
     m_icon.showMessage(QGuiApplication::applicationDisplayName(),
                        tr("The program goes on here. Click the icon to see its window."));
 }

@@ -6,8 +6,8 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
-/** Takes standard input and output off a process that is to outlive this one, whose ends may be closed by then. */
-void cutOff(QProcess& process);
+/** Connects the standard streams of a process that outlives this one to nothing: ours may be closed before it ends. */
+void detachStandardStreams(QProcess& process);
 
 /**
  * One run of xdg-open, which lets the desktop open a file, folder or address with the user's program for it.

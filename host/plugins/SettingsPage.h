@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QString>
 
+#include "PluginWith.h"
+
 class ISettingUIPlugin;
 class QRect;
 class QWidget;
@@ -15,10 +17,10 @@ class QWidget;
 class SettingsPage
 {
 public:
-    /** The pages of plugins, in their order: of each that has settings and a caption for them. */
-    static QList<SettingsPage> of(const QList<QObject*>& plugins);
+    /** The pages of plugins, in their order: of each that takes part now and has a caption for its page. */
+    static QList<SettingsPage> of(const QList<PluginWith<ISettingUIPlugin>>& plugins);
 
-    /** In the language of now. */
+    /** The name in the dialog's list, in the current language. */
     QString caption() const;
 
     /**
@@ -33,12 +35,11 @@ public:
     /** The user pressed OK. Whether the dialog may close. */
     bool accept() const;
 
-    /** The user cancelled. A shown page then is no longer in the dialog. */
-    void reject() const;
+    /** The user cancelled. Whether the dialog may close; the page may have left the dialog even where it may not. */
+    bool reject() const;
 
 private:
-    SettingsPage(QObject* plugin, ISettingUIPlugin* settings);
+    explicit SettingsPage(const PluginWith<ISettingUIPlugin>& plugin);
 
-    QPointer<QObject> m_plugin;
-    ISettingUIPlugin* m_settings;
+    PluginWith<ISettingUIPlugin> m_plugin;
 };
