@@ -29,16 +29,6 @@ logged() {
     return "$status"
 }
 
-# wait_until SECONDS COMMAND...: waits for the command to succeed; fails when it has not within the time.
-wait_until() {
-    local deadline=$((SECONDS + $1))
-    shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.1
-    done
-}
-
 # build_for FOLDER PRESET [OPTION...]: configures and builds a preset in build/FOLDER; the log lies beside it.
 build_for() {
     local folder=build/$1 preset=$2

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# Checks format, lint, licence lines, scripts and paths; says one line a check and fails when any finds something.
+# Checks format, sources, lint, licence lines, scripts and paths; says one line a check and fails when any finds something.
 # Usage: scripts/lint.sh
 
 # Its checks are functions that are called by a name put together:
@@ -48,6 +48,45 @@ check_licences() {
     return "$status"
 }
 
+# What plug-in and libraries keep to without a compiler asking for it. They build with Qt 4.8, 5 and 6, and a class is in
+# another module from Qt to Qt. The plug-in takes the path of a link as it stands.
+check_sources() {
+    local plugin=(include src) libraries=(include src host/libcore host/libsdk)
+    none "$(
+        in_code '^#include <Qt[^>]*/' include src host tests benchmarks
+        in_code '^#include <([^>]*[./]|[^Qa-z])' "${libraries[@]}"
+        in_code '^#include "[^"]*/' "${libraries[@]}"
+        foreign_includes "${libraries[@]}"
+        in_code '\b(foreach|forever|Q_FOREACH|Q_FOREVER)\b' "${libraries[@]}"
+        in_code '\b(fromUserInput|fromLocalFile)\b' "${plugin[@]}"
+        in_code '\bQT_VERSION\b' "${plugin[@]}" | grep -v '/QtVersionSwitches\.h:'
+        # Connections by name only; a connection may take several lines.
+        cpp_files "${libraries[@]}" | xargs grep -HPzo '\bconnect\s*\([^;]*(&\s*\w+::|\[[^]]*\]\s*[({])[^;]*;' | tr '\0' '\n'
+    )"
+}
+
+# in_code PATTERN FOLDER...: the lines of C++ with the pattern, but for those of comments.
+in_code() {
+    local pattern=$1
+    shift
+    cpp_files "$@" | xargs grep -HnE "$pattern" | grep -vE '^[^:]*:[0-9]+: *(//|/?\*)'
+}
+
+# foreign_includes FOLDER...: the files with an include that is neither beside them nor in include/.
+foreign_includes() {
+    local file name
+    cpp_files "$@" | xargs grep -Ho '^#include "[^"]*"' | tr -d '"' | while IFS=: read -r file name; do
+        name=${name#'#include '}
+        [[ -e ${file%/*}/$name || -e include/$name ]] || printf '%s: includes "%s"\n' "$file" "$name"
+    done
+}
+
+# none TEXT: prints what was found; fails when there is any.
+none() {
+    printf '%s' "$1"
+    [[ -z $1 ]]
+}
+
 check_scripts() {
     shellcheck -x -P scripts scripts/*.sh .ci/run
 }
@@ -55,14 +94,11 @@ check_scripts() {
 # A path of one machine works on no other. "someone" is the made-up user of the tests. No name needs quoting in a shell.
 check_paths() {
     local machine="(^|[^[:alnum:]._~/-])/(home|root|work|workspace|builds|Users)/[[:alnum:]._-]"
-    local found
-    found=$(
+    none "$(
         listed_files | grep -E ' |[^[:print:]]'
         listed_files | xargs grep -InE "$machine" -- | grep -v '/home/someone\b'
         listed_files | xargs grep -InF "$PWD/" --
-    ) || true
-    printf '%s' "$found"
-    [[ -z $found ]]
+    )"
 }
 
 listed_files() {
@@ -71,7 +107,7 @@ listed_files() {
 
 status=0
 logged build/lint-prepare.log prepare || fail "configuring for the lint tools failed, see above"
-for check in format tidy clazy licences scripts paths; do
+for check in format sources tidy clazy licences scripts paths; do
     if logged "build/lint-$check.log" "check_$check"; then
         say "lint: $check: ok"
     else

@@ -40,6 +40,6 @@ if [[ ! -e $data/$links ]]; then
 fi
 
 program=$PWD/build/run/stage/bin/vellumconnect
-[[ $demo == yes ]] && exec scripts/demo.sh "$program" "$data" "$@"
+[[ $demo == yes ]] && exec /usr/bin/python3 -B tests/desktop/demonstrate.py "$program" "$data" build/run "$@"
 say "Starting $program"
 exec "$program" --data-dir "$data" "$@"

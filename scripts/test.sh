@@ -2,9 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# Builds and tests everything: Qt 5, Qt 6, sanitizers, speed, format and lint. Says one line a step.
-# Usage: scripts/test.sh [--quick]
-#   --quick  build and test with Qt 5 only
+# Builds and tests everything: Qt 5, Qt 6, Qt 4.8, sanitizers, mutants, speed, format and lint. Says one line a step.
+# Usage: [QT4_TOOLKITS=FOLDER] scripts/test.sh [--quick]
+#   --quick       build and test with Qt 5 only
+#   QT4_TOOLKITS  a folder with qt-4.8.7-x86_64.tar.xz and qt-4.8.7-i386.tar.xz; without it Qt 4.8 is left out
 # The log of a step that fails is printed; all logs lie in build/.
 
 # Its steps are functions that are called through step():
@@ -53,6 +54,46 @@ instructions_and_heap() {
     logged build/test-benchmarks.log benchmarks/run --check
 }
 
+# The two toolkits, unpacked once into build/qt-4.8/<architecture>.
+unpack_qt4() {
+    local architecture
+    scripts/packages.sh qt4 || return
+    for architecture in x86_64 i386; do
+        mkdir -p "build/qt-4.8/$architecture"
+        [[ -x build/qt-4.8/$architecture/bin/qmake ]] ||
+            tar -xf "$QT4_TOOLKITS/qt-4.8.7-$architecture.tar.xz" -C "build/qt-4.8/$architecture" --strip-components=1
+    done
+}
+
+# build_qt4 FOLDER ARCHITECTURE TARGET [OPTION...]
+build_qt4() {
+    local folder=build/$1 toolkit=$PWD/build/qt-4.8/$2 target=$3
+    shift 3
+    logged "$folder-configure.log" cmake --preset qt4 -B "$folder" "-DQT_QMAKE_EXECUTABLE=$toolkit/bin/qmake" "$@" &&
+        logged "$folder-build.log" cmake --build "$folder" --target "$target"
+}
+
+# A 32-bit program on a 64-bit system; the X libraries that it needs lie beside the toolkit.
+build_qt4_32() {
+    local link="-Wl,-rpath-link,$PWD/build/qt-4.8/i386/lib/sysroot"
+    build_qt4 qt4-32 i386 module_tests -DCMAKE_CXX_FLAGS=-m32 "-DCMAKE_EXE_LINKER_FLAGS=$link" \
+        "-DCMAKE_SHARED_LINKER_FLAGS=$link" "-DCMAKE_MODULE_LINKER_FLAGS=$link"
+}
+
+# Each Qt's loader takes its own file and refuses those that were built for the others.
+loaders() {
+    local installed=installed/lib/vellumconnect/plugins/QuickLinkUIPlugin/libQuickLinkUIPlugin.so
+    local build other others
+    for build in "$@"; do
+        others=
+        for other in "$@"; do
+            [[ $other == "$build" ]] || others+=:$PWD/build/$other/$installed
+        done
+        OTHER_QUICK_LINKS=${others#:} logged "build/test-loader-$build.log" \
+            ctest --test-dir "build/$build" --no-tests=error -R 'plugin\.(install|PluginLoaderTest)' || return
+    done
+}
+
 step "packages" scripts/packages.sh test
 step "Qt 5: build" build_for default default
 step "Qt 5: every test" ctest_in default build/test-qt5.log
@@ -60,8 +101,19 @@ if [[ $quick == no ]]; then
     step "Qt 5: unit tests twice, in another order" ctest_in default build/test-qt5-again.log -L unit --repeat until-fail:2
     step "Qt 6: build" build_for qt6 qt6
     step "Qt 6: every test" ctest_in qt6 build/test-qt6.log
+    if [[ -n ${QT4_TOOLKITS-} ]]; then
+        step "Qt 4.8: packages and toolkits" unpack_qt4
+        step "Qt 4.8, 64-bit: build" build_qt4 qt4 x86_64 all
+        step "Qt 4.8, 64-bit: unit tests" ctest_in qt4 build/test-qt4.log
+        step "Qt 4.8, 32-bit: build" build_qt4_32
+        step "every Qt: its own plug-in loaded, the others' refused" loaders qt4-32 qt4 qt6 default
+    else
+        say "Qt 4.8: left out, no toolkit given"
+        step "every Qt: its own plug-in loaded, the others' refused" loaders qt6 default
+    fi
     step "sanitizers: build" build_for asan asan
     step "sanitizers: unit tests" sanitized_tests
+    step "mutants: a handful" scripts/mutants.sh --handful
     step "instructions and heap" instructions_and_heap
     step "format and lint" scripts/lint.sh
 fi

@@ -7,13 +7,16 @@ import os
 import subprocess
 from collections import namedtuple
 
-from harness.links import config_path
+from links import config_path
 
 # CPU time of the task in milliseconds, and the bytes of heap that it kept.
 Result = namedtuple("Result", "milliseconds heap")
 
 # One run: a program of the build, its task, and whether the plug-in's trace lines are written.
 Subject = namedtuple("Subject", "program task traces", defaults=(False,))
+
+# How the trace lines of the plug-in are written and not.
+LOGGING_ON, LOGGING_OFF = "default.debug=true", "default.debug=false"
 
 
 class Failed(Exception):
@@ -43,22 +46,26 @@ def environment(traces=False):
     """What every program runs in: the same on every machine, as far as that goes."""
     result = {name: value for name, value in os.environ.items() if name != "TZ" and not name.startswith("QT_")}
     result.update(LC_ALL="C.UTF-8", QT_QPA_PLATFORM="offscreen",
-                  QT_LOGGING_RULES="default.debug=" + ("true" if traces else "false"))
+                  QT_LOGGING_RULES=LOGGING_ON if traces else LOGGING_OFF)
     return result
 
 
 class Programs:
     """Runs subjects of one build on folders of links."""
 
-    def __init__(self, folder, folders):
-        self._folder = os.path.join(folder, "benchmarks")
+    def __init__(self, build, folders):
+        self._build = build
         self._folders = folders
 
+    @property
+    def application(self):
+        return os.path.join(self._build, "stage", "bin", "vellumconnect")
+
     def has(self, program):
-        return os.path.exists(os.path.join(self._folder, program))
+        return os.path.exists(self.path(program))
 
     def path(self, *names):
-        return os.path.join(self._folder, *names)
+        return os.path.join(self._build, "benchmarks", *names)
 
     def run(self, subject, count, use=""):
         """One process with the task on its own copy of so many links; use keeps runs at the same time apart."""

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "SystemSource.h"
+#include "ConnectionKind.h"
 
 /** What the user asked for on the command line. */
 struct CommandLine {

@@ -5,27 +5,22 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QStatusBar>
 
 #include "CommonUtils.h"
 #include "ConnectionPanel.h"
+#include "ConnectionTexts.h"
 #include "FirstStart.h"
+#include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "Places.h"
 #include "PluginNotifications.h"
 #include "SettingsDialog.h"
 #include "StartupContainer.h"
+#include "SystemSource.h"
 #include "Translator.h"
 #include "Tray.h"
 #include "UserSettings.h"
-
-namespace
-{
-const int notifyServiceKind = 0x2011;
-const int menuManagerKind = 0x2012;
-const int dialupServiceKind = 0x4011;
-} // namespace
 
 Host::Host(Translator& translator)
     : m_translator(translator)
@@ -34,12 +29,9 @@ Host::Host(Translator& translator)
     , m_menuManager(m_container)
 {
     installPluginContainer(&m_container);
-    m_container.registerComponent(QStringLiteral("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412"), notifyServiceKind,
-                                  QStringLiteral("NotifyService"), &m_notifyService);
-    m_container.registerComponent(QStringLiteral("0F6E2B94-83D1-4C57-A6B0-91E5D27C3A48"), menuManagerKind,
-                                  QStringLiteral("MenuMgrPlugin"), &m_menuManager);
-    m_container.registerComponent(QStringLiteral("61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E"), dialupServiceKind,
-                                  QStringLiteral("DialupService"), &m_dialupService);
+    registerComponent(HostContract::notifyService, &m_notifyService);
+    registerComponent(HostContract::menuManager, &m_menuManager);
+    registerComponent(HostContract::dialupService, &m_dialupService);
 }
 
 Host::~Host()
@@ -52,6 +44,12 @@ Host::~Host()
     installPluginContainer(nullptr);
 }
 
+void Host::registerComponent(const HostContract::Component& identity, QObject* component)
+{
+    m_container.registerComponent(QLatin1String(identity.clsid), identity.kind, QLatin1String(identity.name),
+                                  component);
+}
+
 void Host::loadPlugins(const QString& folder)
 {
     const QString pluginFolder = folder.isEmpty() ? Places::pluginFolder() : folder;
@@ -61,28 +59,28 @@ void Host::loadPlugins(const QString& folder)
     m_container.loadFolder(pluginFolder);
 }
 
-QList<QObject*> Host::plugins() const
+const PluginContainer& Host::container() const
 {
-    return m_container.plugins();
+    return m_container;
 }
 
 void Host::showWindow(ConnectionKind kind)
 {
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
-    m_panel = new ConnectionPanel(m_monitor, kind);
+    m_texts = std::make_unique<ConnectionTexts>(m_monitor, kind);
     const QString language = m_translator.followsSystem() ? QString() : m_translator.current();
     LanguageMenu* const languages = new LanguageMenu(Translator::languages(), language);
     QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& chosen) {
         UserSettings::setLanguage(chosen);
         setLanguage(chosen);
     });
-    m_window = std::make_unique<MainWindow>(m_panel, languages);
+    m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     m_menuManager.rebuild();
     showRefusals();
-    // Before the window shows, so that it does not show what is not so.
+    // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
     m_window->show();
 }
@@ -116,14 +114,14 @@ void Host::setLanguage(const QString& language)
 
 void Host::showConnection()
 {
-    m_tray->setState(m_monitor.state().isUp, m_panel->summary());
-    m_window->setStanding(m_panel->shortcoming());
+    m_tray->setState(m_monitor.state().isUp, m_texts->summary());
+    m_window->setPermanentStatus(m_texts->missingService());
 }
 
 void Host::windowClosed()
 {
-    if (Tray::isThere())
-        m_tray->sayThatItGoesOn();
+    if (Tray::isAvailable())
+        m_tray->tellThatItKeepsRunning();
     else
         quit();
 }
@@ -137,16 +135,16 @@ void Host::quit()
 
 void Host::showSettings()
 {
-    SettingsDialog dialog(m_container.plugins(), m_window.get());
+    SettingsDialog dialog(m_container.all<ISettingUIPlugin>(), m_window.get());
     dialog.exec();
 }
 
 void Host::showRefusals()
 {
-    QStringList names;
+    QStringList files;
     const QList<PluginContainer::Refusal> refusals = m_container.refusals();
     for (const PluginContainer::Refusal& refusal : refusals)
-        names.append(QFileInfo(refusal.file).fileName());
-    if (!names.isEmpty())
-        m_window->statusBar()->showMessage(MainWindow::tr("Not loaded: %1").arg(names.join(QStringLiteral(", "))));
+        files.append(QFileInfo(refusal.file).fileName());
+    if (!files.isEmpty())
+        m_window->showNotLoaded(files);
 }

@@ -3,21 +3,21 @@
 
 #pragma once
 
-#include <QList>
 #include <QString>
 
 #include <memory>
 
+#include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
 #include "DialupService.h"
+#include "HostContract.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
 #include "NotifyService.h"
 #include "PluginContainer.h"
 #include "SleepWatch.h"
-#include "SystemSource.h"
 
-class ConnectionPanel;
+class ConnectionTexts;
 class MainWindow;
 class Tray;
 class Translator;
@@ -41,12 +41,12 @@ public:
     /** Prepares the user's folder and loads every plug-in of folder; empty stands for the installed ones. */
     void loadPlugins(const QString& folder);
 
-    /** The loaded plug-ins in load order, which stay the host's. */
-    QList<QObject*> plugins() const;
+    /** The container with the loaded plug-ins. */
+    const PluginContainer& container() const;
 
     /**
      * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
-     * plug-ins are told of the start when the window stands on the screen.
+     * plug-ins are told of the start when the window is on the screen.
      */
     void showWindow(ConnectionKind kind);
 
@@ -54,6 +54,7 @@ public:
     void setLanguage(const QString& language);
 
 private:
+    void registerComponent(const HostContract::Component& identity, QObject* component);
     void connectWindow();
     void showConnection();
     void windowClosed();
@@ -61,6 +62,7 @@ private:
     void showSettings();
     void showRefusals();
 
+    // Each uses only members above it: their order is their life, and they are destroyed in reverse.
     Translator& m_translator;
     PluginContainer m_container;
     ConnectionMonitor m_monitor;
@@ -69,7 +71,7 @@ private:
     MenuManager m_menuManager;
     LinkOpener m_linkOpener;
     std::unique_ptr<MainWindow> m_window;
-    ConnectionPanel* m_panel = nullptr; ///< in the window
+    std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<Tray> m_tray;
     std::unique_ptr<SleepWatch> m_sleepWatch; ///< only with a window: it opens the system bus
 };

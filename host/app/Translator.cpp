@@ -38,14 +38,14 @@ bool Translator::use(const QString& language)
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     // A name that is none gives the "C" locale, which is English without being asked for.
     const bool isKnown = language.isEmpty() || locale.language() != QLocale::C;
-    const bool isThere = isKnown && load(locale);
-    if (!isThere && !language.isEmpty())
+    const bool isFound = isKnown && load(locale);
+    if (!isFound && !language.isEmpty())
         qWarning("There are no texts in the language \"%s\"; they are shown in English", qUtf8Printable(language));
     const QLocale shown(current());
     // Times and dates as the system has them, as long as the user chooses nothing else.
     QLocale::setDefault(language.isEmpty() ? QLocale::system() : shown);
     QGuiApplication::setLayoutDirection(shown.textDirection());
-    return isThere;
+    return isFound;
 }
 
 QString Translator::current() const

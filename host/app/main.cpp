@@ -10,6 +10,7 @@
 #include "CommandLine.h"
 #include "ConnectionIcon.h"
 #include "Host.h"
+#include "IQuickLinkPlugin.h"
 #include "LinkTable.h"
 #include "Translator.h"
 #include "UserFolder.h"
@@ -66,7 +67,7 @@ int main(int argc, char** argv)
     Host host(translator);
     host.loadPlugins(commandLine.pluginFolder);
     if (commandLine.action == CommandLine::ListLinks)
-        return print(linkTable(host.plugins()));
+        return print(linkTable(host.container().all<IQuickLinkPlugin>()));
     host.showWindow(commandLine.connection);
     return QApplication::exec();
 }

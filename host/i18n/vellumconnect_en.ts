@@ -62,14 +62,19 @@
         <source>Address not opened</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>state and name of the connection</comment>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>&amp;Disconnect</source>
         <translation type="unfinished"></translation>
@@ -92,6 +97,14 @@
     </message>
     <message>
         <source>Since:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
         <translation type="unfinished"></translation>
     </message>
     <message>

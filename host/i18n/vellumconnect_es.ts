@@ -62,14 +62,19 @@
         <source>Address not opened</source>
         <translation>Dirección no abierta</translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>state and name of the connection</comment>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>&amp;Disconnect</source>
         <translation>&amp;Desconectar</translation>
@@ -93,6 +98,14 @@
     <message>
         <source>Since:</source>
         <translation>Desde:</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Connected</source>

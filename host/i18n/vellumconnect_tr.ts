@@ -62,14 +62,19 @@
         <source>Address not opened</source>
         <translation>Adres açılamadı</translation>
     </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>First button of messages. Up to about 14 characters.</extracomment>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
+        <translation>İptal</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionPanel</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>state and name of the connection</comment>
-        <translation>%1: %2</translation>
-    </message>
     <message>
         <source>&amp;Disconnect</source>
         <translation>Bağlantıyı K&amp;es</translation>
@@ -93,6 +98,14 @@
     <message>
         <source>Since:</source>
         <translation>Başlangıç:</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>state and name of the connection</comment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Connected</source>

@@ -23,7 +23,7 @@ PluginContainer::~PluginContainer()
 QList<QObject*> PluginContainer::plugins() const
 {
     QList<QObject*> objects;
-    for (const Plugin& plugin : m_plugins) {
+    for (const Entry& plugin : m_plugins) {
         if (plugin.object)
             objects.append(plugin.object);
     }
@@ -37,61 +37,62 @@ QList<PluginContainer::Refusal> PluginContainer::refusals() const
 
 void PluginContainer::registerComponent(const QString& clsid, int kind, const QString& name, QObject* component)
 {
-    const Component entry = {clsid, kind, name, component};
+    const Entry entry = {clsid, kind, name, component, nullptr, nullptr};
     m_components.append(entry);
 }
 
 QObject* PluginContainer::GetPlugin(const QString& clsid, int kind)
 {
-    const QList<Component>& components = m_components;
-    for (const Component& component : components) {
-        if (component.object && component.clsid == clsid && component.kind == kind)
-            return component.object;
-    }
-    const QList<Plugin>& loaded = m_plugins;
-    for (const Plugin& plugin : loaded) {
-        if (plugin.object && plugin.clsid == clsid)
-            return plugin.object;
+    const QList<Entry> entries = present();
+    for (const Entry& entry : entries) {
+        if (entry.clsid == clsid && entry.kind == kind)
+            return entry.object;
     }
     return nullptr;
 }
 
 int PluginContainer::notify(const QString& pluginName, unsigned int code, unsigned int param1, unsigned int param2)
 {
-    INotify* receiver = nullptr;
-    for (int i = 0; i < m_components.size() && !receiver; ++i) {
-        if (m_components.at(i).name == pluginName)
-            receiver = qobject_cast<INotify*>(m_components.at(i).object);
+    const QList<Entry> entries = present();
+    for (const Entry& entry : entries) {
+        INotify* const receiver = entry.name == pluginName ? qobject_cast<INotify*>(entry.object) : nullptr;
+        if (receiver)
+            return receiver->Notify(code, param1, param2);
     }
-    for (int i = 0; i < m_plugins.size() && !receiver; ++i) {
-        if (m_plugins.at(i).name == pluginName)
-            receiver = qobject_cast<INotify*>(m_plugins.at(i).object);
-    }
-    return receiver ? receiver->Notify(code, param1, param2) : -1;
+    return -1;
 }
 
 void PluginContainer::shutdown()
 {
     // Each leaves the list first: OnDestroy is the last call it gets, even if another one's OnDestroy looks for it.
-    QList<Plugin> destroyed;
+    QList<Entry> destroyed;
     while (!m_plugins.isEmpty()) {
-        const Plugin plugin = m_plugins.takeLast();
+        const Entry plugin = m_plugins.takeLast();
         if (plugin.object)
             plugin.base->OnDestroy();
         destroyed.append(plugin);
     }
-    for (const Plugin& plugin : destroyed)
+    for (const Entry& plugin : destroyed)
         unload(plugin);
+}
+
+/** What can be found now, in the order in which it is: components first. */
+QList<PluginContainer::Entry> PluginContainer::present() const
+{
+    QList<Entry> entries;
+    const QList<Entry> known = m_components + m_plugins;
+    for (const Entry& entry : known) {
+        if (entry.object)
+            entries.append(entry);
+    }
+    return entries;
 }
 
 bool PluginContainer::hasClassIdentifier(const QString& clsid) const
 {
-    for (const Plugin& plugin : m_plugins) {
-        if (plugin.clsid == clsid)
-            return true;
-    }
-    for (const Component& component : m_components) {
-        if (component.object && component.clsid == clsid)
+    const QList<Entry> entries = present();
+    for (const Entry& entry : entries) {
+        if (entry.clsid == clsid)
             return true;
     }
     return false;

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "IPluginContainer.h"
+#include "PluginWith.h"
 
 class IBasePlugin;
 class QFileInfo;
@@ -40,6 +41,10 @@ public:
     /** The loaded plug-ins in load order. They stay the container's. */
     QList<QObject*> plugins() const;
 
+    /** The loaded plug-ins that have Interface, such as INotify, in load order. */
+    template <class Interface>
+    QList<PluginWith<Interface>> all() const;
+
     /** Everything refused so far, in the order in which it was met. */
     QList<Refusal> refusals() const;
 
@@ -49,7 +54,11 @@ public:
      */
     void registerComponent(const QString& clsid, int kind, const QString& name, QObject* component);
 
-    /** A component with this identifier and kind, else a loaded plug-in with this identifier, else null. */
+    /**
+     * The component, else the loaded plug-in, with this class identifier and kind; null when there is none. The kind of
+     * a component is the one it was registered with, that of a plug-in what its GetPluginType() answered when it was
+     * loaded.
+     */
     QObject* GetPlugin(const QString& clsid, int kind) override;
 
     /** Notifies the component or plug-in of the given name. Its answer; -1 when nobody of that name listens. */
@@ -62,26 +71,35 @@ private:
     PluginContainer(const PluginContainer&);
     PluginContainer& operator=(const PluginContainer&);
 
-    struct Plugin {
-        QPluginLoader* loader;
-        QPointer<QObject> object;
-        IBasePlugin* base;
-        QString clsid, name;
-    };
-    struct Component {
+    struct Entry {
         QString clsid;
         int kind;
         QString name;
         QPointer<QObject> object;
+        QPluginLoader* loader; ///< null for a component
+        IBasePlugin* base;     ///< null for a component
     };
 
     void load(const QFileInfo& file);
-    QString take(Plugin& plugin);
+    QString take(Entry& plugin);
     void refuse(const QString& file, const QString& reason);
+    QList<Entry> present() const;
     bool hasClassIdentifier(const QString& clsid) const;
-    static void unload(const Plugin& plugin);
+    static void unload(const Entry& plugin);
 
-    QList<Plugin> m_plugins; ///< in load order
-    QList<Component> m_components;
+    QList<Entry> m_plugins; ///< in load order
+    QList<Entry> m_components;
     QList<Refusal> m_refusals;
 };
+
+template <class Interface>
+QList<PluginWith<Interface>> PluginContainer::all() const
+{
+    QList<PluginWith<Interface>> found;
+    for (const Entry& plugin : m_plugins) {
+        const PluginWith<Interface> entry = {plugin.object, qobject_cast<Interface*>(plugin.object), plugin.name};
+        if (entry.interface)
+            found.append(entry);
+    }
+    return found;
+}

@@ -47,7 +47,7 @@ void PluginContainer::load(const QFileInfo& file)
         refuse(file.filePath(), QLatin1String("it is not a regular file"));
         return;
     }
-    Plugin plugin = {new QPluginLoader(file.canonicalFilePath()), nullptr, nullptr, QString(), QString()};
+    Entry plugin = {QString(), 0, QString(), nullptr, new QPluginLoader(file.canonicalFilePath()), nullptr};
     // By default a library stays mapped for good.
     plugin.loader->setLoadHints(QLibrary::LoadHints());
     if (plugins().contains(plugin.loader->instance())) {
@@ -66,7 +66,7 @@ void PluginContainer::load(const QFileInfo& file)
 }
 
 /** Asks a library for its plug-in and starts it. Empty when it runs, else why it does not. */
-QString PluginContainer::take(Plugin& plugin)
+QString PluginContainer::take(Entry& plugin)
 {
     plugin.object = plugin.loader->instance();
     if (!plugin.object)
@@ -75,6 +75,7 @@ QString PluginContainer::take(Plugin& plugin)
     if (!plugin.base)
         return QLatin1String("the plug-in has no IBasePlugin");
     plugin.clsid = ownCopy(plugin.base->GetCLSID());
+    plugin.kind = plugin.base->GetPluginType();
     plugin.name = ownCopy(plugin.base->GetPluginName());
     if (hasClassIdentifier(plugin.clsid))
         return QLatin1String("its class identifier is in use already: ") + plugin.clsid;
@@ -85,7 +86,7 @@ QString PluginContainer::take(Plugin& plugin)
     return QString();
 }
 
-void PluginContainer::unload(const Plugin& plugin)
+void PluginContainer::unload(const Entry& plugin)
 {
     // Destructors of the library must not be waiting when their code goes.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

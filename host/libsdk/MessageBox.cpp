@@ -36,10 +36,17 @@ public:
     }
 };
 
+/** The text of a button: the host's for keys that every plug-in may use, else the quick links' own. */
+QString buttonText(const QString& key)
+{
+    const QString text = Change::tr(key, QLatin1String("CommonUtils"));
+    return text == key ? Change::tr(key, QLatin1String("QuickLinkUIPlugin")) : text;
+}
+
 void addButton(QMessageBox* box, QMessageBox::StandardButton number, const QString& key)
 {
     if (!key.isEmpty())
-        box->addButton(number)->setText(Change::tr(key, QLatin1String("QuickLinkUIPlugin")));
+        box->addButton(number)->setText(buttonText(key));
 }
 
 } // namespace

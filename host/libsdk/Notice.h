@@ -8,6 +8,6 @@
 /**
  * Tells the user of a failure without waiting for an answer: a warning that closes by itself at the end of the
  * program and does not keep it alive. subject is what the text speaks of, shown below it as it stands; a very long
- * one is cut off there and whole in the details.
+ * one is shortened there and whole in the details.
  */
 void showNotice(const QString& title, const QString& text, const QString& subject);

@@ -18,7 +18,7 @@ Q_DECLARE_LOGGING_CATEGORY(connectionLog)
 
 /**
  * Follows the connection and says when one really came up or went down. It listens to a service while that is there
- * and to the user's word otherwise. Every decision is one line in the log category "vellum.connection".
+ * and to the user otherwise. Every decision is one line in the log category "vellum.connection".
  */
 class ConnectionMonitor : public QObject
 {
@@ -40,7 +40,7 @@ public:
     /** Since when it is up; invalid while it is not, and for a connection that was up before start(). */
     QDateTime upSince() const;
 
-    /** Whether the user's word counts now. */
+    /** Whether it listens to the user now, for want of a service. */
     bool isManual() const;
 
     /** Whether a service was wanted and is not there. */

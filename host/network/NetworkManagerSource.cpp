@@ -53,7 +53,7 @@ NetworkManager::Device::Ptr deviceOf(const ActiveConnection& connection)
 }
 } // namespace
 
-NetworkManagerSource::NetworkManagerSource(Kind kind)
+NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
     : m_kind(kind)
 {
     const QDBusConnection bus = QDBusConnection::systemBus();
@@ -147,7 +147,7 @@ void NetworkManagerSource::look()
 
 bool NetworkManagerSource::counts(const ActiveConnection& connection) const
 {
-    if (m_kind == Kind::DefaultRoute)
+    if (m_kind == ConnectionKind::Any)
         return connection.default4() || connection.default6();
     switch (connection.type()) {
     case ConnectionSettings::Gsm:

@@ -7,6 +7,7 @@
 
 #include <NetworkManagerQt/ActiveConnection>
 
+#include "ConnectionKind.h"
 #include "ConnectionSource.h"
 #include "ModemOperator.h"
 
@@ -16,14 +17,8 @@ class NetworkManagerSource : public ConnectionSource
     Q_OBJECT
 
 public:
-    /** Which connections count. */
-    enum class Kind {
-        Mobile,       ///< mobile broadband: GSM, CDMA and successors, a telephone by Bluetooth
-        DefaultRoute, ///< whatever has a default route
-    };
-
-    /** Looks at the bus at once, which takes some milliseconds. */
-    explicit NetworkManagerSource(Kind kind);
+    /** Looks at the bus at once, which takes some milliseconds. kind is Mobile or Any. */
+    explicit NetworkManagerSource(ConnectionKind kind);
 
     bool isAvailable() const override;
     ConnectionState state() const override;
@@ -36,7 +31,7 @@ private:
     bool counts(const NetworkManager::ActiveConnection& connection) const;
     NetworkManager::ActiveConnection::Ptr chosen() const;
 
-    const Kind m_kind;
+    const ConnectionKind m_kind;
     bool m_isAvailable = false;
     NetworkManager::ActiveConnection::List m_connections; ///< all that are listened to
     ConnectionState m_state;

@@ -10,8 +10,7 @@ std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind)
 {
     if (kind == ConnectionKind::Manual)
         return nullptr;
-    return std::make_unique<NetworkManagerSource>(
-        kind == ConnectionKind::Mobile ? NetworkManagerSource::Kind::Mobile : NetworkManagerSource::Kind::DefaultRoute);
+    return std::make_unique<NetworkManagerSource>(kind);
 }
 #else
 std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind)

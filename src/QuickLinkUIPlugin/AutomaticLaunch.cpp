@@ -3,17 +3,15 @@
 
 // Opening the marked links by themselves.
 
-#include <QDesktopServices>
-#include <QUrl>
-
 #include "CommonUtils.h"
+#include "LinkTarget.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Trace.h"
 
 namespace
 {
 /**
- * Opens the links whose flag is "1", in order. Of the Internet links only the last one opens, after all others, so
+ * Opens the links whose flag is set, in order. Of the Internet links only the last one opens, after all others, so
  * that one event never fills the browser with tabs. The list is a copy: opening may come back and change it.
  */
 void launchMarked(const QuickLinkRecordList records, QString QuickLinkRecord::*flag)
@@ -22,10 +20,10 @@ void launchMarked(const QuickLinkRecordList records, QString QuickLinkRecord::*f
     bool hasAddress = false;
     for (int i = 0; i < records.size(); ++i) {
         const QuickLinkRecord& record = records.at(i);
-        if (record.*flag != QLatin1String("1"))
+        if (!isSet(record.*flag))
             continue;
         if (record.type == LinkType::application() || record.type == LinkType::email()) {
-            QDesktopServices::openUrl(QUrl(record.url));
+            openTarget(record);
         } else if (record.type == LinkType::internet()) {
             lastAddress = record.url;
             hasAddress = true;

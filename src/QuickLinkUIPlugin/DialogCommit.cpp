@@ -38,17 +38,13 @@ void QuickLinkSettingNewEditDlg::onClickOkButton()
         return;
     }
     const bool isNameKept = m_isEdit && m_appNameEdit->text() == m_editedName;
-    if (!isNameKept && !checkNameDuplication())
-        return;
-    if (!fillRecord())
-        return;
-    const QPointer<QObject> self(this);
-    Q_EMIT addRecord(m_record);
-    // Whoever heard it may have disposed of this dialog.
-    if (!self)
-        return;
-    if (m_frameDialog)
-        m_frameDialog->close();
+    if ((isNameKept || checkNameDuplication()) && fillRecord()) {
+        const QPointer<QObject> self(this);
+        Q_EMIT addRecord(m_record);
+        // Whoever heard it may have disposed of this dialog.
+        if (self && m_frameDialog)
+            m_frameDialog->close();
+    }
     TRACE_END();
 }
 
@@ -106,6 +102,7 @@ bool QuickLinkSettingNewEditDlg::checkNameDuplication()
     for (int i = 0; i < records.size(); ++i) {
         if (records.at(i).name == name) {
             showMessage(QLatin1String("IDS_LINK_SETTING_NAME_SAME"));
+            TRACE_END();
             return false;
         }
     }
@@ -116,10 +113,11 @@ bool QuickLinkSettingNewEditDlg::checkNameDuplication()
 bool QuickLinkSettingNewEditDlg::isValidPath()
 {
     TRACE_START();
-    if (QFile::exists(textOf(m_appPathEdit)))
-        return true;
-    showMessage(QLatin1String("IDS_LINK_SETTING_FILENOTEXIST"));
-    return false;
+    const bool isThere = QFile::exists(textOf(m_appPathEdit));
+    if (!isThere)
+        showMessage(QLatin1String("IDS_LINK_SETTING_FILENOTEXIST"));
+    TRACE_END();
+    return isThere;
 }
 
 void QuickLinkSettingNewEditDlg::showMessage(const QString& textKey)
@@ -133,8 +131,7 @@ void QuickLinkSettingNewEditDlg::onButtonClickCancelNew()
     const QPointer<QObject> self(this);
     if (m_frameDialog)
         m_frameDialog->close();
-    if (!self)
-        return;
-    Q_EMIT cancelNewButton();
+    if (self)
+        Q_EMIT cancelNewButton();
     TRACE_END();
 }

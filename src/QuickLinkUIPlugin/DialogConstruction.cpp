@@ -13,20 +13,64 @@
 #include <QVBoxLayout>
 
 #include "ExtendDialog.h"
+#include "Members.h"
 #include "Pointers.h"
 #include "QuickLinkSettingNewEditDlg.h"
 #include "Trace.h"
+
+template <class Dialog, class Visitor>
+void QuickLinkSettingNewEditDlg::visitNamedWidgets(Dialog& dialog, Visitor&& visit)
+{
+    visit(dialog.m_nameLbl, "m_nameLbl");
+    visit(dialog.m_typeLbl, "m_typeLbl");
+    visit(dialog.m_appNameEdit, "m_appNameEdit");
+    visit(dialog.m_appPathEdit, "m_appPathEdit");
+    visit(dialog.m_appTypeChoice, "m_appTypeChoice");
+    visit(dialog.m_appTabWidget, "m_appTabWidget");
+    visit(dialog.m_appTab, "m_appTab");
+    visit(dialog.m_applicationPathLbl, "m_applicationPathLbl");
+    visit(dialog.m_appParamEdit, "m_appParamEdit");
+    visit(dialog.m_browseBtn, "m_browseBtn");
+    visit(dialog.m_applicationParamLbl, "m_applicationParamLbl");
+    visit(dialog.m_launchWhenSWLaunchCB, "m_launchWhenSWLaunchCB");
+    visit(dialog.m_launchWhenConnectCB, "m_launchWhenConnectCB");
+    visit(dialog.m_okBtn, "m_okBtn");
+    visit(dialog.m_cancelBtn, "m_cancelBtn");
+    visit(dialog.m_EmailTab, "m_EmailTab");
+    visit(dialog.m_DefaultLbl, "m_DefaultLbl");
+    visit(dialog.m_launchWhenSWLaunchCBForEmail, "m_launchWhenSWLaunchCBForEmail");
+    visit(dialog.m_launchWhenConnectCBForEmail, "m_launchWhenConnectCBForEmail");
+    visit(dialog.m_InternetTab, "m_InternetTab");
+    visit(dialog.m_UrlLabel, "m_UrlLabel");
+    visit(dialog.m_launchWhenSWLaunchCBForInternet, "m_launchWhenSWLaunchCBForInternet");
+    visit(dialog.m_launchWhenConnectCBForInternet, "m_launchWhenConnectCBForInternet");
+    visit(dialog.m_EditUrlName, "m_EditUrlName");
+}
+
+template <class Dialog, class Visitor>
+void QuickLinkSettingNewEditDlg::visitAll(Dialog& dialog, Visitor&& visit)
+{
+    visit(dialog.m_frameDialog, nullptr);
+    visit(dialog.m_mainWidget, nullptr);
+    visit(dialog.m_applicationPanel, nullptr);
+    visitNamedWidgets(dialog, visit);
+    visit(dialog.m_mainLayout, nullptr);
+    visit(dialog.m_applicationLayout, nullptr);
+    visit(dialog.m_pathLayout, nullptr);
+    visit(dialog.m_buttonLayout, nullptr);
+    visit(dialog.m_nameLayout, nullptr);
+    visit(dialog.m_typeLayout, nullptr);
+    visit(dialog.m_tabLayout, nullptr);
+    visit(dialog.m_emailLayout, nullptr);
+    visit(dialog.m_internetLayout, nullptr);
+}
 
 QuickLinkSettingNewEditDlg::QuickLinkSettingNewEditDlg()
     : QWidget(nullptr)
     , m_launchOnSoftware(QLatin1String("0"))
     , m_launchOnConnect(QLatin1String("0"))
-    , m_isEdit(false)
-    , m_record(nullptr)
-    , m_isRecordTaken(false)
     , m_watch(this, &QuickLinkSettingNewEditDlg::onWatchedObjectGone)
 {
-    forgetWidgets();
 }
 
 QuickLinkSettingNewEditDlg::~QuickLinkSettingNewEditDlg()
@@ -53,7 +97,6 @@ void QuickLinkSettingNewEditDlg::createMemory(QWidget* parent)
     m_mainWidget = new QWidget(m_frameDialog);
     m_frameDialog->AddMainWidget(m_mainWidget);
     m_frameDialog->setFixedSize(345, 360);
-    m_watch.watch(m_frameDialog);
 
     m_appTabWidget = new QTabWidget(m_mainWidget);
     m_appTab = new QWidget;
@@ -92,6 +135,7 @@ void QuickLinkSettingNewEditDlg::createMemory(QWidget* parent)
     m_launchWhenSWLaunchCBForInternet = new QCheckBox;
     m_launchWhenConnectCBForInternet = new QCheckBox;
 
+    visitAll(*this, Members::Watch(m_watch));
     m_frameDialog->setWindowModality(Qt::WindowModal);
     initializeUI();
     TRACE_END();
@@ -129,30 +173,7 @@ void QuickLinkSettingNewEditDlg::setObjectNameNewDialog()
     }
     // Renamed at once: neither the frame nor the main widget nor the application panel has a name.
     m_nameLbl->setObjectName(QLatin1String("m_quickLinkSettingNewEditDlg"));
-    m_nameLbl->setObjectName(QLatin1String("m_nameLbl"));
-    m_typeLbl->setObjectName(QLatin1String("m_typeLbl"));
-    m_appNameEdit->setObjectName(QLatin1String("m_appNameEdit"));
-    m_appPathEdit->setObjectName(QLatin1String("m_appPathEdit"));
-    m_appTypeChoice->setObjectName(QLatin1String("m_appTypeChoice"));
-    m_appTabWidget->setObjectName(QLatin1String("m_appTabWidget"));
-    m_appTab->setObjectName(QLatin1String("m_appTab"));
-    m_applicationPathLbl->setObjectName(QLatin1String("m_applicationPathLbl"));
-    m_appParamEdit->setObjectName(QLatin1String("m_appParamEdit"));
-    m_browseBtn->setObjectName(QLatin1String("m_browseBtn"));
-    m_applicationParamLbl->setObjectName(QLatin1String("m_applicationParamLbl"));
-    m_launchWhenSWLaunchCB->setObjectName(QLatin1String("m_launchWhenSWLaunchCB"));
-    m_launchWhenConnectCB->setObjectName(QLatin1String("m_launchWhenConnectCB"));
-    m_okBtn->setObjectName(QLatin1String("m_okBtn"));
-    m_cancelBtn->setObjectName(QLatin1String("m_cancelBtn"));
-    m_EmailTab->setObjectName(QLatin1String("m_EmailTab"));
-    m_DefaultLbl->setObjectName(QLatin1String("m_DefaultLbl"));
-    m_launchWhenSWLaunchCBForEmail->setObjectName(QLatin1String("m_launchWhenSWLaunchCBForEmail"));
-    m_launchWhenConnectCBForEmail->setObjectName(QLatin1String("m_launchWhenConnectCBForEmail"));
-    m_InternetTab->setObjectName(QLatin1String("m_InternetTab"));
-    m_UrlLabel->setObjectName(QLatin1String("m_UrlLabel"));
-    m_launchWhenSWLaunchCBForInternet->setObjectName(QLatin1String("m_launchWhenSWLaunchCBForInternet"));
-    m_launchWhenConnectCBForInternet->setObjectName(QLatin1String("m_launchWhenConnectCBForInternet"));
-    m_EditUrlName->setObjectName(QLatin1String("m_EditUrlName"));
+    visitNamedWidgets(*this, Members::SetName());
     TRACE_END();
 }
 
@@ -191,86 +212,12 @@ void QuickLinkSettingNewEditDlg::listenToOptions(QCheckBox* onSoftware, QCheckBo
 
 bool QuickLinkSettingNewEditDlg::isComplete() const
 {
-    return !anyNull({m_frameDialog,
-                     m_mainWidget,
-                     m_appTabWidget,
-                     m_applicationPanel,
-                     m_appTab,
-                     m_nameLbl,
-                     m_typeLbl,
-                     m_applicationPathLbl,
-                     m_applicationParamLbl,
-                     m_appPathEdit,
-                     m_appNameEdit,
-                     m_appParamEdit,
-                     m_browseBtn,
-                     m_launchWhenSWLaunchCB,
-                     m_launchWhenConnectCB,
-                     m_appTypeChoice,
-                     m_okBtn,
-                     m_cancelBtn,
-                     m_mainLayout,
-                     m_applicationLayout,
-                     m_pathLayout,
-                     m_buttonLayout,
-                     m_nameLayout,
-                     m_typeLayout,
-                     m_tabLayout,
-                     m_EmailTab,
-                     m_DefaultLbl,
-                     m_emailLayout,
-                     m_launchWhenSWLaunchCBForEmail,
-                     m_launchWhenConnectCBForEmail,
-                     m_InternetTab,
-                     m_UrlLabel,
-                     m_EditUrlName,
-                     m_internetLayout,
-                     m_launchWhenSWLaunchCBForInternet,
-                     m_launchWhenConnectCBForInternet});
+    Members::FindNull null;
+    visitAll(*this, null);
+    return !null.isFound;
 }
 
 void QuickLinkSettingNewEditDlg::onWatchedObjectGone(void* dialog, QObject* object)
 {
-    Q_UNUSED(object);
-    static_cast<QuickLinkSettingNewEditDlg*>(dialog)->forgetWidgets();
-}
-
-void QuickLinkSettingNewEditDlg::forgetWidgets()
-{
-    m_frameDialog = nullptr;
-    m_mainWidget = nullptr;
-    m_appTabWidget = nullptr;
-    m_applicationPanel = nullptr;
-    m_appTab = nullptr;
-    m_nameLbl = nullptr;
-    m_typeLbl = nullptr;
-    m_applicationPathLbl = nullptr;
-    m_applicationParamLbl = nullptr;
-    m_appPathEdit = nullptr;
-    m_appNameEdit = nullptr;
-    m_appParamEdit = nullptr;
-    m_browseBtn = nullptr;
-    m_launchWhenSWLaunchCB = nullptr;
-    m_launchWhenConnectCB = nullptr;
-    m_appTypeChoice = nullptr;
-    m_okBtn = nullptr;
-    m_cancelBtn = nullptr;
-    m_mainLayout = nullptr;
-    m_applicationLayout = nullptr;
-    m_pathLayout = nullptr;
-    m_buttonLayout = nullptr;
-    m_nameLayout = nullptr;
-    m_typeLayout = nullptr;
-    m_tabLayout = nullptr;
-    m_EmailTab = nullptr;
-    m_DefaultLbl = nullptr;
-    m_emailLayout = nullptr;
-    m_launchWhenSWLaunchCBForEmail = nullptr;
-    m_launchWhenConnectCBForEmail = nullptr;
-    m_InternetTab = nullptr;
-    m_UrlLabel = nullptr;
-    m_EditUrlName = nullptr;
-    m_internetLayout = nullptr;
-    m_launchWhenSWLaunchCBForInternet = nullptr;
-    m_launchWhenConnectCBForInternet = nullptr;
+    visitAll(*static_cast<QuickLinkSettingNewEditDlg*>(dialog), Members::Forget(object));
 }

@@ -17,9 +17,9 @@
 
 namespace
 {
-QString flag(bool isSet)
+QString flag(bool isOn)
 {
-    return isSet ? QLatin1String("1") : QLatin1String("0");
+    return isOn ? QLatin1String("1") : QLatin1String("0");
 }
 
 /**
@@ -120,8 +120,10 @@ void QuickLinkSettingNewEditDlg::onClickBrowseButton()
     const QPointer<QObject> self(this);
     const QString path = chooseFile(m_mainWidget);
     // While the chooser was open the page may have disposed of this dialog, or the host of the frame.
-    if (!self)
+    if (!self) {
+        TRACE_END();
         return;
+    }
     if (!m_appPathEdit) {
         TRACE_NULL();
         return;

@@ -3,12 +3,8 @@
 
 // What the host tells every plug-in: a new language, a new connection state, its own start.
 
-#include <QTableWidgetItem>
-
 #include "IDialupUIService.h"
 #include "IPluginContainer.h"
-#include "Pointers.h"
-#include "QuickLinkSettingNewEditDlg.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Startup.h"
 #include "Trace.h"
@@ -39,24 +35,6 @@ int QuickLinkSettingPluginDlg::Notify(unsigned int code, unsigned int param1, un
     default:
         return 0;
     }
-}
-
-int QuickLinkSettingPluginDlg::retranslate()
-{
-    if (anyNull({m_pageWidget, m_QLinkTabWidget, m_QLinkTab, m_QLinkListTblView, m_launchOrderLbl, m_upBtn, m_downBtn,
-                 m_newBtn, m_editBtn, m_deleteBtn})) {
-        TRACE_NULL();
-        return -1;
-    }
-    setDisplayString();
-    if (m_nameHeaderItem && m_typeHeaderItem) {
-        m_nameHeaderItem->setText(tr(QLatin1String("IDS_LINK_SETTING_NAME")));
-        m_typeHeaderItem->setText(tr(QLatin1String("IDS_LINK_SETTING_TYPE")));
-    }
-    // Only the Edit dialog follows; the New dialog keeps the language that it was opened in.
-    if (m_editDlg)
-        m_editDlg->SetLanguage();
-    return 0;
 }
 
 int QuickLinkSettingPluginDlg::connectionStateChanged()

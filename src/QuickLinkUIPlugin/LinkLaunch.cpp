@@ -3,10 +3,10 @@
 
 // Opening the link that the user picked from the menu.
 
-#include <QDesktopServices>
 #include <QUrl>
 
 #include "CommonUtils.h"
+#include "LinkTarget.h"
 #include "PluginTexts.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Trace.h"
@@ -17,7 +17,7 @@ void QuickLinkSettingPluginDlg::LaunchQuickLinkAction(QAction* action)
     // A strange action gives a default record, whose type is none: nothing opens.
     const QuickLinkRecord record = m_actionMap.value(action);
     if (record.type == LinkType::application() || record.type == LinkType::email()) {
-        QDesktopServices::openUrl(QUrl(record.url));
+        openTarget(record);
     } else if (record.type == LinkType::internet()) {
         if (isValidUrl(record.url))
             CommonUtils::OpenUrl(QUrl(record.url).toString());

@@ -15,7 +15,6 @@ int QuickLinkSettingPluginDlg::GetQuickLinkRecordSize()
 
 QAction* QuickLinkSettingPluginDlg::GetActionFromQuickLink(int index)
 {
-    TRACE_START();
     if (!m_recordList) {
         TRACE_NULL();
         return nullptr;
@@ -26,6 +25,5 @@ QAction* QuickLinkSettingPluginDlg::GetActionFromQuickLink(int index)
     // The action opens the link as it was now, also after the list has changed.
     QAction* const action = new QAction(record.name, this);
     m_actionMap.insert(action, record);
-    TRACE_END();
     return action;
 }

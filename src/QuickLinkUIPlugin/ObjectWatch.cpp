@@ -16,12 +16,6 @@ void ObjectWatch::watch(QObject* object)
         connect(object, SIGNAL(destroyed(QObject*)), this, SLOT(onDestroyed(QObject*)), Qt::UniqueConnection);
 }
 
-void ObjectWatch::unwatch(QObject* object)
-{
-    if (object)
-        disconnect(object, SIGNAL(destroyed(QObject*)), this, SLOT(onDestroyed(QObject*)));
-}
-
 void ObjectWatch::onDestroyed(QObject* object)
 {
     m_gone(m_owner, object);

@@ -10,6 +10,9 @@
  *
  * The page and the New/Edit dialog build their widgets inside widgets of the host, which may delete those at
  * any time. Their own lists of slots are fixed, so the slot for it is here.
+ *
+ * Watch every object that is pointed at, not its parent alone: a widget of Qt 4 says that it goes after its children
+ * went, one of Qt 5 and 6 before.
  */
 class ObjectWatch : public QObject
 {
@@ -24,9 +27,6 @@ public:
 
     /** Watches object from now on, which stays its owner's. null is ignored; watching twice tells once. */
     void watch(QObject* object);
-
-    /** Forgets object, which may be null. */
-    void unwatch(QObject* object);
 
 private Q_SLOTS:
     void onDestroyed(QObject* object);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The settings page: its widgets, names, layouts, texts and connections, and how it goes again.
+// The settings page: its widgets, names, layouts and connections, and how it goes again.
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,9 +10,47 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "Members.h"
 #include "Pointers.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Trace.h"
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitContents(Page& page, Visitor&& visit)
+{
+    visit(page.m_launchOrderLbl, "m_launchOrderLbl");
+    visit(page.m_QLinkListTblView, "m_QLinkListTblView");
+    visit(page.m_upBtn, "m_upBtn");
+    visit(page.m_downBtn, "m_downBtn");
+    visit(page.m_newBtn, "m_newBtn");
+    visit(page.m_editBtn, "m_editBtn");
+    visit(page.m_deleteBtn, "m_deleteBtn");
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitNamedWidgets(Page& page, Visitor&& visit)
+{
+    visit(page.m_QLinkTabWidget, "m_QLinkTabWidget");
+    visit(page.m_QLinkTab, "m_QLinkTab");
+    visitContents(page, visit);
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitLayouts(Page& page, Visitor&& visit)
+{
+    visit(page.m_pageLayout, nullptr);
+    visit(page.m_tabLayout, nullptr);
+    visit(page.m_buttonColumnLayout, nullptr);
+    visit(page.m_orderButtonsLayout, nullptr);
+}
+
+template <class Page, class Visitor>
+void QuickLinkSettingPluginDlg::visitAll(Page& page, Visitor&& visit)
+{
+    visit(page.m_pageWidget, nullptr);
+    visitNamedWidgets(page, visit);
+    visitLayouts(page, visit);
+}
 
 void QuickLinkSettingPluginDlg::createWidgetMemory(QWidget* parent)
 {
@@ -33,16 +71,14 @@ void QuickLinkSettingPluginDlg::createWidgetMemory(QWidget* parent)
     m_tabLayout = new QVBoxLayout;
     m_buttonColumnLayout = new QVBoxLayout;
     m_orderButtonsLayout = new QHBoxLayout;
-    m_watch.watch(m_pageWidget);
+    visitAll(*this, Members::Watch(m_watch));
     TRACE_END();
 }
 
 void QuickLinkSettingPluginDlg::initializeUI()
 {
     TRACE_START();
-    if (anyNull({m_pageWidget, m_QLinkTabWidget, m_QLinkTab, m_QLinkListTblView, m_launchOrderLbl, m_upBtn, m_downBtn,
-                 m_newBtn, m_editBtn, m_deleteBtn, m_pageLayout, m_tabLayout, m_buttonColumnLayout,
-                 m_orderButtonsLayout})) {
+    if (!isComplete()) {
         TRACE("%s: %s: Cell-Log UI Intialization Failed: ", __FILE__, __func__);
         return;
     }
@@ -68,29 +104,18 @@ void QuickLinkSettingPluginDlg::initializeUI()
 void QuickLinkSettingPluginDlg::setObjectNameDlg()
 {
     TRACE_START();
-    if (anyNull({m_QLinkTabWidget, m_QLinkTab, m_launchOrderLbl, m_QLinkListTblView, m_upBtn, m_downBtn, m_newBtn,
-                 m_editBtn, m_deleteBtn})) {
+    if (!hasNamedWidgets()) {
         TRACE_NULL();
         return;
     }
-    m_QLinkTabWidget->setObjectName(QLatin1String("m_QLinkTabWidget"));
-    m_QLinkTab->setObjectName(QLatin1String("m_QLinkTab"));
-    m_launchOrderLbl->setObjectName(QLatin1String("m_launchOrderLbl"));
-    m_QLinkListTblView->setObjectName(QLatin1String("m_QLinkListTblView"));
-    m_upBtn->setObjectName(QLatin1String("m_upBtn"));
-    m_downBtn->setObjectName(QLatin1String("m_downBtn"));
-    m_newBtn->setObjectName(QLatin1String("m_newBtn"));
-    m_editBtn->setObjectName(QLatin1String("m_editBtn"));
-    m_deleteBtn->setObjectName(QLatin1String("m_deleteBtn"));
+    visitNamedWidgets(*this, Members::SetName());
     TRACE_END();
 }
 
 void QuickLinkSettingPluginDlg::setDisplayLayout()
 {
     TRACE_START();
-    if (anyNull({m_pageLayout, m_tabLayout, m_orderButtonsLayout, m_buttonColumnLayout, m_QLinkTabWidget,
-                 m_launchOrderLbl, m_QLinkListTblView, m_upBtn, m_downBtn, m_QLinkTab, m_newBtn, m_editBtn, m_deleteBtn,
-                 m_pageWidget})) {
+    if (!isComplete()) {
         TRACE_NULL();
         return;
     }
@@ -116,71 +141,42 @@ void QuickLinkSettingPluginDlg::setDisplayLayout()
     TRACE_END();
 }
 
-void QuickLinkSettingPluginDlg::setDisplayString()
+bool QuickLinkSettingPluginDlg::isComplete() const
 {
-    TRACE_START();
-    if (anyNull({m_launchOrderLbl, m_upBtn, m_downBtn, m_QLinkTabWidget, m_newBtn, m_editBtn, m_deleteBtn})) {
-        TRACE_NULL();
-        return;
-    }
-    m_launchOrderLbl->setText(tr(QLatin1String("IDS_LINK_SETTING_ORDER")));
-    // What a screen reader calls the table; a buddy would not do, tables do not ask for it.
-    if (m_QLinkListTblView)
-        m_QLinkListTblView->setAccessibleName(m_launchOrderLbl->text());
-    m_upBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_UP")));
-    m_downBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_DOWN")));
-    m_QLinkTabWidget->setTabText(m_QLinkTabWidget->indexOf(m_QLinkTab), tr(QLatin1String("IDS_LINK_SETTING_TAB")));
-    m_newBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_NEW")));
-    m_editBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_EDIT")));
-    m_deleteBtn->setText(tr(QLatin1String("IDS_LINK_SETTING_DEL")));
-    TRACE_END();
+    Members::FindNull null;
+    visitAll(*this, null);
+    return !null.isFound;
+}
+
+bool QuickLinkSettingPluginDlg::hasNamedWidgets() const
+{
+    Members::FindNull null;
+    visitNamedWidgets(*this, null);
+    return !null.isFound;
 }
 
 void QuickLinkSettingPluginDlg::onWatchedObjectGone(void* page, QObject* object)
 {
     QuickLinkSettingPluginDlg* const self = static_cast<QuickLinkSettingPluginDlg*>(page);
-    if (object == self->m_pageWidget)
-        self->forgetPage();
-    if (object == self->m_parentWidget)
-        self->m_parentWidget = nullptr;
-}
-
-void QuickLinkSettingPluginDlg::clearPageMembers()
-{
-    m_pageWidget = nullptr;
-    m_QLinkTabWidget = nullptr;
-    m_QLinkTab = nullptr;
-    m_QLinkListTblView = nullptr;
-    m_launchOrderLbl = nullptr;
-    m_upBtn = nullptr;
-    m_downBtn = nullptr;
-    m_newBtn = nullptr;
-    m_editBtn = nullptr;
-    m_deleteBtn = nullptr;
-    m_pageLayout = nullptr;
-    m_tabLayout = nullptr;
-    m_buttonColumnLayout = nullptr;
-    m_orderButtonsLayout = nullptr;
-}
-
-void QuickLinkSettingPluginDlg::forgetPage()
-{
-    // The page is going, but its children are still there: the table must not take the header items with it unseen.
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
-    clearPageMembers();
+    const Members::Forget forget(object);
+    visitAll(*self, forget);
+    forget(self->m_parentWidget, nullptr);
+    if (object == self->m_headerOwner) {
+        self->m_nameHeaderItem = nullptr;
+        self->m_typeHeaderItem = nullptr;
+        self->m_headerOwner = nullptr;
+    }
 }
 
 void QuickLinkSettingPluginDlg::deletePage()
 {
     releaseRows();
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
+    releaseHeaderItems();
     release(m_gridDelegate);
     release(m_QLinkListTblView);
-    QWidget* page = m_pageWidget;
-    clearPageMembers();
-    release(page);
+    release(m_pageWidget);
+    // Those that were never installed did not go with the page.
+    visitLayouts(*this, Members::Release());
 }
 
 void QuickLinkSettingPluginDlg::releaseRows()
@@ -193,24 +189,9 @@ void QuickLinkSettingPluginDlg::releaseRows()
 
 void QuickLinkSettingPluginDlg::releasePageContents()
 {
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
-    release(m_QLinkListTblView);
-    release(m_launchOrderLbl);
-    release(m_upBtn);
-    release(m_downBtn);
-    release(m_newBtn);
-    release(m_editBtn);
-    release(m_deleteBtn);
-    // The layouts of Qt 4 do not notice that an inner one is deleted.
-    if (m_tabLayout && m_orderButtonsLayout)
-        m_tabLayout->removeItem(m_orderButtonsLayout);
-    release(m_orderButtonsLayout);
-    if (m_pageLayout && m_buttonColumnLayout)
-        m_pageLayout->removeItem(m_buttonColumnLayout);
-    release(m_buttonColumnLayout);
-    release(m_tabLayout);
-    release(m_pageLayout);
+    releaseHeaderItems();
+    visitContents(*this, Members::Release());
+    visitLayouts(*this, Members::Release());
 }
 
 void QuickLinkSettingPluginDlg::releasePageFrame()

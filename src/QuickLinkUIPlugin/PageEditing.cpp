@@ -78,8 +78,8 @@ void QuickLinkSettingPluginDlg::onEditBtnClick()
 void QuickLinkSettingPluginDlg::fillEditDialog(const QuickLinkRecord& record)
 {
     // The order matters: choosing the type clears what the fields of that type held.
-    const bool onConnect = record.startconnect == QLatin1String("1");
-    const bool onStart = record.startmobile == QLatin1String("1");
+    const bool onConnect = isSet(record.startconnect);
+    const bool onStart = isSet(record.startmobile);
     QuickLinkSettingNewEditDlg* const dialog = m_editDlg;
     dialog->m_appNameEdit->setText(record.name);
     if (record.type == LinkType::application()) {
@@ -180,12 +180,13 @@ void QuickLinkSettingPluginDlg::replaceRecordWithEditedRecord(QuickLinkRecord* r
     freeRecord(oldRecord);
     m_isEditing = false;
     selectRow(row);
-    if (m_store) {
-        m_store->SaveToConfigFile(m_recordList, 1);
-        sendNotifyToMenu();
-    } else {
+    if (!m_store) {
         TRACE_NULL();
+        return;
     }
+    m_store->SaveToConfigFile(m_recordList, 1);
+    sendNotifyToMenu();
+    TRACE_END();
 }
 
 void QuickLinkSettingPluginDlg::tellRecordTaken(QuickLinkRecord* record)
@@ -206,8 +207,10 @@ void QuickLinkSettingPluginDlg::onDeleteBtnClick()
         PluginTexts::showMessage(QMessageBox::Question, m_pageWidget, QLatin1String("IDS_LINK_SETTING_DELETE_CONFORM"),
                                  QLatin1String("IDS_CANCEL"));
     // While the user thought about it the host may have deleted the page, or the plug-in.
-    if (!self)
+    if (!self) {
+        TRACE_END();
         return;
+    }
     if (anyNull({m_QLinkListTblView, m_editBtn, m_deleteBtn})) {
         TRACE_NULL();
         return;

@@ -17,8 +17,6 @@ int QuickLinkSettingPluginDlg::ShowSettingDialog(QWidget* parent, QRect& area)
 int QuickLinkSettingPluginDlg::ShowWindow(QWidget* parent, QRect& area)
 {
     TRACE_START();
-    if (m_parentWidget != parent)
-        m_watch.unwatch(m_parentWidget);
     m_parentWidget = parent;
     m_watch.watch(m_parentWidget);
     createWidgetMemory(parent);
@@ -70,12 +68,4 @@ void QuickLinkSettingPluginDlg::FitSize(QRect& area)
     TRACE_START();
     Q_UNUSED(area);
     TRACE_END();
-}
-
-int QuickLinkSettingPluginDlg::ChangeLang(const QString& language)
-{
-    TRACE_START();
-    // The texts follow the notification that the host sends afterwards.
-    TRACE_END();
-    return language.isEmpty() ? 0 : 1;
 }

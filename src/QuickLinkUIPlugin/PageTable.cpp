@@ -30,8 +30,7 @@ QVariant recordToData(QuickLinkRecord* record)
 void QuickLinkSettingPluginDlg::fillTable()
 {
     TRACE_START();
-    release(m_nameHeaderItem);
-    release(m_typeHeaderItem);
+    releaseHeaderItems();
     m_nameHeaderItem = new (std::nothrow) QTableWidgetItem;
     m_typeHeaderItem = new (std::nothrow) QTableWidgetItem;
     release(m_gridDelegate);
@@ -70,6 +69,16 @@ void QuickLinkSettingPluginDlg::configureTable()
     table->setHorizontalHeaderItem(typeColumn, m_typeHeaderItem);
     m_typeHeaderItem->setText(tr(QLatin1String("IDS_LINK_SETTING_TYPE")));
     m_typeHeaderItem->setTextAlignment(Qt::AlignLeft);
+    m_headerOwner = table->model();
+    m_watch.watch(m_headerOwner);
+}
+
+void QuickLinkSettingPluginDlg::releaseHeaderItems()
+{
+    // An item takes itself out of its table.
+    release(m_nameHeaderItem);
+    release(m_typeHeaderItem);
+    m_headerOwner = nullptr;
 }
 
 bool QuickLinkSettingPluginDlg::fillRows()
@@ -187,11 +196,10 @@ void QuickLinkSettingPluginDlg::enableDeleteEditButton()
         TRACE_NULL();
         return;
     }
-    const QuickLinkRecord* const record = recordOf(item);
-    if (!record)
-        return;
-    m_deleteBtn->setEnabled(record->delete_ == QLatin1String("1"));
-    m_editBtn->setEnabled(record->edit == QLatin1String("1"));
+    if (const QuickLinkRecord* const record = recordOf(item)) {
+        m_deleteBtn->setEnabled(isSet(record->delete_));
+        m_editBtn->setEnabled(isSet(record->edit));
+    }
     TRACE_END();
 }
 
@@ -204,19 +212,19 @@ void QuickLinkSettingPluginDlg::onClickQuickLinkRow(int row)
         TRACE_NULL();
         return;
     }
-    if (m_QLinkListTblView->selectedItems().size() / columnCount == 0)
-        return;
     const int currentRow = m_QLinkListTblView->currentRow();
     const int rowCount = m_QLinkListTblView->rowCount();
-    if (rowCount == 1) {
+    if (m_QLinkListTblView->selectedItems().size() / columnCount == 0) {
+        // Nothing selected: the buttons keep their states.
+    } else if (rowCount == 1) {
         m_upBtn->setEnabled(false);
         m_downBtn->setEnabled(false);
         enableDeleteEditButton();
-        return;
+    } else {
+        enableDeleteEditButton();
+        m_upBtn->setEnabled(currentRow != 0);
+        m_downBtn->setEnabled(currentRow == 0 || currentRow != rowCount - 1);
     }
-    enableDeleteEditButton();
-    m_upBtn->setEnabled(currentRow != 0);
-    m_downBtn->setEnabled(currentRow == 0 || currentRow != rowCount - 1);
     TRACE_END();
 }
 

@@ -3,7 +3,6 @@
 
 // The plug-in's life: made, Init(), in use, OnDestroy(), deleted.
 
-#include "PluginTexts.h"
 #include "Pointers.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
@@ -13,18 +12,8 @@ QuickLinkSettingPluginDlg* QuickLinkSettingPluginDlg::m_pInstance = nullptr;
 
 QuickLinkSettingPluginDlg::QuickLinkSettingPluginDlg()
     : QObject(nullptr)
-    , m_parentWidget(nullptr)
-    , m_nameHeaderItem(nullptr)
-    , m_typeHeaderItem(nullptr)
-    , m_gridDelegate(nullptr)
-    , m_newDlg(nullptr)
-    , m_editDlg(nullptr)
-    , m_isEditing(false)
-    , m_store(nullptr)
-    , m_recordList(nullptr)
     , m_watch(this, &QuickLinkSettingPluginDlg::onWatchedObjectGone)
 {
-    clearPageMembers();
 }
 
 QuickLinkSettingPluginDlg::~QuickLinkSettingPluginDlg()
@@ -55,22 +44,9 @@ int QuickLinkSettingPluginDlg::Init()
         m_recordList = m_store->m_recordList;
     }
     // The single object is a second one beside the one that the loader made; OnDestroy() deletes it.
-    GetInstance();
+    if (!m_pInstance)
+        m_pInstance = new QuickLinkSettingPluginDlg;
     return 1;
-}
-
-QString QuickLinkSettingPluginDlg::GetModuleName()
-{
-    TRACE("Returning Module Name %s: %s: %d: ", __FILE__, __func__, __LINE__);
-    // A page without a caption is one that the host does not offer.
-    if (m_store && m_store->m_visible == QLatin1String("0"))
-        return QString();
-    return tr(QLatin1String("IDS_SETTING_NAME"));
-}
-
-QString QuickLinkSettingPluginDlg::tr(QString key)
-{
-    return PluginTexts::translated(key);
 }
 
 /*

@@ -37,6 +37,12 @@ public:
 // Lists move their records by copying bytes.
 Q_DECLARE_TYPEINFO(QuickLinkRecord, Q_MOVABLE_TYPE);
 
+/** Whether a flag of a link says yes. */
+inline bool isSet(const QString& flag)
+{
+    return flag == QLatin1String("1");
+}
+
 /** The links in the user's order: that of the file, the table, the menu and the automatic launches. */
 typedef QVector<QuickLinkRecord> QuickLinkRecordList;
 

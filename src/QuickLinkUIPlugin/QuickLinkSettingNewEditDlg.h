@@ -82,51 +82,56 @@ public Q_SLOTS:
 
 public:
     // The page fills these when a link is edited. All are null until the dialog is shown.
-    ExtendDialog* m_frameDialog;
-    QWidget* m_mainWidget;
-    QTabWidget* m_appTabWidget;
-    QWidget* m_applicationPanel;
-    QWidget* m_appTab;
-    QLabel* m_nameLbl;
-    QLabel* m_typeLbl;
-    QLabel* m_applicationPathLbl;
-    QLabel* m_applicationParamLbl;
-    QLineEdit* m_appPathEdit;
-    QLineEdit* m_appNameEdit;
-    QLineEdit* m_appParamEdit;
-    QPushButton* m_browseBtn;
-    QCheckBox* m_launchWhenSWLaunchCB;
-    QCheckBox* m_launchWhenConnectCB;
-    QComboBox* m_appTypeChoice;
-    QPushButton* m_okBtn;
-    QPushButton* m_cancelBtn;
-    QVBoxLayout* m_mainLayout;
-    QVBoxLayout* m_applicationLayout;
-    QHBoxLayout* m_pathLayout;
-    QHBoxLayout* m_buttonLayout;
-    QHBoxLayout* m_nameLayout;
-    QHBoxLayout* m_typeLayout;
-    QVBoxLayout* m_tabLayout;
-    QWidget* m_EmailTab;
-    QLabel* m_DefaultLbl;
-    QVBoxLayout* m_emailLayout;
-    QCheckBox* m_launchWhenSWLaunchCBForEmail;
-    QCheckBox* m_launchWhenConnectCBForEmail;
-    QWidget* m_InternetTab;
-    QLabel* m_UrlLabel;
-    QLineEdit* m_EditUrlName;
-    QVBoxLayout* m_internetLayout;
-    QCheckBox* m_launchWhenSWLaunchCBForInternet;
-    QCheckBox* m_launchWhenConnectCBForInternet;
+    ExtendDialog* m_frameDialog = nullptr;
+    QWidget* m_mainWidget = nullptr;
+    QTabWidget* m_appTabWidget = nullptr;
+    QWidget* m_applicationPanel = nullptr;
+    QWidget* m_appTab = nullptr;
+    QLabel* m_nameLbl = nullptr;
+    QLabel* m_typeLbl = nullptr;
+    QLabel* m_applicationPathLbl = nullptr;
+    QLabel* m_applicationParamLbl = nullptr;
+    QLineEdit* m_appPathEdit = nullptr;
+    QLineEdit* m_appNameEdit = nullptr;
+    QLineEdit* m_appParamEdit = nullptr;
+    QPushButton* m_browseBtn = nullptr;
+    QCheckBox* m_launchWhenSWLaunchCB = nullptr;
+    QCheckBox* m_launchWhenConnectCB = nullptr;
+    QComboBox* m_appTypeChoice = nullptr;
+    QPushButton* m_okBtn = nullptr;
+    QPushButton* m_cancelBtn = nullptr;
+    QVBoxLayout* m_mainLayout = nullptr;
+    QVBoxLayout* m_applicationLayout = nullptr;
+    QHBoxLayout* m_pathLayout = nullptr;
+    QHBoxLayout* m_buttonLayout = nullptr;
+    QHBoxLayout* m_nameLayout = nullptr;
+    QHBoxLayout* m_typeLayout = nullptr;
+    QVBoxLayout* m_tabLayout = nullptr;
+    QWidget* m_EmailTab = nullptr;
+    QLabel* m_DefaultLbl = nullptr;
+    QVBoxLayout* m_emailLayout = nullptr;
+    QCheckBox* m_launchWhenSWLaunchCBForEmail = nullptr;
+    QCheckBox* m_launchWhenConnectCBForEmail = nullptr;
+    QWidget* m_InternetTab = nullptr;
+    QLabel* m_UrlLabel = nullptr;
+    QLineEdit* m_EditUrlName = nullptr;
+    QVBoxLayout* m_internetLayout = nullptr;
+    QCheckBox* m_launchWhenSWLaunchCBForInternet = nullptr;
+    QCheckBox* m_launchWhenConnectCBForInternet = nullptr;
     QString m_launchOnSoftware; ///< "1": the link opens when the host starts
     QString m_launchOnConnect;  ///< "1": the link opens when a connection comes up
-    bool m_isEdit;
+    bool m_isEdit = false;
     QString m_editedName;
-    QuickLinkRecord* m_record; ///< built by the last OK; null before the first one
+    QuickLinkRecord* m_record = nullptr; ///< built by the last OK; null before the first one
 
 private:
+    // Walks over the members that live in the frame. See Members.h for what is done with each.
+    template <class Dialog, class Visitor>
+    static void visitNamedWidgets(Dialog& dialog, Visitor&& visit); ///< in naming order
+    template <class Dialog, class Visitor>
+    static void visitAll(Dialog& dialog, Visitor&& visit);
+
     static void onWatchedObjectGone(void* dialog, QObject* object);
-    void forgetWidgets();
     bool isComplete() const;
 
     void createMemory(QWidget* parent);
@@ -148,6 +153,6 @@ private:
     bool fillRecord();
     void showMessage(const QString& textKey);
 
-    bool m_isRecordTaken; ///< somebody else owns m_record
+    bool m_isRecordTaken = false; ///< somebody else owns m_record
     ObjectWatch m_watch;
 };

@@ -54,8 +54,8 @@ public:
     /** Frees the action map and, as their parent, the actions. All else is OnDestroy()'s. */
     ~QuickLinkSettingPluginDlg() override;
 
-    /** The separate single object that Init() makes; made here if it is missing. It lives until Destroy() or
-     * OnDestroy(). */
+    /** The separate single object that Init() makes; made here if it is missing. For hosts; nothing in here calls it.
+     * It lives until Destroy() or OnDestroy(). */
     static QuickLinkSettingPluginDlg* GetInstance();
 
     /** Deletes the single object if there is one. */
@@ -155,11 +155,22 @@ private Q_SLOTS:
     void launchOnConnection();
 
 private:
+    // Walks over the members that live in the host's widget. See Members.h for what is done with each.
+    template <class Page, class Visitor>
+    static void visitContents(Page& page, Visitor&& visit); ///< what lies on the tab and in the button column
+    template <class Page, class Visitor>
+    static void visitNamedWidgets(Page& page, Visitor&& visit); ///< these with tab and tab widget, in naming order
+    template <class Page, class Visitor>
+    static void visitLayouts(Page& page, Visitor&& visit); ///< each outer layout before its inner one
+    template <class Page, class Visitor>
+    static void visitAll(Page& page, Visitor&& visit);
+
+    bool isComplete() const;      ///< every widget and layout is there
+    bool hasNamedWidgets() const; ///< every widget but the page's own is there
     static void onWatchedObjectGone(void* page, QObject* object);
-    void clearPageMembers();
-    void forgetPage();
     void deletePage();
     void releaseRows();
+    void releaseHeaderItems();
     void releasePageContents();
     void releasePageFrame();
 
@@ -187,30 +198,31 @@ private:
 
     static QuickLinkSettingPluginDlg* m_pInstance;
 
-    QWidget* m_pageWidget;
-    QTabWidget* m_QLinkTabWidget;
-    QWidget* m_QLinkTab;
-    QTableWidget* m_QLinkListTblView;
-    QLabel* m_launchOrderLbl;
-    QPushButton* m_upBtn;
-    QPushButton* m_downBtn;
-    QPushButton* m_newBtn;
-    QPushButton* m_editBtn;
-    QPushButton* m_deleteBtn;
-    QHBoxLayout* m_pageLayout;
-    QVBoxLayout* m_tabLayout;
-    QVBoxLayout* m_buttonColumnLayout;
-    QHBoxLayout* m_orderButtonsLayout;
+    QWidget* m_pageWidget = nullptr;
+    QTabWidget* m_QLinkTabWidget = nullptr;
+    QWidget* m_QLinkTab = nullptr;
+    QTableWidget* m_QLinkListTblView = nullptr;
+    QLabel* m_launchOrderLbl = nullptr;
+    QPushButton* m_upBtn = nullptr;
+    QPushButton* m_downBtn = nullptr;
+    QPushButton* m_newBtn = nullptr;
+    QPushButton* m_editBtn = nullptr;
+    QPushButton* m_deleteBtn = nullptr;
+    QHBoxLayout* m_pageLayout = nullptr;
+    QVBoxLayout* m_tabLayout = nullptr;
+    QVBoxLayout* m_buttonColumnLayout = nullptr;
+    QHBoxLayout* m_orderButtonsLayout = nullptr;
 
-    QWidget* m_parentWidget;
-    QTableWidgetItem* m_nameHeaderItem;
-    QTableWidgetItem* m_typeHeaderItem;
-    GridDelegateLayout* m_gridDelegate;
-    QuickLinkSettingNewEditDlg* m_newDlg;
-    QuickLinkSettingNewEditDlg* m_editDlg;
-    bool m_isEditing;
-    QuickLinkXmlParse* m_store;
-    QuickLinkRecordList* m_recordList;
+    QWidget* m_parentWidget = nullptr;
+    QObject* m_headerOwner = nullptr; ///< the table's model once it owns the header items; null: they are ours
+    QTableWidgetItem* m_nameHeaderItem = nullptr;
+    QTableWidgetItem* m_typeHeaderItem = nullptr;
+    GridDelegateLayout* m_gridDelegate = nullptr;
+    QuickLinkSettingNewEditDlg* m_newDlg = nullptr;
+    QuickLinkSettingNewEditDlg* m_editDlg = nullptr;
+    bool m_isEditing = false;
+    QuickLinkXmlParse* m_store = nullptr;
+    QuickLinkRecordList* m_recordList = nullptr;
     QHash<QAction*, QuickLinkRecord> m_actionMap;
 
     QSet<QuickLinkRecord*>

@@ -139,7 +139,7 @@ bool QuickLinkXmlParse::readItems(QXmlStreamReader& reader)
             return false;
         }
         // A hidden link does not exist for the user; the next save drops it from the file.
-        if (m_currentRecord.visible == QLatin1String("1"))
+        if (isSet(m_currentRecord.visible))
             m_recordList->append(m_currentRecord);
     }
     return true;

@@ -10,7 +10,6 @@ from waiting import wait_for
 
 class ConnectionScenario(Scenario):
 
-
     def setUp(self):
         super().setUp()
         self.paper = self.folder / "paper.txt"
@@ -32,8 +31,9 @@ class ConnectionScenario(Scenario):
 
     def expect_opened(self, times):
         """The marked links were opened this many times: all in order, only the last of the Internet links, and last."""
-        wait_for(lambda: len(self.calls()) >= times * len(self.expected), f"the links; so far {self.calls()}")
-        self.assertEqual(self.calls(), times * self.expected)
+        wait_for(lambda: len(self.opened.calls()) >= times * len(self.expected),
+                 f"the links; so far {self.opened.calls()}")
+        self.assertEqual(self.opened.calls(), times * self.expected)
 
     def expect_heading(self, text):
         self.window.find("label", text)

@@ -3,6 +3,7 @@
 
 """Documents of config.xml, written out by hand so that they can be compared byte by byte."""
 
+from pathlib import Path
 from xml.etree import ElementTree
 from xml.sax.saxutils import escape
 
@@ -37,6 +38,19 @@ def document(current_id, *links):
 '''.encode()
 
 
-def visible_names(path):
-    """The names of a file's visible links, in file order."""
-    return [item.get("name") for item in ElementTree.parse(path).iterfind("menu/item") if item.get("visible") == "1"]
+def config_path(data):
+    """Where the file lies below a user's data folder."""
+    return Path(data) / "plugins/QuickLinkUIPlugin/config.xml"
+
+
+def save(data, *links):
+    """Writes the file with these links into a data folder, which is made when it is not there."""
+    path = config_path(data)
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_bytes(document(len(links), *links))
+
+
+def visible_links(data):
+    """The attributes of the visible links in a data folder, in file order."""
+    items = ElementTree.parse(config_path(data)).iterfind("menu/item")
+    return [item.attrib for item in items if item.get("visible") == "1"]

@@ -11,14 +11,15 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from links import document
-from screen import Application, press, start_accessibility
+from display import press, save_screen
+from links import config_path, save
+from opened import BIN, Opened
+from screen import Application, start_accessibility
 from session import Program, Session
 from waiting import wait_for
 
 PROGRAM = os.environ["VELLUM_PROGRAM"]
 PICTURES = Path(os.environ.get("VELLUM_PICTURES", "."))
-HERE = Path(__file__).resolve().parent
 TITLE = "Vellum Connect"
 
 
@@ -31,6 +32,8 @@ class Scenario(unittest.TestCase):
     def setUpClass(cls):
         cls.session = Session(cls.screen_size)
         cls.addClassCleanup(cls.session.close)
+        cls.session.start_buses()
+        cls.session.start_window_manager()
         start_accessibility()
 
     def setUp(self):
@@ -38,21 +41,24 @@ class Scenario(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
         self.data = self.folder / "data"
-        self.config = self.data / "plugins/QuickLinkUIPlugin/config.xml"
+        self.config = config_path(self.data)
         self.config.parent.mkdir(parents=True)
-        self._opened = self.folder / "opened"
-        self._opened.mkdir()
+        self.opened = Opened(self.folder / "opened")
         self.program = None
+
+    def use_sample(self):
+        """Takes the links of the sample for the next start."""
+        shutil.copy(os.environ["VELLUM_SAMPLE"], self.config)
 
     def start_with(self, *links, arguments=()):
         """Starts the program with these links."""
-        self.config.write_bytes(document(len(links), *links))
+        save(self.data, *links)
         self.start(*arguments)
 
     def start(self, *arguments, **environment):
         """Starts the program and waits for its window and for its word that the start is complete."""
         self.program = Program([PROGRAM, "--data-dir", str(self.data), *arguments], self.folder / "log",
-                               PATH=f"{HERE / 'bin'}:{os.environ['PATH']}", OPENED=str(self._opened), **environment)
+                               **self.opened.environment, **environment)
         self.addCleanup(self.program.close)
         self.application = Application(self.program)
         self.window = self.application.main_window(TITLE)
@@ -93,31 +99,19 @@ class Scenario(unittest.TestCase):
 
     # -- What was opened --------------------------------------------------------------------------------------------
 
-    def calls(self):
-        """The arguments of every call of xdg-open so far, in order."""
-        # Process numbers tell the order of the calls better than the times at which the processes got so far.
-        records = sorted(self._opened.glob("*.call"), key=process_number)
-        return [record.read_text(encoding="utf-8").split("\0")[:-1] for record in records]
-
     def staying_calls(self, count):
         """Waits for `count` calls of xdg-open that stay: their process numbers."""
-        wait_for(lambda: len(self.calls()) == count, f"{count} calls of xdg-open")
-        pids = [process_number(record) for record in self._opened.glob("*.call")]
+        wait_for(lambda: len(self.opened.calls()) == count, f"{count} calls of xdg-open")
+        pids = self.opened.process_numbers()
         for pid in pids:
             self.addCleanup(end_by_number, pid)
         return pids
-
-    def let_desktop_answer(self, code):
-        (self._opened / "answer").write_text(str(code), encoding="ascii")
-
-    def let_desktop_stay(self):
-        (self._opened / "stay").touch()
 
     def make_application(self, folder, name):
         """An executable file in a new folder; returns its path."""
         path = self.folder / folder / name
         path.parent.mkdir(parents=True)
-        shutil.copy(HERE / "bin/application", path)
+        shutil.copy(BIN / "application", path)
         return path
 
     def started(self, application):
@@ -127,11 +121,6 @@ class Scenario(unittest.TestCase):
         pid, folder, path, *arguments = record.read_text(encoding="utf-8").split("\0")[:-1]
         self.addCleanup(end_by_number, int(pid))
         return int(pid), folder, path, arguments
-
-
-def process_number(record):
-    """Of the call of xdg-open that left a record."""
-    return int(record.stem.rsplit("-", 1)[1])
 
 
 def end_by_number(pid):
@@ -162,7 +151,7 @@ class _ResultWithPictures(unittest.TextTestResult):
             return
         PICTURES.mkdir(parents=True, exist_ok=True)
         path = PICTURES / f"{test.id().replace('__main__', Path(sys.argv[0]).stem)}.png"
-        test.session.save_picture(str(path))
+        save_screen(path)
         self.stream.writeln(f"\nThe screen at the failure: {path}")
         if test.program:
             self.stream.writeln("The program said:\n" + test.program.output())

@@ -3,13 +3,12 @@
 
 """What stands on the screen, found by the names that a screen reader speaks; touched by mouse and keyboard only."""
 
-import subprocess
-
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
+from display import active_window_title, press, xdotool  # noqa: E402
 from waiting import wait_for  # noqa: E402
 
 
@@ -20,69 +19,6 @@ def start_accessibility():
     # Answers kept from before are of no use while the program changes.
     desktop.set_cache_mask(Atspi.Cache.NONE)
     desktop.get_child_count()
-
-
-def _xdotool(*arguments):
-    return subprocess.run(["xdotool", *map(str, arguments)], check=True, capture_output=True, text=True).stdout.strip()
-
-
-def press(*keys):
-    """Presses keys, such as "Return" or "ctrl+comma", in whatever has the focus."""
-    _xdotool("key", *keys)
-
-
-def _click_at(x, y):
-    _xdotool("mousemove", x * Widget.scale, y * Widget.scale, "click", 1)
-
-
-def active_window():
-    return _xdotool("getactivewindow")
-
-
-def windows_of_class(name):
-    """The visible windows of this class, among them those that the screen reader does not see."""
-    return subprocess.run(["xdotool", "search", "--onlyvisible", "--class", name], capture_output=True, text=True,
-                          check=False).stdout.split()
-
-
-def click_in_window(window, x, y, button=1):
-    """Clicks inside such a window, so many pixels from its corner."""
-    _xdotool("mousemove", "--window", window, x, y, "click", button)
-
-
-def active_window_title():
-    answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True,
-                            check=False)
-    return answer.stdout.strip()
-
-
-def park_mouse():
-    """Away from everything that would show that the mouse is over it."""
-    _xdotool("mousemove", 0, 0)
-
-
-def save_active_window(path):
-    """The active window with its frame as a file, once it has come to rest."""
-    window = active_window()
-    pictures = []
-
-    def is_at_rest():
-        shot = subprocess.run(["import", "-silent", "-frame", "-window", window, "png:-"], check=True,
-                              capture_output=True)
-        pictures.append(subprocess.run(["convert", "png:-", "-strip", "png:-"], input=shot.stdout, check=True,
-                                       capture_output=True).stdout)
-        return pictures[-2:-1] == pictures[-1:]
-
-    wait_for(is_at_rest, "the window to come to rest")
-    with open(path, "wb") as file:
-        file.write(pictures[-1])
-
-
-def greenness(window):
-    """How much more green than red a window shows on average, from -1 to 1."""
-    shot = subprocess.run(["import", "-silent", "-window", window, "png:-"], check=True, capture_output=True)
-    return float(subprocess.run(["convert", "png:-", "-format", "%[fx:mean.g-mean.r]", "info:"], input=shot.stdout,
-                                check=True, capture_output=True).stdout)
 
 
 class Widget:
@@ -164,12 +100,12 @@ class Widget:
         """Clicks its middle by mouse, once it is enabled and has come to rest."""
         wait_for(lambda: self.is_showing() and self.is_enabled(), f"{self} to be enabled")
         x, y, width, height = wait_for(self._place_at_rest, f"{self} to come to rest")
-        _click_at(x + width // 2, y + height // 2)
+        self._click_at(x + width // 2, y + height // 2)
 
     def press_close_button(self):
         """Clicks the button in the corner of a window's frame, which is where openbox's own theme has it."""
         x, y, width, _ = wait_for(self._place_at_rest, f"{self} to come to rest")
-        _click_at(x + width - 12, y - 10)
+        self._click_at(x + width - 12, y - 10)
 
     def type(self, text):
         """Clicks a field, replaces what is in it by typing, and waits until the text stands there."""
@@ -177,7 +113,7 @@ class Widget:
         wait_for(lambda: self.has_state("focused"), f"the focus in {self}")
         press("ctrl+a", "Delete")
         if text:
-            _xdotool("type", "--delay", 1, "--", text)
+            xdotool("type", "--delay", 1, "--", text)
         wait_for(lambda: self.text == text, f"\"{text}\" in {self}, which shows \"{self.text}\"")
 
     def type_against_completion(self, text):
@@ -197,6 +133,10 @@ class Widget:
         wait_for(lambda: items.extents[2] > 0, f"the list of {self}")
         items.find("list item", item).click()
         wait_for(lambda: self.name == item and items.extents[2] == 0, f"\"{item}\" in {self}")
+
+    @staticmethod
+    def _click_at(x, y):
+        xdotool("mousemove", x * Widget.scale, y * Widget.scale, "click", 1)
 
     def _place_at_rest(self):
         before = self.extents

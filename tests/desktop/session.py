@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-"""A desktop of its own: message bus, display, window manager, home; and the programs that run on it."""
+"""A desktop of its own: home, display and, when wanted, window manager and message buses; and the programs on it."""
 
 import ctypes
 import os
@@ -32,40 +32,51 @@ def end(process):
 
 
 class Session:
-    """Becomes the environment of this process, and so of what it starts. `close` ends everything."""
+    """Is the environment of this process, and so of what it starts, until `close`, which ends everything."""
 
     def __init__(self, screen):
         self._started = []
+        self._before = dict(os.environ)
         self._home = tempfile.TemporaryDirectory(prefix="desktop-", ignore_cleanup_errors=True)
         try:
             self._set_environment(self._home.name)
             os.environ["DISPLAY"] = ":" + self._start_telling(
                 lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{screen}x24", "-nolisten", "tcp",
                             "-noreset"])
-            # Knows the display, so that the accessibility bus is where Qt 5 looks for it.
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
-            # The computer's own network must not be seen.
-            os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = self._start_bus()
-            self._start(["openbox", "--sm-disable"])
-            wait_for(self._has_window_manager, "openbox on the display")
         except BaseException:
             self.close()
             raise
 
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def start_window_manager(self):
+        self._start(["openbox", "--sm-disable"])
+        # A window manager tells the current desktop.
+        wait_for(lambda: subprocess.run(["xdotool", "get_desktop"], capture_output=True, check=False).returncode == 0,
+                 "openbox on the display")
+
+    def start_buses(self):
+        """A session bus, with accessibility, and a system bus: the computer's own network must not be seen."""
+        # Knows the display, so that the accessibility bus is where Qt 5 looks for it.
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+        os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = self._start_bus()
+        os.environ.update(QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+
     @staticmethod
     def _set_environment(home):
         """Nothing of the real user's desktop may reach in, and nothing of the tests out."""
-        kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
-                if name in os.environ}
+        kept = {name: value for name, value in os.environ.items()
+                if name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS") or name.startswith("VELLUM_")}
         runtime = os.path.join(home, "runtime")
         os.mkdir(runtime, 0o700)
-        for name in list(os.environ):
-            if not name.startswith("VELLUM_"):
-                del os.environ[name]
+        os.environ.clear()
         os.environ.update(kept, HOME=home, XDG_RUNTIME_DIR=runtime, XDG_DATA_HOME=f"{home}/data",
                           XDG_CONFIG_HOME=f"{home}/config", XDG_CACHE_HOME=f"{home}/cache", LC_ALL="C.UTF-8",
-                          GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
-                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+                          GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb")
 
     def _start(self, command, **options):
         self._started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
@@ -85,22 +96,13 @@ class Session:
         assert line, f"{command(write_end)[0]} did not start"
         return line
 
-    @staticmethod
-    def _has_window_manager():
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True,
-                                check=False)
-        return "window id" in answer.stdout
-
-    @staticmethod
-    def save_picture(path):
-        """The whole screen as a file."""
-        subprocess.run(["import", "-silent", "-window", "root", path], check=True)
-
     def close(self):
         for process in reversed(self._started):
             end(process)
         self._started = []
         self._home.cleanup()
+        os.environ.clear()
+        os.environ.update(self._before)
 
 
 class Program:
@@ -111,6 +113,12 @@ class Program:
         with open(log, "wb") as output:
             self._process = subprocess.Popen(command, env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
                                              stdout=output, stderr=output, preexec_fn=die_with_parent)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
 
     @property
     def pid(self):

@@ -3,20 +3,40 @@
 
 """The settings and the New/Edit dialog, as a user works with them."""
 
-from screen import press
+from display import press
 from waiting import wait_for
 
 TYPES = ("Application", "E-mail", "Internet")
 
 
-class SettingsDialog:
+class _Dialog:
+    """An open dialog."""
+
+    def __init__(self, application, title):
+        self._application = application
+        self.window = application.window(title)
+
+    def button(self, name):
+        return self.window.find("push button", name)
+
+    def press(self, name):
+        self.button(name).click()
+
+    def close(self, button="OK"):
+        self.press(button)
+        self.wait_until_gone()
+
+    def wait_until_gone(self):
+        self._application.wait_until_gone(self.window)
+
+
+class SettingsDialog(_Dialog):
     """Open settings with the quick-link page."""
 
     title = "Settings"
 
     def __init__(self, application):
-        self._application = application
-        self.window = application.window(self.title)
+        super().__init__(application, self.title)
         self.table = self.window.find("table")
 
     def rows(self):
@@ -38,14 +58,8 @@ class SettingsDialog:
         names = [cell.name for cell in self.table.all("table cell") if cell.has_state("selected")]
         return names[0] if names else None
 
-    def button(self, name):
-        return self.window.find("push button", name)
-
     def enabled_buttons(self):
         return [name for name in ("New…", "Edit…", "Delete", "Up", "Down") if self.button(name).is_enabled()]
-
-    def press(self, name):
-        self.button(name).click()
 
     def new(self):
         self.press("New…")
@@ -64,23 +78,12 @@ class SettingsDialog:
         question.find("push button", answer).click()
         self._application.wait_until_gone(question)
 
-    def close(self, button="OK"):
-        self.press(button)
-        self.wait_until_gone()
 
-    def wait_until_gone(self):
-        self._application.wait_until_gone(self.window)
-
-
-class LinkDialog:
+class LinkDialog(_Dialog):
     """An open New or Edit dialog."""
 
     new_title = "New Quick Link"
     edit_title = "Edit Quick Link"
-
-    def __init__(self, application, title):
-        self._application = application
-        self.window = application.window(title)
 
     def field(self, label):
         return self.window.find("text", label)
@@ -96,18 +99,11 @@ class LinkDialog:
 
     def browse(self, path):
         """Picks a file in the file dialog by typing its path."""
-        self.window.find("push button", "Browse…").click()
+        self.press("Browse…")
         chooser = self._application.window("Open")
         chooser.find("text", "File name:").type_against_completion(str(path))
         press("Return")
         self._application.wait_until_gone(chooser)
-
-    def press(self, name):
-        self.window.find("push button", name).click()
-
-    def ok(self):
-        self.press("OK")
-        self.wait_until_gone()
 
     def refused(self):
         """Presses OK, which a message must answer; closes it by Enter and returns its text."""
@@ -117,6 +113,3 @@ class LinkDialog:
         press("Return")
         self._application.wait_until_gone(message)
         return text
-
-    def wait_until_gone(self):
-        self._application.wait_until_gone(self.window)

@@ -3,9 +3,9 @@
 
 """What the scenarios around the settings share."""
 
+from display import press
 from links import document
 from scenario import TITLE, Scenario
-from screen import press
 from settings_dialog import SettingsDialog
 from waiting import wait_for
 

@@ -4,12 +4,11 @@
 """Takes one picture of the main windows for every language; scripts/pictures.sh calls it."""
 
 import os
-import shutil
 import subprocess
 from pathlib import Path
 
+from display import press, save_active_window
 from scenario import TITLE, main
-from screen import park_mouse, press, save_active_window
 from settings_dialog import LinkDialog
 from settings_scenario import SettingsScenario
 from texts import Texts, languages
@@ -24,7 +23,7 @@ class LanguagePictures(SettingsScenario):
 
     def setUp(self):
         super().setUp()
-        shutil.copy(os.environ["VELLUM_SAMPLE"], self.config)
+        self.use_sample()
 
     def test_languages(self):
         FOLDER.mkdir(exist_ok=True)
@@ -52,7 +51,6 @@ class LanguagePictures(SettingsScenario):
         self.take("dialog-internet")
 
     def take(self, name):
-        park_mouse()
         save_active_window(self.folder / f"{name}.png")
 
     def join(self, path):

@@ -4,12 +4,12 @@
 """Takes the pictures of the documentation; scripts/pictures.sh calls it."""
 
 import os
-import shutil
 from pathlib import Path
 
+from display import save_active_window
 from network import ModemManager, NetworkManager
 from scenario import main
-from screen import Widget, park_mouse, save_active_window
+from screen import Widget
 from settings_dialog import TYPES
 from settings_scenario import SettingsScenario
 
@@ -22,7 +22,7 @@ class Pictures(SettingsScenario):
 
     def setUp(self):
         super().setUp()
-        shutil.copy(os.environ["VELLUM_SAMPLE"], self.config)
+        self.use_sample()
         self.play(ModemManager("Northern Mobile"))
         self.network = self.play(NetworkManager())
 
@@ -66,7 +66,6 @@ class Pictures(SettingsScenario):
 
     @staticmethod
     def take(name):
-        park_mouse()
         save_active_window(FOLDER / f"{name}.png")
 
 

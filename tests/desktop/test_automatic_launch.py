@@ -9,7 +9,7 @@ from scenario import main
 from waiting import wait_for
 
 # Why the user is asked, with a NetworkManager library and without.
-SHORTCOMINGS = ("NetworkManager is not running", "Built without NetworkManager")
+MISSING_SERVICE = ("NetworkManager is not running", "Built without NetworkManager")
 
 
 class AutomaticLaunch(ConnectionScenario):
@@ -22,13 +22,13 @@ class AutomaticLaunch(ConnectionScenario):
         self.expect_heading("Connected")
         self.window.find("push button", "Disconnect").click()
         self.expect_heading("Not connected")
-        for text in SHORTCOMINGS:
+        for text in MISSING_SERVICE:
             self.assertEqual(self.window.all("label", text), [])
 
     def test_manual_by_itself(self):
         """There is no NetworkManager on the bus."""
         self.start_marked()
-        wait_for(lambda: any(self.window.all("label", text) for text in SHORTCOMINGS), "a line in the status bar")
+        wait_for(lambda: any(self.window.all("label", text) for text in MISSING_SERVICE), "a line in the status bar")
         self.window.find("push button", "Connect").click()
         self.expect_opened(1)
 

@@ -3,9 +3,9 @@
 
 """Ways out of the settings and the New dialog, and in again."""
 
+from display import press
 from links import EMAIL, INTERNET, link
 from scenario import TITLE, main
-from screen import press
 from settings_dialog import TYPES, SettingsDialog
 from settings_scenario import SettingsScenario
 
@@ -23,7 +23,7 @@ class CancelAndClose(SettingsScenario):
         dialog = settings.new()
         dialog.choose_type(TYPES[1])
         dialog.field("Name:").type("Mail")
-        dialog.ok()
+        dialog.close()
         settings.wait_for_links("Portal", "Mail")
 
     def test_cancel_keeps_changes(self):

@@ -48,7 +48,7 @@ class Connection(ConnectionScenario):
         self.start_marked()
         connection = network.start_to_activate("Mobile plan")
         self.expect_heading("Connecting…")
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
         network.set_state(connection, ACTIVATED)
         self.expect_opened(1)
         network.set_state(connection, ACTIVATED)
@@ -88,7 +88,7 @@ class Connection(ConnectionScenario):
         network.set_reach(NetworkManager.FULL)
         wait_for(lambda: not self.window.all("label", "The Internet is out of reach."), "the end of the hint")
         self.assertNotIn("notification 1536", self.program.output())
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
 
     def test_other_kinds_do_not_count(self):
         network = self.play(NetworkManager())
@@ -113,7 +113,7 @@ class Connection(ConnectionScenario):
         self.start_marked("--connection", "manual")
         self.expect_heading("Not connected")
         self.window.find("push button", "Connect")
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
 
     def test_two_default_routes_open_once(self):
         network = self.play(NetworkManager())
@@ -132,7 +132,7 @@ class Connection(ConnectionScenario):
         self.start_marked()
         network.activate("Mobile plan")
         self.window.find("label", "The Internet is out of reach.")
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
         network.set_reach(NetworkManager.FULL)
         self.expect_opened(1)
         wait_for(lambda: not self.window.all("label", "The Internet is out of reach."), "the end of the hint")

@@ -9,7 +9,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from links import APPLICATION, EMAIL, INTERNET, document, link
+from links import APPLICATION, EMAIL, INTERNET, link, save
 
 PROGRAM = os.environ["VELLUM_PROGRAM"]
 
@@ -21,12 +21,9 @@ class CommandLine(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.home = Path(folder.name)
         (self.home / "runtime").mkdir(0o700)
-        config = self.home / "data/plugins/QuickLinkUIPlugin/config.xml"
-        config.parent.mkdir(parents=True)
-        config.write_bytes(document(4, link(0, "Portal & more", INTERNET, "https://portal.example.org/"),
-                                    link(1, "Hidden", INTERNET, "http://hidden.example.org/", visible=0),
-                                    link(2, "Write", EMAIL, "mailto:"),
-                                    link(3, "Notes", APPLICATION, "/opt/My programs/note pad")))
+        save(self.home / "data", link(0, "Portal & more", INTERNET, "https://portal.example.org/"),
+             link(1, "Hidden", INTERNET, "http://hidden.example.org/", visible=0), link(2, "Write", EMAIL, "mailto:"),
+             link(3, "Notes", APPLICATION, "/opt/My programs/note pad"))
 
     def run_program(self, *arguments):
         """With nothing that leads to a display."""

@@ -3,13 +3,11 @@
 
 """Quick links open from the menu and from the window's buttons."""
 
-import os
-import shutil
 from pathlib import Path
 
-from links import APPLICATION, EMAIL, INTERNET, link, visible_names
+from display import press
+from links import APPLICATION, EMAIL, INTERNET, link, visible_links
 from scenario import TITLE, Scenario, main
-from screen import press
 from waiting import wait_for
 
 
@@ -19,12 +17,12 @@ class Menu(Scenario):
         self.open_menu("Quick Links").find("menu item", name).click()
 
     def expect_calls(self, *calls):
-        wait_for(lambda: len(self.calls()) >= len(calls), f"a call of xdg-open; so far {self.calls()}")
-        self.assertEqual(self.calls(), list(calls))
+        wait_for(lambda: len(self.opened.calls()) >= len(calls), f"a call of xdg-open; so far {self.opened.calls()}")
+        self.assertEqual(self.opened.calls(), list(calls))
 
     def test_sample_links_in_file_order(self):
-        shutil.copy(os.environ["VELLUM_SAMPLE"], self.config)
-        expected = visible_names(self.config)
+        self.use_sample()
+        expected = [attributes["name"] for attributes in visible_links(self.data)]
         self.assertEqual(len(expected), 8)
         self.start()
         self.assertEqual(self.links_in_menu(), expected)
@@ -67,7 +65,7 @@ class Menu(Scenario):
         self.assertEqual(folder, str(application.parent))
         self.assertEqual(path, str(application))
         self.assertEqual(arguments, [])
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
 
     def test_button_opens_with_one_click(self):
         self.start_with(link(0, "Portal", INTERNET, "http://portal.example.org/"))
@@ -83,15 +81,15 @@ class Menu(Scenario):
         press("Return")
         self.application.wait_until_gone(message)
         self.application.main_window(TITLE)
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
 
     def test_failure_of_the_desktop_is_told_without_blocking(self):
         address = "https://nowhere.example.org/page"
         self.start_with(link(0, "Nowhere", INTERNET, address), link(1, "Write", EMAIL, "mailto:"))
-        self.let_desktop_answer(3)
+        self.opened.let_answer(3)
         self.pick("Nowhere")
         message = self.message_about(address)
-        self.let_desktop_answer(0)
+        self.opened.let_answer(0)
         self.pick("Write")
         self.expect_calls([address], ["mailto:"])
         self.assertTrue(message.is_showing())
@@ -103,7 +101,7 @@ class Menu(Scenario):
         self.start_with(link(0, "Gone", APPLICATION, path))
         self.pick("Gone")
         self.message_about(path)
-        self.assertEqual(self.calls(), [])
+        self.assertEqual(self.opened.calls(), [])
 
     def test_ampersand_shows(self):
         self.start_with(link(0, "News & Weather", INTERNET, "http://news.example.org/"),
@@ -138,7 +136,7 @@ class Menu(Scenario):
         application = self.make_application("My programs", "note pad")
         self.start_with(link(0, "Notes", APPLICATION, str(application)),
                         link(1, "Portal", INTERNET, "http://portal.example.org/"))
-        self.let_desktop_stay()
+        self.opened.let_stay()
         self.pick("Notes")
         self.pick("Portal")
         opened = [self.started(application)[0], *self.staying_calls(1)]

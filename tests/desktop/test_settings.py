@@ -28,7 +28,7 @@ class Settings(SettingsScenario):
         self.assertEqual(dialog.field("Program file:").text, str(application))
         dialog.field("Parameters:").type("--new window")
         dialog.tick("Open when the program starts")
-        dialog.ok()
+        dialog.close()
         notes = link(2, "Notes", APPLICATION, str(application), para="--new window", startmobile=1)
         self.expect_file(3, link(0, *PORTAL), link(1, *MAIL), notes)
         self.assertEqual(settings.rows()[-1], ("Notes", TYPES[0]))
@@ -38,7 +38,7 @@ class Settings(SettingsScenario):
         dialog.field("Name:").type("Write")
         dialog.choose_type(TYPES[1])
         dialog.tick("Open when connected")
-        dialog.ok()
+        dialog.close()
         write = link(3, "Write", EMAIL, "mailto:", startconnect=1)
         self.expect_file(4, link(0, *PORTAL), link(1, *MAIL), notes, write)
 
@@ -47,7 +47,7 @@ class Settings(SettingsScenario):
         dialog.choose_type(TYPES[2])
         dialog.field("Name:").type('News & "more" <daily>')
         dialog.field("Address:").type("http://news.example.org/?a=1&b=2")
-        dialog.ok()
+        dialog.close()
         news = link(4, 'News & "more" <daily>', INTERNET, "http://news.example.org/?a=1&b=2")
         self.expect_file(5, link(0, *PORTAL), link(1, *MAIL), notes, write, news)
         self.expect_menu("Portal", "Mail", "Notes", "Write", 'News & "more" <daily>')
@@ -58,16 +58,14 @@ class Settings(SettingsScenario):
         dialog.field("Name:").type("Portal")
         self.assertIn("Another quick link has this name", dialog.refused())
         self.assertEqual(dialog.field("Name:").text, "Portal")
-        dialog.press("Cancel")
-        dialog.wait_until_gone()
+        dialog.close("Cancel")
 
         # Missing file.
         dialog = settings.new()
         dialog.field("Name:").type("Ghost")
         dialog.field("Program file:").type(str(self.folder / "no such file"))
         self.assertIn("This program file does not exist", dialog.refused())
-        dialog.press("Cancel")
-        dialog.wait_until_gone()
+        dialog.close("Cancel")
         self.expect_file(5, link(0, *PORTAL), link(1, *MAIL), notes, write, news)
 
         # Edit.
@@ -75,7 +73,7 @@ class Settings(SettingsScenario):
         self.assertEqual(dialog.field("Address:").text, PORTAL[2])
         dialog.field("Name:").type("Company portal")
         dialog.field("Address:").type("https://portal.example.org/home")
-        dialog.ok()
+        dialog.close()
         # An edited link is written with the id of the link added last.
         company = link(4, "Company portal", INTERNET, "https://portal.example.org/home")
         self.expect_file(5, company, link(1, *MAIL), notes, write, news)
@@ -112,7 +110,7 @@ class Settings(SettingsScenario):
         dialog = settings.new()
         dialog.choose_type(TYPES[1])
         dialog.field("Name:").type("Mail")
-        dialog.ok()
+        dialog.close()
         self.expect_file(1, link(0, *MAIL))
         self.expect_menu("Mail")
 

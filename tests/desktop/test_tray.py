@@ -3,9 +3,9 @@
 
 """In the tray the program goes on without its window."""
 
+from display import active_window, click_in_window, greenness, press, windows_of_class
 from links import EMAIL, INTERNET, link
 from scenario import TITLE, Scenario, main
-from screen import active_window, click_in_window, greenness, press, windows_of_class
 from session import Program
 from waiting import wait_for
 
@@ -61,8 +61,8 @@ class Tray(Scenario):
         press("Down", "Right")
         self.new_window([icon, menu])
         press("Down", "Return")
-        wait_for(self.calls, "a call of xdg-open")
-        self.assertEqual(self.calls(), [["mailto:"]])
+        wait_for(self.opened.calls, "a call of xdg-open")
+        self.assertEqual(self.opened.calls(), [["mailto:"]])
         wait_for(lambda: windows_of_class("vellumconnect") == [icon], "the end of the menus")
         click_in_window(icon, *self.far_away, button=3)
         self.new_window([icon])

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void memberIsForgotten_data();
     void memberIsForgotten();
     void frameAloneIsDeleted();
+    void partIsForgotten_data();
+    void partIsForgotten();
     void stateStays();
     void operationDoesNothing_data();
     void operationDoesNothing();
@@ -60,6 +62,29 @@ void DialogHostDeletesTest::frameAloneIsDeleted()
     for (const PointerMember& member : members)
         QVERIFY2(member.isNull(), member.name);
     QVERIFY(dialog.host());
+}
+
+void DialogHostDeletesTest::partIsForgotten_data()
+{
+    QTest::addColumn<QString>("member");
+    const OpenDialog dialog;
+    const QList<PointerMember> members = membersOf(dialog.get());
+    for (const PointerMember& member : members) {
+        if (member.object->isWidgetType())
+            QTest::newRow(member.name) << QString::fromLatin1(member.name);
+    }
+}
+
+void DialogHostDeletesTest::partIsForgotten()
+{
+    QFETCH(QString, member);
+    OpenDialog dialog;
+    delete memberOf(dialog.get(), member).object;
+    QVERIFY(memberOf(dialog.get(), member).isNull());
+    dialog->SetLanguage();
+    dialog->OnSelectComboItem(0);
+    dialog->onEnterNameInApplication();
+    dialog->onDeleteNameInApplication();
 }
 
 void DialogHostDeletesTest::stateStays()

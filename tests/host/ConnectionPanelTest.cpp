@@ -39,6 +39,8 @@ private Q_SLOTS:
     void buttonTellsTheMonitor();
     void summaryIsOneLine_data();
     void summaryIsOneLine();
+    void saysThatAServiceIsMissing_data();
+    void saysThatAServiceIsMissing();
     void followsTheLanguage();
 
 private:
@@ -268,13 +270,40 @@ void ConnectionPanelTest::summaryIsOneLine()
 {
     QFETCH(bool, isUp);
     QFETCH(QString, name);
+    QFETCH(QString, summary);
     ConnectionState state;
     state.isUp = isUp;
     state.id = isUp ? "a" : QString();
     state.name = name;
     m_source->become(state);
     show(false);
-    QTEST(m_panel->summary(), "summary");
+    QCOMPARE(ConnectionTexts(*m_monitor, ConnectionKind::Any).summary(), summary);
+}
+
+void ConnectionPanelTest::saysThatAServiceIsMissing_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("isBuiltIn");
+    QTest::addColumn<bool>("isAvailable");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("there") << int(ConnectionKind::Any) << true << true << QString();
+    QTest::newRow("gone") << int(ConnectionKind::Any) << true << false
+                          << QStringLiteral("NetworkManager is not running");
+    QTest::newRow("not built in") << int(ConnectionKind::Mobile) << false << false
+                                  << QStringLiteral("Built without NetworkManager");
+    QTest::newRow("not asked for") << int(ConnectionKind::Manual) << false << false << QString();
+}
+
+void ConnectionPanelTest::saysThatAServiceIsMissing()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, isBuiltIn);
+    QFETCH(bool, isAvailable);
+    QFETCH(QString, text);
+    show(!isBuiltIn, ConnectionKind(kind));
+    if (isBuiltIn)
+        m_source->setAvailable(isAvailable);
+    QCOMPARE(ConnectionTexts(*m_monitor, ConnectionKind(kind)).missingService(), text);
 }
 
 void ConnectionPanelTest::followsTheLanguage()

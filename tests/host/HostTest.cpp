@@ -7,6 +7,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include "ConnectionPanel.h"
 #include "Host.h"
@@ -34,6 +38,7 @@ private Q_SLOTS:
     void tellsWhatTheUserSaysOfTheConnection();
     void tellsTheLanguage();
     void servesPluginsThatNotifyTheMenu();
+    void namesWhatWasNotLoaded();
     void takesTheWindowDownBeforeThePlugins();
     void takesPluginsDownOnceWithoutAWindow();
 
@@ -60,7 +65,7 @@ void HostTest::init()
     m_translator = std::make_unique<Translator>();
     m_host = std::make_unique<Host>(*m_translator);
     m_host->loadPlugins(m_plugins.path());
-    QCOMPARE(m_host->plugins().size(), 2);
+    QCOMPARE(m_host->container().plugins().size(), 2);
     PlayedPlugin::takeEvents();
 }
 
@@ -119,8 +124,8 @@ void HostTest::preparesThePluginsFolders()
 
 void HostTest::showsLinksInTheMenu()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{"a", "b"});
-    m_host->plugins().at(1)->setProperty("links", QStringList{"c"});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{"a", "b"});
+    m_host->container().plugins().at(1)->setProperty("links", QStringList{"c"});
     showWindow();
     QCOMPARE(menuTexts(), QStringList({"a", "b", "c"}));
     PlayedPlugin::takeEvents();
@@ -203,7 +208,7 @@ void HostTest::servesPluginsThatNotifyTheMenu()
 {
     showWindow();
     QCOMPARE(menuTexts(), QStringList("No quick links"));
-    m_host->plugins().at(0)->setProperty("links", QStringList{"new"});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{"new"});
     INotifyService* const service = qobject_cast<INotifyService*>(
         Startup::GetPluginContainer()->GetPlugin("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412", 0x2011));
     QVERIFY(service);
@@ -211,9 +216,21 @@ void HostTest::servesPluginsThatNotifyTheMenu()
     QCOMPARE(menuTexts(), QStringList("new"));
 }
 
+void HostTest::namesWhatWasNotLoaded()
+{
+    const SampleFolder broken;
+    for (const char* name : {"BrokenOne", "BrokenTwo"})
+        QVERIFY(broken.write(QString::fromLatin1(name), "no library"));
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Plug-in refused: ")));
+    m_host->loadPlugins(broken.path());
+    showWindow();
+    QCOMPARE(window()->statusBar()->currentMessage(), QStringLiteral("Not loaded: libBrokenOne.so, libBrokenTwo.so"));
+}
+
 void HostTest::takesTheWindowDownBeforeThePlugins()
 {
-    m_host->plugins().at(0)->setProperty("links", QStringList{"a"});
+    m_host->container().plugins().at(0)->setProperty("links", QStringList{"a"});
     showWindow();
     PlayedPlugin::takeEvents();
     m_host.reset();

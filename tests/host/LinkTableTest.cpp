@@ -33,12 +33,18 @@ public:
     void LaunchQuickLinkAction(QAction*) override {}
 };
 
+/** The table of plugins, by their object names. */
+template <class... Plugin>
+static QString tableOf(Plugin*... plugin)
+{
+    return linkTable({PluginWith<IQuickLinkPlugin>{plugin, plugin, plugin->objectName()}...});
+}
+
 void LinkTableTest::showsRowsInColumns()
 {
     PlayedPlugin first("Links");
     first.setProperty("links", QString(10, 'A').split(QString(), Qt::SkipEmptyParts)
                                    << "A long name");
-    QObject without;
     PlayedPlugin second("More");
     second.setProperty("links", QStringList{"B & C"});
     QString expected = " #  Name         Plug-in\n";
@@ -46,7 +52,7 @@ void LinkTableTest::showsRowsInColumns()
         expected += QString("%1  A            Links\n").arg(i, 2);
     expected += "11  A long name  Links\n"
                                "12  B & C        More\n";
-    QCOMPARE(linkTable({&first, &without, &second}), expected);
+    QCOMPARE(tableOf(&first, &second), expected);
 }
 
 void LinkTableTest::saysThatThereAreNone_data()
@@ -63,36 +69,32 @@ void LinkTableTest::saysThatThereAreNone()
     PlayedPlugin plugin("Links");
     plugin.setProperty("links", QStringList{"A"});
     plugin.setProperty("linkCount", count);
-    QObject without;
-    QList<QObject*> plugins{&without};
-    if (count > -2)
-        plugins.append(&plugin);
-    QCOMPARE(linkTable(plugins), "No quick links\n");
+    QCOMPARE(count > -2 ? tableOf(&plugin) : tableOf(), "No quick links\n");
 }
 
 void LinkTableTest::keepsARowOnItsLine()
 {
     PlayedPlugin plugin("Links");
     plugin.setProperty("links", QStringList{"a\tb", "c\nd"});
-    QCOMPARE(linkTable({&plugin}), "#  Name  Plug-in\n"
-                                                  "1  a b   Links\n"
-                                                  "2  c d   Links\n");
+    QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
+                                              "1  a b   Links\n"
+                                              "2  c d   Links\n");
 }
 
 void LinkTableTest::passesOverMissingActions()
 {
     PlayedPlugin plugin("Links");
     plugin.setProperty("links", QStringList{QString(), "b", QString(), "d"});
-    QCOMPARE(linkTable({&plugin}), "#  Name  Plug-in\n"
-                                                  "1  b     Links\n"
-                                                  "2  d     Links\n");
+    QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
+                                              "1  b     Links\n"
+                                              "2  d     Links\n");
 }
 
 void LinkTableTest::nameMayBeOfAPluginThatTellsNone()
 {
     NamelessPlugin plugin;
-    QCOMPARE(linkTable({&plugin}), "#  Name  Plug-in\n"
-                                                  "1  Lost  \n");
+    QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
+                                              "1  Lost  \n");
 }
 
 REGISTER_TEST(LinkTableTest)

@@ -57,7 +57,7 @@ void PageAreaTest::wantsToShowTheWholePage()
     QFETCH(QSize, hint);
     PageArea area;
     if (wanted.isValid())
-        area.setPage(new SizedPage(area.ground(), wanted, least));
+        area.setPage(new SizedPage(area.pageParent(), wanted, least));
     QCOMPARE(area.sizeHint(), hint);
     area.setPage(nullptr);
     QCOMPARE(area.sizeHint(), QSize(400, 360));
@@ -66,7 +66,7 @@ void PageAreaTest::wantsToShowTheWholePage()
 void PageAreaTest::hasRoomForAPageThatMustNotBeSmaller()
 {
     PageArea area;
-    QWidget* const page = new SizedPage(area.ground(), QSize(100, 100), QSize(50, 50));
+    QWidget* const page = new SizedPage(area.pageParent(), QSize(100, 100), QSize(50, 50));
     page->setMinimumSize(450, 500);
     area.setPage(page);
     QCOMPARE(area.sizeHint(), QSize(450, 500));
@@ -90,7 +90,7 @@ void PageAreaTest::keepsThePageAsLargeAsItself()
     area.resize(600, 500);
     area.show();
     QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const page = new SizedPage(area.ground(), QSize(500, 400), QSize(10, 10));
+    QWidget* const page = new SizedPage(area.pageParent(), QSize(500, 400), QSize(10, 10));
     area.setPage(page);
     QCOMPARE(page->geometry(), QRect(0, 0, 600, 500));
     area.resize(size);
@@ -106,8 +106,8 @@ void PageAreaTest::doesNotKeepAFormerPage()
     area.resize(600, 500);
     area.show();
     QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const former = new SizedPage(area.ground(), QSize(100, 100), QSize(10, 10));
-    QWidget* const page = new SizedPage(area.ground(), QSize(100, 100), QSize(10, 10));
+    QWidget* const former = new SizedPage(area.pageParent(), QSize(100, 100), QSize(10, 10));
+    QWidget* const page = new SizedPage(area.pageParent(), QSize(100, 100), QSize(10, 10));
     area.setPage(former);
     area.setPage(page);
     area.resize(700, 550);
@@ -120,11 +120,11 @@ void PageAreaTest::doesWithoutAPageThatIsGone()
     PageArea area;
     area.show();
     QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const page = new SizedPage(area.ground(), QSize(500, 400), QSize(10, 10));
+    QWidget* const page = new SizedPage(area.pageParent(), QSize(500, 400), QSize(10, 10));
     area.setPage(page);
     delete page;
     area.resize(700, 650);
-    QTRY_COMPARE(area.ground()->size(), QSize(700, 650));
+    QTRY_COMPARE(area.pageParent()->size(), QSize(700, 650));
 }
 
 REGISTER_TEST(PageAreaTest)

@@ -4,6 +4,7 @@
 // Finding and notifying what is there, and taking it down.
 
 
+#include "IBasePlugin.h"
 #include "INotify.h"
 #include "SampleFolder.h"
 #include "Startup.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void findsPlugins_data();
     void findsPlugins();
     void findsComponentsByKind();
+    void listsPluginsWithAnInterface();
     void forgetsDeletedComponents();
     void notifiesPlugins();
     void notifiesComponents();
@@ -104,8 +106,9 @@ void PluginContainerTest::findsPlugins_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("position");
     QTest::newRow("first") << QString::fromLatin1(firstId) << 0 << 0;
-    QTest::newRow("second") << QString::fromLatin1(secondId) << 0 << 1;
-    QTest::newRow("any kind") << QString::fromLatin1(secondId) << 16401 << 1;
+    QTest::newRow("second") << QString::fromLatin1(secondId) << 16401 << 1;
+    QTest::newRow("first, of another kind") << QString::fromLatin1(firstId) << 16401 << -1;
+    QTest::newRow("second, of another kind") << QString::fromLatin1(secondId) << 0 << -1;
     QTest::newRow("unknown") << "00000000-0000-0000-0000-00000000000F" << 0 << -1;
     QTest::newRow("empty") << QString() << 0 << -1;
     QTest::newRow("lower case") << QString::fromLatin1(firstId).toLower() << 0 << -1;
@@ -134,6 +137,28 @@ void PluginContainerTest::findsComponentsByKind()
     QVERIFY(!container.GetPlugin(id, 3));
     QVERIFY(!container.GetPlugin("other", 1));
     QCOMPARE(container.plugins().size(), 0);
+}
+
+void PluginContainerTest::listsPluginsWithAnInterface()
+{
+    QVERIFY(m_folder->add(QStringLiteral("SampleQuiet")));
+    RecordingContainer host;
+    Listener component(0);
+    host.container.registerComponent(QStringLiteral("a"), 1, QStringLiteral("a"), &component);
+    host.container.loadFolder(m_folder->path());
+    QStringList names;
+    for (const PluginWith<IBasePlugin>& plugin : host.container.all<IBasePlugin>())
+        names << plugin.name;
+    QCOMPARE(names, QStringList() << QStringLiteral("SampleFirst") << QStringLiteral("SampleQuiet")
+                                  << QStringLiteral("SampleSecond"));
+    const QList<PluginWith<INotify>> listeners = host.container.all<INotify>();
+    QCOMPARE(listeners.size(), 2);
+    QCOMPARE(listeners.at(1).name, QStringLiteral("SampleSecond"));
+    QCOMPARE(listeners.at(1).object.data(), host.container.plugins().at(2));
+    QCOMPARE(listeners.at(1).interface->Notify(1, 2, 3), 7);
+    host.container.shutdown();
+    QVERIFY(listeners.at(1).object.isNull());
+    QCOMPARE(host.container.all<INotify>().size(), 0);
 }
 
 void PluginContainerTest::forgetsDeletedComponents()

@@ -3,6 +3,7 @@
 
 // What plug-ins are told, in which order, and the line that says so.
 
+#include <QLoggingCategory>
 
 #include "PlayedContainer.h"
 #include "PluginNotifications.h"
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void writesOneLine_data();
     void writesOneLine();
     void writesALineWithoutPlugins();
+    void keepsTheConnectionsLogToTheConnection();
 };
 
 static void tell(const QString& what, const PluginContainer& container)
@@ -95,6 +97,22 @@ void PluginNotificationsTest::writesALineWithoutPlugins()
     PluginNotifications::tellStarted(none);
     QCOMPARE(trace.infoLines,
              QStringList("notification 258 sent (the program has started); answers: none"));
+}
+
+void PluginNotificationsTest::keepsTheConnectionsLogToTheConnection()
+{
+    const PluginContainer none;
+    const RecordingTrace trace;
+    for (const char* const log : {"connection", "plugins"}) {
+        QLoggingCategory::setFilterRules(QString("vellum.*=false\nvellum.%1=true").arg(QLatin1String(log)));
+        for (const char* const what : {"started", "language", "up"})
+            tell(QLatin1String(what), none);
+    }
+    QLoggingCategory::setFilterRules(QString());
+    QStringList codes;
+    for (const QString& line : trace.infoLines)
+        codes.append(line.section(' ', 1, 1));
+    QCOMPARE(codes, QStringList({"1536", "258", "1024"}));
 }
 
 REGISTER_TEST(PluginNotificationsTest)

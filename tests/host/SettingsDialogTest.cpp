@@ -23,6 +23,7 @@ private Q_SLOTS:
     void cleanup();
 
     void listsPluginsWithACaption();
+    void leavesOutInactivePages();
     void saysThatThereAreNoPages();
     void showsTheFirstPage();
     void leavesAPageForAnother();
@@ -30,15 +31,21 @@ private Q_SLOTS:
     void givesThePageTheWholeArea();
     void closesWhenAllAgree();
     void staysForOneThatDoesNot();
-    void cancels_data();
+    void cancels_data() { addWaysToCancel(); }
     void cancels();
+    void staysForOneThatDoesNotCancel_data() { addWaysToCancel(); }
+    void staysForOneThatDoesNotCancel();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
     void followsTheLanguage();
 
 private:
+    template <class... Plugin>
+    void make(Plugin*... plugin);
     void open();
     void press(QDialogButtonBox::StandardButton button);
+    static void addWaysToCancel();
+    void cancel(const QString& by);
     QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
     QStringList captions() const;
     QString shownPage() const;
@@ -65,10 +72,18 @@ void SettingsDialogTest::cleanup()
     m_silent.reset();
 }
 
+/** Makes the dialog with the pages of these. */
+template <class... Plugin>
+void SettingsDialogTest::make(Plugin*... plugin)
+{
+    const QList<PluginWith<ISettingUIPlugin>> plugins{{plugin, plugin, plugin->objectName()}...};
+    m_dialog = std::make_unique<SettingsDialog>(plugins, nullptr);
+}
+
 /** Opens the dialog with the pages of both plug-ins, and forgets what it took to do so. */
 void SettingsDialogTest::open()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_links.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
     PlayedPlugin::takeEvents();
@@ -92,7 +107,7 @@ QString SettingsDialogTest::shownPage() const
 {
     QStringList names;
     const QList<QWidget*> pages =
-        m_dialog->findChild<PageArea*>()->ground()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        m_dialog->findChild<PageArea*>()->pageParent()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* page : pages) {
         if (page->isVisible())
             names.append(page->objectName());
@@ -102,9 +117,7 @@ QString SettingsDialogTest::shownPage() const
 
 void SettingsDialogTest::listsPluginsWithACaption()
 {
-    QObject withoutSettings;
-    m_dialog = std::make_unique<SettingsDialog>(
-        QList<QObject*>{m_mail.get(), &withoutSettings, m_silent.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_silent.get(), m_links.get());
     QCOMPARE(captions(), QStringList({"My Mail", "My Links"}));
     QCOMPARE(m_dialog->windowTitle(), "Settings");
     QCOMPARE(list()->accessibleName(), "Pages");
@@ -112,9 +125,20 @@ void SettingsDialogTest::listsPluginsWithACaption()
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
 }
 
+void SettingsDialogTest::leavesOutInactivePages()
+{
+    m_mail->setProperty("isInactive", true);
+    make(m_mail.get(), m_links.get());
+    QCOMPARE(captions(), QStringList(QStringLiteral("My Links")));
+    m_dialog->show();
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(PlayedPlugin::takeEvents(),
+             QStringList({QStringLiteral("Links shown"), QStringLiteral("Links OK"), QStringLiteral("Links hidden")}));
+}
+
 void SettingsDialogTest::saysThatThereAreNoPages()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_silent.get()}, nullptr);
+    make(m_silent.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
     QVERIFY(!list()->isVisible());
@@ -133,7 +157,7 @@ void SettingsDialogTest::saysThatThereAreNoPages()
 
 void SettingsDialogTest::showsTheFirstPage()
 {
-    m_dialog = std::make_unique<SettingsDialog>(QList<QObject*>{m_mail.get(), m_links.get()}, nullptr);
+    make(m_mail.get(), m_links.get());
     m_dialog->show();
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList("Mail shown"));
     QCOMPARE(list()->currentRow(), 0);
@@ -170,7 +194,7 @@ void SettingsDialogTest::growsToThePage()
 void SettingsDialogTest::givesThePageTheWholeArea()
 {
     open();
-    QWidget* const ground = m_dialog->findChild<PageArea*>()->ground();
+    QWidget* const ground = m_dialog->findChild<PageArea*>()->pageParent();
     const QWidget* const page = ground->findChild<QWidget*>("Mail");
     QVERIFY(page);
     m_dialog->resize(m_dialog->size() + QSize(60, 40));
@@ -203,31 +227,48 @@ void SettingsDialogTest::staysForOneThatDoesNot()
     QVERIFY(!m_dialog->isVisible());
 }
 
-void SettingsDialogTest::cancels_data()
+void SettingsDialogTest::addWaysToCancel()
 {
     QTest::addColumn<QString>("by");
-    QTest::addColumn<bool>("refuses");
-    QTest::newRow("button") << "button" << false;
-    QTest::newRow("Escape") << "Escape" << false;
-    QTest::newRow("close button") << "close" << false;
-    QTest::newRow("though a plug-in would not") << "button" << true;
+    for (const char* way : {"button", "Escape", "close button"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void SettingsDialogTest::cancel(const QString& by)
+{
+    if (by == "Escape")
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    else if (by == "close button")
+        m_dialog->close();
+    else
+        press(QDialogButtonBox::Cancel);
 }
 
 void SettingsDialogTest::cancels()
 {
     QFETCH(QString, by);
-    QFETCH(bool, refuses);
     open();
-    m_mail->setProperty("refuses", refuses);
-    if (by == "Escape")
-        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    else if (by == "close")
-        m_dialog->close();
-    else
-        press(QDialogButtonBox::Cancel);
+    cancel(by);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
     QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
+}
+
+void SettingsDialogTest::staysForOneThatDoesNotCancel()
+{
+    QFETCH(QString, by);
+    open();
+    m_links->setProperty("refuses", true);
+    cancel(by);
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(shownPage(), QStringLiteral("Links"));
+    QCOMPARE(list()->currentRow(), 1);
+    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
+                                                      QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
+    m_links->setProperty("refuses", false);
+    cancel(by);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
 }
 
 void SettingsDialogTest::showsNoPageOfAPluginWithout()

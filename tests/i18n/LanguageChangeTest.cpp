@@ -16,6 +16,7 @@
 
 #include "Change.h"
 #include "Host.h"
+#include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "QuickLinkKeys.h"
@@ -92,7 +93,7 @@ void LanguageChangeTest::init()
                              QString::fromLatin1(key));
     m_host.reset(new Host(*m_translator));
     m_host->loadPlugins(QString());
-    QCOMPARE(m_host->plugins().size(), 1);
+    QCOMPARE(m_host->container().plugins().size(), 1);
     m_host->showWindow(ConnectionKind::Manual);
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
@@ -100,7 +101,7 @@ void LanguageChangeTest::init()
             m_window = window;
     }
     QVERIFY(m_window);
-    m_settings.reset(new SettingsDialog(m_host->plugins(), nullptr));
+    m_settings.reset(new SettingsDialog(m_host->container().all<ISettingUIPlugin>(), nullptr));
 }
 
 void LanguageChangeTest::cleanup()

@@ -11,6 +11,7 @@
 
 #include "ExtendDialog.h"
 #include "IBasePlugin.h"
+#include "ISettingUIPlugin.h"
 #include "UserFolder.h"
 
 namespace
@@ -42,7 +43,9 @@ PluginWindows::PluginWindows()
     UserFolder::setPath(m_folder.path());
     if (!m_plugin || !m_plugin->Init())
         return;
-    m_settings = std::make_unique<SettingsDialog>(QList<QObject*>{m_loader.instance()}, nullptr);
+    const PluginWith<ISettingUIPlugin> page = {
+        m_loader.instance(), qobject_cast<ISettingUIPlugin*>(m_loader.instance()), m_plugin->GetPluginName()};
+    m_settings = std::make_unique<SettingsDialog>(QList<PluginWith<ISettingUIPlugin>>{page}, nullptr);
     m_settings->show();
 }
 

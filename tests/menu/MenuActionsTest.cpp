@@ -385,9 +385,8 @@ void MenuActionsTest::traces()
     m_plugin.load(threeLinks());
     RecordingTrace trace;
     action(0);
-    QCOMPARE(trace.countDebug(tracePattern("Start of %F: GetActionFromQuickLink: %L: ")), 1);
-    QCOMPARE(trace.countDebug(tracePattern("End of %F: GetActionFromQuickLink: %L: ")), 1);
-    QCOMPARE(trace.debugLines.size(), 2);
+    // A menu asks for every link; two lines each would be most of what is traced.
+    QCOMPARE(trace.debugLines, QStringList());
     QVERIFY(trace.warningLines.isEmpty());
 }
 

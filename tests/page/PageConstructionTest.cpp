@@ -200,7 +200,9 @@ void PageConstructionTest::buttonColumn()
     m_page.page->m_pageWidget->resize(600, 500);
     m_page.page->m_pageWidget->show();
     QCoreApplication::processEvents();
-    const QRect inside = m_page.page->m_pageLayout->contentsRect();
+    int left, top, right, bottom;
+    m_page.page->m_pageLayout->getContentsMargins(&left, &top, &right, &bottom);
+    const QRect inside = m_page.page->m_pageWidget->rect().adjusted(left, top, -right, -bottom);
     QCOMPARE(m_page.page->m_newBtn->y(), inside.top() + 35);
     QCOMPARE(m_page.page->m_editBtn->y(), m_page.page->m_newBtn->geometry().bottom() + 1 + 20);
     QCOMPARE(m_page.page->m_deleteBtn->y(), m_page.page->m_editBtn->geometry().bottom() + 1 + 20);

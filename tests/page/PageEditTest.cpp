@@ -44,6 +44,7 @@ private Q_SLOTS:
     void editingEnds_data();
     void editingEnds();
     void cancelChangesNothing();
+    void pageBuiltAgainMeanwhile();
 
 private:
     void edit(int row);
@@ -420,6 +421,28 @@ void PageEditTest::cancelChangesNothing()
     QCOMPARE(m_page.shownNames(), "a b");
     QCOMPARE(FakeHost::instance().readConfig(), before);
     QCOMPARE(FakeHost::instance().notifications, QStringList());
+}
+
+void PageEditTest::pageBuiltAgainMeanwhile()
+{
+    m_page.begin(links("a b c"));
+    edit(2);
+    m_page.show();
+    QCOMPARE(m_page.liveFrames(), 1);
+    QVERIFY(m_page.frame()->isVisible());
+    QCOMPARE(m_page.inDialog<QLineEdit>("m_appNameEdit")->text(), "c");
+    // The edit goes on, but OK replaces the current row, and the new page has its first row selected.
+    QCOMPARE(m_page.currentRow(), 0);
+    const RecordProbe replaced(m_page.recordOf(0));
+    m_page.chooseType(1);
+    m_page.enter("m_appNameEdit", "x");
+    m_page.pressOk();
+    QVERIFY(replaced.isFreed());
+    QCOMPARE(m_page.shownNames(), "x b c");
+    QCOMPARE(m_page.listNames(), "x b c");
+    QCOMPARE(m_page.disorder(), QString());
+    QVERIFY(!m_page.page->m_isEditing);
+    QCOMPARE(FakeHost::instance().notifications.size(), 1);
 }
 
 REGISTER_TEST(PageEditTest)

@@ -150,7 +150,21 @@ const Operation operations[] = {
 };
 
 const char* const states[] = {"shown",     "hidden",    "cancelled, then the page", "New open",
-                              "Edit open", "only page", "shown twice over"};
+                              "Edit open", "only page", "shown twice over",         "table first"};
+
+/** Counts how often it is destroyed. */
+class CountedItem : public QTableWidgetItem
+{
+public:
+    explicit CountedItem(int* destructions)
+        : m_destructions(destructions)
+    {
+    }
+    ~CountedItem() override { ++*m_destructions; }
+
+private:
+    int* m_destructions;
+};
 } // namespace
 
 class PageHostDeletesTest : public QObject
@@ -174,6 +188,14 @@ private Q_SLOTS:
     void languageAfterTheFrameWent_data();
     void languageAfterTheFrameWent();
     void widgetGoesAfterTheEnd();
+    void partIsForgotten_data();
+    void partIsForgotten();
+    void headerItemGoesOnce_data();
+    void headerItemGoesOnce();
+    void headerItemWithoutTableIsKept_data();
+    void headerItemWithoutTableIsKept();
+    void layoutWithoutWidgetIsKept_data();
+    void layoutWithoutWidgetIsKept();
 
 private:
     static void stateRows();
@@ -181,6 +203,8 @@ private:
     void deleteIn(const QString& state);
     /** What comes of an operation: its answer, its traces and all that the host sees. */
     QString outcome(const Operation& operation);
+    /** Deletes what is named, or lets the plug-in do it. */
+    void remove(const QString& what);
 
     ShownPage m_page;
 };
@@ -205,6 +229,8 @@ void PageHostDeletesTest::deleteIn(const QString& state)
         m_page.click("m_editBtn");
     else if (state == "shown twice over")
         m_page.show();
+    if (state == "table first")
+        delete m_page.page->m_QLinkListTblView;
     if (state.startsWith("cancelled") || state == "only page")
         delete m_page.page->m_pageWidget;
     delete m_page.host;
@@ -401,6 +427,132 @@ void PageHostDeletesTest::widgetGoesAfterTheEnd()
     delete m_page.page;
     m_page.page = nullptr;
     delete m_page.host;
+}
+
+void PageHostDeletesTest::partIsForgotten_data()
+{
+    QTest::addColumn<QString>("member");
+    const char* const parts[] = {"m_QLinkTabWidget", "m_QLinkTab", "m_launchOrderLbl", "m_QLinkListTblView", "m_upBtn",
+                                 "m_downBtn",        "m_newBtn",   "m_editBtn",        "m_deleteBtn"};
+    for (const char* part : parts)
+        QTest::newRow(part) << QString::fromLatin1(part);
+}
+
+void PageHostDeletesTest::partIsForgotten()
+{
+    QFETCH(QString, member);
+    m_page.begin(links("a b"));
+    const QPointer<QObject> page = m_page.page->m_pageWidget;
+    delete memberOf(m_page.page, member).object;
+    QVERIFY(!memberOf(m_page.page, member).object);
+    QVERIFY(page);
+    QCOMPARE(m_page.page->Notify(1024, 0, 0), -1);
+    m_page.show();
+    QVERIFY(!page);
+    QCOMPARE(m_page.disorder(), QString());
+    delete memberOf(m_page.page, member).object;
+    m_page.page->OnDestroy();
+    QVERIFY(m_page.host->children().isEmpty());
+}
+
+void PageHostDeletesTest::remove(const QString& what)
+{
+    if (what == "host's widget")
+        delete m_page.host;
+    else if (what == "page")
+        delete m_page.page->m_pageWidget;
+    else if (what == "tab widget")
+        delete m_page.page->m_QLinkTabWidget;
+    else if (what == "table")
+        delete m_page.page->m_QLinkListTblView;
+    else if (what == "rebuild")
+        m_page.page->createWidgetMemory(m_page.host);
+    else if (what == "fillTable")
+        m_page.page->fillTable();
+    else
+        m_page.page->OnDestroy();
+}
+
+void PageHostDeletesTest::headerItemGoesOnce_data()
+{
+    QTest::addColumn<QString>("what");
+    const char* const all[] = {"host's widget", "page", "tab widget", "table", "rebuild", "fillTable", "OnDestroy"};
+    for (const char* what : all)
+        QTest::newRow(what) << QString::fromLatin1(what);
+}
+
+void PageHostDeletesTest::headerItemGoesOnce()
+{
+    QFETCH(QString, what);
+    m_page.begin(links("a b"));
+    int names = 0, types = 0;
+    // The table frees the items that it had.
+    m_page.table()->setHorizontalHeaderItem(0, m_page.page->m_nameHeaderItem = new CountedItem(&names));
+    m_page.table()->setHorizontalHeaderItem(1, m_page.page->m_typeHeaderItem = new CountedItem(&types));
+    m_page.page->releaseTable();
+    remove(what);
+    QCOMPARE(names, 1);
+    QCOMPARE(types, 1);
+    const bool isMadeAgain = what == "fillTable";
+    QCOMPARE(m_page.page->m_nameHeaderItem != nullptr, isMadeAgain);
+    QCOMPARE(m_page.page->m_typeHeaderItem != nullptr, isMadeAgain);
+    m_page.page->OnDestroy();
+    QCOMPARE(names, 1);
+    QCOMPARE(types, 1);
+}
+
+void PageHostDeletesTest::headerItemWithoutTableIsKept_data()
+{
+    QTest::addColumn<QString>("until");
+    const char* const all[] = {"rebuild", "fillTable", "OnDestroy"};
+    for (const char* until : all)
+        QTest::newRow(until) << QString::fromLatin1(until);
+}
+
+void PageHostDeletesTest::headerItemWithoutTableIsKept()
+{
+    QFETCH(QString, until);
+    m_page.begin(links("a b"));
+    {
+        // The items are made before it shows that there is nothing to fill the table with.
+        const Replaced<QuickLinkRecordList> noList(m_page.page->m_recordList, nullptr);
+        m_page.page->fillTable();
+    }
+    int destructions = 0;
+    delete m_page.page->m_nameHeaderItem;
+    m_page.page->m_nameHeaderItem = new CountedItem(&destructions);
+    delete m_page.host;
+    QVERIFY(m_page.page->m_nameHeaderItem && m_page.page->m_typeHeaderItem);
+    QCOMPARE(destructions, 0);
+    remove(until);
+    QCOMPARE(destructions, 1);
+    m_page.page->OnDestroy();
+    QCOMPARE(destructions, 1);
+}
+
+void PageHostDeletesTest::layoutWithoutWidgetIsKept_data()
+{
+    QTest::addColumn<QString>("until");
+    QTest::newRow("rebuild") << "rebuild";
+    QTest::newRow("OnDestroy") << "OnDestroy";
+}
+
+void PageHostDeletesTest::layoutWithoutWidgetIsKept()
+{
+    QFETCH(QString, until);
+    m_page.beginHidden(links("a b"));
+    m_page.page->createWidgetMemory(m_page.host);
+    QList<QPointer<QObject>> layouts;
+    const char* const names[] = {"m_pageLayout", "m_tabLayout", "m_buttonColumnLayout", "m_orderButtonsLayout"};
+    for (const char* name : names)
+        layouts.append(memberOf(m_page.page, QLatin1String(name)).object);
+    delete m_page.host;
+    for (int i = 0; i < layouts.size(); ++i)
+        QVERIFY2(layouts.at(i), names[i]);
+    remove(until);
+    for (int i = 0; i < layouts.size(); ++i)
+        QVERIFY2(!layouts.at(i), names[i]);
+    m_page.page->OnDestroy();
 }
 
 REGISTER_TEST(PageHostDeletesTest)

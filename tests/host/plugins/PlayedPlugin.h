@@ -25,6 +25,7 @@
  *   linkCount  how many links it claims to have, where that is another number
  *   answer     to a notification
  *   caption    of its settings page; empty for none
+ *   isInactive whether its page takes no part in the dialog
  *   isPageless whether it shows no page although it has a caption
  *   pageSize   smallest size of the page
  *   refuses    whether it does not let the settings dialog close
@@ -126,7 +127,7 @@ public:
             m_page->hide();
         return 1;
     }
-    int IsActiveSetting() override { return 1; }
+    int IsActiveSetting() override { return property("isInactive").toBool() ? 0 : 1; }
 
 private:
     void record(const QString& event) const

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// A plug-in that tells the host's component "recorder" what happens to it. Its name, its class identifier and the
-// answer of its Init come from the build.
+// A plug-in that tells the host's component "recorder" what happens to it. Its name, its class identifier, its kind and
+// the answer of its Init come from the build.
 
 #include <QStringList>
 #include <QVariant>
@@ -43,12 +43,13 @@ public:
         record("Init");
         return SAMPLE_INIT;
     }
+    int GetPluginType() override { return SAMPLE_KIND; }
     // Data of the library itself, which the host must not keep beyond it.
     QString GetCLSID() override { return QStringLiteral(SAMPLE_CLSID); }
     QString GetPluginName() override { return QStringLiteral(SAMPLE_NAME); }
     void OnDestroy() override
     {
-        const bool isListed = Startup::GetPluginContainer()->GetPlugin(GetCLSID(), 0) == this;
+        const bool isListed = Startup::GetPluginContainer()->GetPlugin(GetCLSID(), GetPluginType()) == this;
         record(isListed ? "OnDestroy while listed" : "OnDestroy");
         (new LateObject)->deleteLater();
     }

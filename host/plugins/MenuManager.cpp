@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "MenuManager.h"
+
+#include <QPointer>
+#include <QTextDocument>
+
+#include "HostContract.h"
+#include "IQuickLinkPlugin.h"
+#include "LinkName.h"
+#include "PluginContainer.h"
+
+MenuManager::MenuManager(const PluginContainer& container)
+    : m_container(container)
+{
+}
+
+int MenuManager::Notify(unsigned int code, unsigned int param1, unsigned int param2)
+{
+    Q_UNUSED(param1);
+    Q_UNUSED(param2);
+    if (code == HostContract::linksChanged)
+        rebuild();
+    return 0;
+}
+
+void MenuManager::rebuild()
+{
+    const QList<QAction*> old = m_actions;
+    m_actions.clear();
+    const QList<PluginWith<IQuickLinkPlugin>> plugins = m_container.all<IQuickLinkPlugin>();
+    for (const PluginWith<IQuickLinkPlugin>& plugin : plugins)
+        addLinks(plugin);
+    Q_EMIT rebuilt(m_actions);
+    // Later: one of them may be what asked for the change.
+    for (QAction* action : old)
+        action->deleteLater();
+}
+
+void MenuManager::retranslate()
+{
+    for (QAction* action : qAsConst(m_actions))
+        setTexts(action);
+    Q_EMIT rebuilt(m_actions);
+}
+
+void MenuManager::clear()
+{
+    Q_EMIT rebuilt(QList<QAction*>());
+    qDeleteAll(m_actions);
+    m_actions.clear();
+}
+
+void MenuManager::addLinks(const PluginWith<IQuickLinkPlugin>& plugin)
+{
+    const int count = plugin.interface->GetQuickLinkRecordSize();
+    for (int i = 0; i < count; ++i) {
+        if (QAction* const theirs = plugin.interface->GetActionFromQuickLink(i))
+            m_actions.append(newAction(plugin, theirs));
+    }
+}
+
+void MenuManager::setTexts(QAction* action)
+{
+    const QString tip = tr("Open %1").arg(action->data().toString());
+    // A name that looks like markup is shown as it stands.
+    action->setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
+    action->setStatusTip(tip);
+}
+
+QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs)
+{
+    const QString name = LinkName::onOneLine(theirs->text());
+    QAction* const action = new QAction(LinkName::withAmpersands(name), this);
+    action->setData(name);
+    setTexts(action);
+    connect(action, &QAction::triggered, this, [plugin, theirs = QPointer<QAction>(theirs)] {
+        if (plugin.object && theirs)
+            plugin.interface->LaunchQuickLinkAction(theirs);
+    });
+    return action;
+}

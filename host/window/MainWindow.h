@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+
+class ConnectionPanel;
+class LinkButtons;
+class QAction;
+class QLabel;
+class QMenu;
+
+/** The window: the state of the connection, the quick links as buttons below it, and the menus. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
+    MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
+
+    /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
+    void setLinks(const QList<QAction*>& actions);
+
+    /** The menu of the quick links, which stays the window's. */
+    QMenu& linkMenu();
+
+    /** Names the files of plug-ins that were not loaded in the status bar, until something else is said there. */
+    void showNotLoaded(const QStringList& files);
+
+    /** Keeps text at the end of the status bar until the next one, beside what comes and goes; empty for none. */
+    void setPermanentStatus(const QString& text);
+
+Q_SIGNALS:
+    /** The window was painted for the first time, or was minimised before it was. */
+    void appeared();
+
+    /** The user wants to see the settings. */
+    void settingsRequested();
+
+    /** The user wants to end the program. */
+    void quitRequested();
+
+    /** The user closed the window, which is now hidden. */
+    void closed();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildMenus(QMenu* languageMenu);
+    void setTexts();
+    void appear();
+    void showAbout();
+
+    LinkButtons* m_linkButtons = nullptr;
+    QLabel* m_linkHeading = nullptr;
+    QLabel* m_permanentStatus = nullptr;
+    bool m_hasAppeared = false;
+
+    QMenu* m_connectionMenu = nullptr;
+    QMenu* m_linkMenu = nullptr;
+    QMenu* m_toolsMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
+    QMenu* m_helpMenu = nullptr;
+    QAction* m_quit = nullptr;
+    QAction* m_settings = nullptr;
+    QAction* m_showStatusBar = nullptr;
+    QAction* m_about = nullptr;
+    QAction* m_noLinks = nullptr;
+};

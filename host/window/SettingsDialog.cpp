@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "SettingsDialog.h"
+
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "PageArea.h"
+
+SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent)
+    : QDialog(parent)
+    , m_pages(SettingsPage::of(plugins))
+    , m_list(new QListWidget)
+    , m_area(new PageArea)
+    , m_hint(new QLabel)
+{
+    QVBoxLayout* const column = new QVBoxLayout(this);
+    QHBoxLayout* const row = new QHBoxLayout;
+    column->addLayout(row, 1);
+    row->addWidget(m_list);
+    row->addWidget(m_area, 1);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setMinimumSize(320, 120);
+    row->addWidget(m_hint);
+
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_list->addItem(QString());
+    setTexts();
+    m_list->setVisible(!m_pages.isEmpty());
+    m_area->setVisible(!m_pages.isEmpty());
+    m_hint->setVisible(m_pages.isEmpty());
+    connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
+
+    QDialogButtonBox* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    // Like the buttons of the pages. One toolkit's style draws the text beside its icon wrongly from right to left.
+    const QList<QAbstractButton*> both = buttons->buttons();
+    for (QAbstractButton* button : both)
+        button->setIcon(QIcon());
+    connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
+    column->addWidget(buttons);
+}
+
+void SettingsDialog::accept()
+{
+    if (!allAgree(&SettingsPage::accept))
+        return;
+    showPage(-1);
+    QDialog::accept();
+}
+
+void SettingsDialog::reject()
+{
+    if (allAgree(&SettingsPage::reject))
+        QDialog::reject();
+}
+
+/** Asks page after page, and shows the first that says no. */
+bool SettingsDialog::allAgree(bool (SettingsPage::*question)() const)
+{
+    for (int i = 0; i < m_pages.size(); ++i) {
+        if (!(m_pages.at(i).*question)()) {
+            m_list->setCurrentRow(i);
+            return false;
+        }
+    }
+    return true;
+}
+
+void SettingsDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (m_shown < 0 && !m_pages.isEmpty())
+        m_list->setCurrentRow(0);
+}
+
+void SettingsDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+    QDialog::changeEvent(event);
+}
+
+void SettingsDialog::setTexts()
+{
+    setWindowTitle(tr("Settings"));
+    m_hint->setText(tr("None of the loaded plug-ins has settings."));
+    m_list->setAccessibleName(tr("Pages"));
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_list->item(i)->setText(m_pages.at(i).caption());
+    m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
+}
+
+void SettingsDialog::showPage(int index)
+{
+    if (m_shown >= 0)
+        m_pages.at(m_shown).hide();
+    m_area->setPage(nullptr);
+    m_shown = index;
+    if (m_shown < 0)
+        return;
+    m_area->setPage(m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect()));
+    growToPage();
+}
+
+void SettingsDialog::growToPage()
+{
+    const QSize missing = (m_area->sizeHint() - m_area->size()).expandedTo(QSize(0, 0));
+    resize((size() + missing).boundedTo(screen()->availableSize()));
+}
