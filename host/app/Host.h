@@ -70,8 +70,8 @@ private:
     NotifyService m_notifyService;
     MenuManager m_menuManager;
     LinkOpener m_linkOpener;
-    std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<ConnectionTexts> m_texts;
+    std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Tray> m_tray;
     std::unique_ptr<SleepWatch> m_sleepWatch; ///< only with a window: it opens the system bus
 };
