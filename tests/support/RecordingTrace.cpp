@@ -112,6 +112,12 @@ QString RecordingTrace::debugDifference(const QStringList& patterns) const
            patterns.join("\n");
 }
 
+QString tracePattern(const char* line)
+{
+    QString pattern = line;
+    return pattern.replace("%T", TracePattern::time).replace("%F", TracePattern::file).replace("%L", TracePattern::line);
+}
+
 #if QT_VERSION >= 0x050000
 DebugChannelOff::DebugChannelOff()
 {
