@@ -5,7 +5,7 @@
 
 #include <QAction>
 
-#include "LoadedPlugin.h"
+#include "LaunchEvents.h"
 #include "Test.h"
 
 class LinkLaunchTest : public QObject
@@ -263,23 +263,12 @@ void LinkLaunchTest::menuStaysAfterARefusal()
 void LinkLaunchTest::otherTypesOpenNothing_data()
 {
     QTest::addColumn<QString>("type");
-    const char* const types[] = {"IDS_LINK_TYPE_E_MAIL",
-                                 "IDS_LINK_TYPE_EMAIL",
-                                 "ids_link_type_internet",
-                                 "Ids_Link_Type_Application",
-                                 " IDS_LINK_TYPE_E-MAIL",
-                                 "IDS_LINK_TYPE_INTERNET ",
-                                 "IDS_LINK_TYPE_INTERNET2",
-                                 "IDS_LINK_TYPE_",
-                                 "INTERNET",
-                                 "IDS_LINK_TYPE_APPLICATIO",
-                                 "en:IDS_LINK_TYPE_INTERNET",
-                                 "0",
-                                 " 0",
-                                 "1",
-                                 "2"};
-    for (const char* type : types)
-        QTest::newRow(type) << type;
+    const QStringList types =
+        listed("IDS_LINK_TYPE_E_MAIL|IDS_LINK_TYPE_EMAIL|ids_link_type_internet|Ids_Link_Type_Application|"
+               " IDS_LINK_TYPE_E-MAIL|IDS_LINK_TYPE_INTERNET |IDS_LINK_TYPE_INTERNET2|IDS_LINK_TYPE_|INTERNET|"
+               "IDS_LINK_TYPE_APPLICATIO|en:IDS_LINK_TYPE_INTERNET|0| 0|1|2");
+    for (const QString& type : types)
+        QTest::newRow(qPrintable(type)) << type;
     QTest::newRow("empty") << QString();
 }
 
@@ -340,9 +329,7 @@ void LinkLaunchTest::flagsDoNotMatter()
         record.visible = "0";
         launch(record);
     }
-    QCOMPARE(host().openings, QStringList() << "desktop /clock"
-                                            << "desktop mailto:"
-                                            << "host http://a");
+    QCOMPARE(host().openings, listed("desktop /clock|desktop mailto:|host http://a"));
 }
 
 void LinkLaunchTest::launchedTwiceOpensTwice()
@@ -355,8 +342,7 @@ void LinkLaunchTest::launchedTwiceOpensTwice()
         m_plugin.page->LaunchQuickLinkAction(news);
         m_plugin.page->LaunchQuickLinkAction(mail);
     }
-    const QStringList once = QStringList() << "host http://example.org/"
-                                           << "desktop mailto:";
+    const QStringList once = listed("host http://example.org/|desktop mailto:");
     QCOMPARE(host().openings, once + once);
 }
 
@@ -367,7 +353,7 @@ void LinkLaunchTest::actionWorksAfterTheEnd()
     QAction* const mail = m_plugin.page->GetActionFromQuickLink(0);
     m_plugin.page->OnDestroy();
     m_plugin.page->LaunchQuickLinkAction(mail);
-    QCOMPARE(host().openings, QStringList() << "desktop mailto:");
+    QCOMPARE(host().openings, QStringList("desktop mailto:"));
 }
 
 REGISTER_TEST(LinkLaunchTest)

@@ -3,12 +3,9 @@
 
 // The answers to the host that never change.
 
-
 #include <climits>
 
-#include "FakeHost.h"
-#include "QuickLinkSettingPluginDlg.h"
-#include "RecordingTrace.h"
+#include "LoadedPlugin.h"
 #include "Test.h"
 
 class PluginIdentityTest : public QObject
@@ -16,8 +13,8 @@ class PluginIdentityTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_plugin.make(); }
+    void cleanup() { m_plugin.unload(); }
 
     void number_data();
     void number();
@@ -28,20 +25,8 @@ private Q_SLOTS:
     void releaseOnlyTraces();
 
 private:
-    QuickLinkSettingPluginDlg* m_plugin;
+    LoadedPlugin m_plugin;
 };
-
-void PluginIdentityTest::init()
-{
-    FakeHost::instance().reset();
-    m_plugin = new QuickLinkSettingPluginDlg;
-}
-
-void PluginIdentityTest::cleanup()
-{
-    m_plugin->OnDestroy();
-    delete m_plugin;
-}
 
 typedef int (QuickLinkSettingPluginDlg::*NumberAnswer)();
 typedef QString (QuickLinkSettingPluginDlg::*TextAnswer)();
@@ -66,11 +51,11 @@ void PluginIdentityTest::number()
 {
     QFETCH(NumberAnswer, answer);
     QFETCH(int, expected);
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->Init();
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->OnDestroy();
-    QCOMPARE((m_plugin->*answer)(), expected);
+    QCOMPARE((m_plugin.page->*answer)(), expected);
+    m_plugin.page->Init();
+    QCOMPARE((m_plugin.page->*answer)(), expected);
+    m_plugin.page->OnDestroy();
+    QCOMPARE((m_plugin.page->*answer)(), expected);
 }
 
 void PluginIdentityTest::text_data()
@@ -78,21 +63,19 @@ void PluginIdentityTest::text_data()
     QTest::addColumn<TextAnswer>("answer");
     QTest::addColumn<QString>("expected");
     typedef QuickLinkSettingPluginDlg Plugin;
-    QTest::newRow("GetPluginName") << static_cast<TextAnswer>(&Plugin::GetPluginName)
-                                   << "QuickLinkUIPlugin";
-    QTest::newRow("GetCLSID") << static_cast<TextAnswer>(&Plugin::GetCLSID)
-                              << "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6";
+    QTest::newRow("GetPluginName") << static_cast<TextAnswer>(&Plugin::GetPluginName) << "QuickLinkUIPlugin";
+    QTest::newRow("GetCLSID") << static_cast<TextAnswer>(&Plugin::GetCLSID) << "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6";
 }
 
 void PluginIdentityTest::text()
 {
     QFETCH(TextAnswer, answer);
     QFETCH(QString, expected);
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->Init();
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->OnDestroy();
-    QCOMPARE((m_plugin->*answer)(), expected);
+    QCOMPARE((m_plugin.page->*answer)(), expected);
+    m_plugin.page->Init();
+    QCOMPARE((m_plugin.page->*answer)(), expected);
+    m_plugin.page->OnDestroy();
+    QCOMPARE((m_plugin.page->*answer)(), expected);
 }
 
 void PluginIdentityTest::queryInterfaceFindsNothing_data()
@@ -111,26 +94,24 @@ void PluginIdentityTest::queryInterfaceFindsNothing()
     QFETCH(int, number);
     QFETCH(bool, hasOutPointer);
     QObject* found = this;
-    QCOMPARE(m_plugin->QueryInterface(number, hasOutPointer ? &found : nullptr), 0);
+    QCOMPARE(m_plugin.page->QueryInterface(number, hasOutPointer ? &found : nullptr), 0);
     QCOMPARE(found, this);
 }
 
 void PluginIdentityTest::releaseOnlyTraces()
 {
-    m_plugin->Init();
+    m_plugin.page->Init();
     QuickLinkSettingPluginDlg* const single = QuickLinkSettingPluginDlg::m_pInstance;
-    QPointer<QObject> alive(m_plugin);
+    QPointer<QObject> alive(m_plugin.page);
     RecordingTrace trace;
-    m_plugin->Release();
-    const QString place = QLatin1String(TracePattern::file) + ": Release: " +
-                          QLatin1String(TracePattern::line) + ": ";
-    QCOMPARE(
-        trace.debugDifference(QStringList() << "Start of " + place << "End of " + place),
-        QString());
+    m_plugin.page->Release();
+    QCOMPARE(trace.debugDifference(QStringList() << tracePattern("Start of %F: Release: %L: ")
+                                                 << tracePattern("End of %F: Release: %L: ")),
+             QString());
     QVERIFY(alive);
     QCOMPARE(QuickLinkSettingPluginDlg::m_pInstance, single);
-    QVERIFY(m_plugin->m_store);
-    QVERIFY(m_plugin->m_recordList);
+    QVERIFY(m_plugin.page->m_store);
+    QVERIFY(m_plugin.page->m_recordList);
 }
 
 REGISTER_TEST(PluginIdentityTest)

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The installed module in the hands of the toolkit's own plug-in loader, with the real host libraries behind it. The same
-// program for every Qt: what differs between them is what the loader asks of the file.
+// The installed module in the hands of the toolkit's own plug-in loader, with the real host libraries behind it. The
+// same program for every Qt: what differs between them is what the loader asks of the file.
 
 #include <QAction>
 #include <QDesktopServices>

@@ -63,7 +63,8 @@ void PluginSymbolsTest::fileName()
 void PluginSymbolsTest::exports()
 {
     QStringList names;
-    const QStringList lines = linesOf(NM, QStringList() << "-D" << "--defined-only");
+    const QStringList lines = linesOf(NM, QStringList() << "-D"
+                                                        << "--defined-only");
     for (const QString& line : lines) {
         // "address kind name", the name perhaps with a version after "@".
         const QString name = line.section(' ', 2).section('@', 0, 0);
@@ -71,7 +72,8 @@ void PluginSymbolsTest::exports()
             names.append(name);
     }
     names.sort();
-    QStringList expected = QStringList() << "qt_plugin_instance" << "qt_plugin_query_verification_data";
+    QStringList expected = QStringList() << "qt_plugin_instance"
+                                         << "qt_plugin_query_verification_data";
     if (*metadataEntry)
         expected.insert(1, metadataEntry);
     QCOMPARE(names, expected);

@@ -9,8 +9,8 @@
 #include "QuickLinkRecord.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
-#include "Records.h"
 #include "RecordingTrace.h"
+#include "Records.h"
 
 Q_DECLARE_METATYPE(QuickLinkRecord)
 DECLARE_LIST_METATYPE(QuickLinkRecordList)

@@ -5,8 +5,8 @@
 
 #include <QtGlobal>
 
-// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know no
-// versions. What is missing of QtTest is in QtTestVersions.h.
+// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know
+// no versions. What is missing of QtTest is in QtTestVersions.h.
 
 #if QT_VERSION < 0x050000
 #include <cstdlib>
@@ -60,6 +60,12 @@ inline bool isWritable(uint code)
 inline const char* byQt(const char* before5, const char*)
 {
     return before5;
+}
+
+/** The text of one character. */
+inline QString codePoint(uint code)
+{
+    return QString::fromUcs4(&code, 1);
 }
 
 inline bool qunsetenv(const char* name)
@@ -144,6 +150,11 @@ inline bool isWritable(uint)
 inline const char* byQt(const char*, const char* since5)
 {
     return since5;
+}
+
+inline QString codePoint(char32_t code)
+{
+    return QString::fromUcs4(&code, 1);
 }
 
 inline QByteArray signatureOf(const QMetaMethod& method)
