@@ -112,7 +112,7 @@ void HostNotificationsTest::containerTraceComesFirst()
     m_plugin.page->Notify(1536, 0, 0);
     const int opened = trace.debugLines.indexOf("opened");
     QVERIFY(opened > 0);
-    QCOMPARE(trace.debugLines.mid(0, opened).filter("Get plugin container success").size(), 1);
+    QCOMPARE(QStringList(trace.debugLines.mid(0, opened)).filter("Get plugin container success").size(), 1);
 }
 
 void HostNotificationsTest::connectionIsAskedEveryTime()

@@ -9,6 +9,20 @@
 #include "ShownPage.h"
 #include "Test.h"
 
+namespace
+{
+/** The warnings, without what the offscreen display has to say about itself when a list drops down. */
+QStringList warningsOf(const RecordingTrace& trace)
+{
+    QStringList lines;
+    for (const QString& line : trace.warningLines) {
+        if (!line.startsWith("This plugin does not support "))
+            lines << line;
+    }
+    return lines;
+}
+} // namespace
+
 class PluginSessionTest : public QObject
 {
     Q_OBJECT
@@ -76,9 +90,10 @@ void PluginSessionTest::warningsOfASession()
     m_page.end();
 
     // New, Edit and Delete tell the menu.
-    QCOMPARE(host.notifications.size(), warning.isEmpty() ? 3 : 0);
-    QCOMPARE(trace.countWarnings(tracePattern(warning.toLatin1().constData())), warning.isEmpty() ? 0 : 3);
-    QCOMPARE(trace.warningLines.size(), warning.isEmpty() ? 0 : 3);
+    const int warnings = warning.isEmpty() ? 0 : 3;
+    QCOMPARE(host.notifications.size(), 3 - warnings);
+    QCOMPARE(trace.countWarnings(tracePattern(warning.toLatin1().constData())), warnings);
+    QVERIFY2(warningsOf(trace).size() == warnings, qPrintable(trace.warningLines.join("\n")));
 }
 
 REGISTER_TEST(PluginSessionTest)

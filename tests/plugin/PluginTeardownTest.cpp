@@ -127,35 +127,24 @@ void PluginTeardownTest::order_data()
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
-    const char* const steps[][2] = {{"m_newDlg", "m_gridDelegate"},
-                                    {"m_gridDelegate", "m_QLinkListTblView"},
-                                    {"m_gridDelegate", "m_launchOrderLbl"},
-                                    {"m_gridDelegate", "m_upBtn"},
-                                    {"m_gridDelegate", "m_newBtn"},
-                                    {"m_gridDelegate", "m_editDlg"},
-                                    {"m_gridDelegate", "m_orderButtonsLayout"},
-                                    {"m_gridDelegate", "m_buttonColumnLayout"},
-                                    {"m_QLinkListTblView", "m_pInstance"},
-                                    {"m_launchOrderLbl", "m_pInstance"},
-                                    {"m_upBtn", "m_pInstance"},
-                                    {"m_downBtn", "m_pInstance"},
-                                    {"m_newBtn", "m_pInstance"},
-                                    {"m_editBtn", "m_pInstance"},
-                                    {"m_deleteBtn", "m_pInstance"},
-                                    {"m_pageLayout", "m_pInstance"},
-                                    {"m_tabLayout", "m_pInstance"},
-                                    {"m_buttonColumnLayout", "m_pInstance"},
-                                    {"m_orderButtonsLayout", "m_pInstance"},
-                                    {"m_editDlg", "m_pInstance"},
-                                    {"m_orderButtonsLayout", "m_tabLayout"},
-                                    {"m_buttonColumnLayout", "m_pageLayout"},
-                                    {"m_pInstance", "m_QLinkTab"},
-                                    {"m_pInstance", "m_QLinkTabWidget"},
-                                    {"m_QLinkTab", "m_pageWidget"},
-                                    {"m_QLinkTabWidget", "m_pageWidget"}};
-    for (const auto& step : steps)
-        QTest::newRow(QByteArray(QByteArray(step[0]) + " before " + step[1]).constData())
-            << QString::fromLatin1(step[0]) << QString::fromLatin1(step[1]);
+    // Each of the first before each of the second.
+    const char* const steps[][2] = {
+        {"m_newDlg", "m_gridDelegate"},
+        {"m_gridDelegate", "m_QLinkListTblView m_launchOrderLbl m_upBtn m_newBtn m_editDlg m_orderButtonsLayout "
+                           "m_buttonColumnLayout"},
+        {"m_QLinkListTblView m_launchOrderLbl m_upBtn m_downBtn m_newBtn m_editBtn m_deleteBtn m_pageLayout "
+         "m_tabLayout m_buttonColumnLayout m_orderButtonsLayout m_editDlg",
+         "m_pInstance"},
+        {"m_orderButtonsLayout", "m_tabLayout"},
+        {"m_buttonColumnLayout", "m_pageLayout"},
+        {"m_pInstance", "m_QLinkTab m_QLinkTabWidget"},
+        {"m_QLinkTab m_QLinkTabWidget", "m_pageWidget"}};
+    for (const auto& step : steps) {
+        for (const QString& first : names(step[0])) {
+            for (const QString& second : names(step[1]))
+                QTest::newRow(qPrintable(first + " before " + second)) << first << second;
+        }
+    }
 }
 
 void PluginTeardownTest::order()
