@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// Which links open by themselves, in which order.
+// Which links open by themselves, in which order. Every check is made for both events.
 
 #include "LaunchEvents.h"
 #include "Test.h"
@@ -11,7 +11,8 @@ class AutomaticLaunchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_plugin.make(); }
+    void initTestCase_data();
+    void init();
     void cleanup() { m_plugin.unload(); }
 
     void order_data();
@@ -20,215 +21,157 @@ private Q_SLOTS:
     void onlyOneMeansYes();
     void otherTypesAreSkipped_data();
     void otherTypesAreSkipped();
-    void hiddenLinksLaunch_data();
     void hiddenLinksLaunch();
-    void parametersAreNotPassed_data();
     void parametersAreNotPassed();
     void addressIsHandedOverAsTyped_data();
     void addressIsHandedOverAsTyped();
     void localAddressesAreQUrls_data();
     void localAddressesAreQUrls();
-    void failureStopsNothing_data();
     void failureStopsNothing();
-    void everyEventLaunchesAgain_data();
     void everyEventLaunchesAgain();
-    void eventsDoNotMix();
-    void linksOfTheFile_data();
+    void otherEventsLinksStay();
     void linksOfTheFile();
-    void thousandLinks_data();
     void thousandLinks();
-    void nothingElseHappens_data();
     void nothingElseHappens();
-    void withoutList_data();
     void withoutList();
 
 private:
-    static void eventRows();
+    int tellEvent() { return tell(m_plugin.page, m_event); }
+    FakeHost& host() { return FakeHost::instance(); }
 
     LoadedPlugin m_plugin;
+    Event m_event;
 };
 
-namespace
-{
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
-
-/** "a url, b url" as the list that FakeHost::openings is compared with. */
-QStringList listed(const char* openings)
-{
-    const QString text = QString::fromUtf8(openings);
-    return text.isEmpty() ? QStringList() : text.split('|');
-}
-} // namespace
-
-void AutomaticLaunchTest::eventRows()
+void AutomaticLaunchTest::initTestCase_data()
 {
     QTest::addColumn<Event>("event");
-    for (const Event event : bothEvents)
-        newEventRow("on", event);
+    QTest::newRow("connection") << ConnectionUp;
+    QTest::newRow("host start") << HostStart;
+}
+
+void AutomaticLaunchTest::init()
+{
+    QFETCH_GLOBAL(Event, event);
+    m_event = event;
+    m_plugin.make();
 }
 
 void AutomaticLaunchTest::order_data()
 {
-    QTest::addColumn<Event>("event");
-    QTest::addColumn<QuickLinkRecordList>("links");
-    QTest::addColumn<QStringList>("openings");
-    for (const Event e : bothEvents) {
-        const QuickLinkRecord a = marked(e, "internet", "http://a");
-        const QuickLinkRecord b = marked(e, "internet", "http://b");
-        const QuickLinkRecord c = marked(e, "internet", "http://c");
-        const QuickLinkRecord unmarked = marked(e, "internet", "http://d", "0");
-        const QuickLinkRecord mail1 = marked(e, "email", "mailto:1");
-        const QuickLinkRecord mail2 = marked(e, "email", "mailto:2");
-        const QuickLinkRecord clock = marked(e, "application", "/clock");
-        const QuickLinkRecord unmarkedClock = marked(e, "application", "/other", "0");
-        const QuickLinkRecord blank = marked(e, "internet", "");
-        typedef QuickLinkRecordList L;
-        newEventRow("empty list", e) << L() << listed("");
-        newEventRow("nothing marked", e) << (L() << unmarked << unmarkedClock) << listed("");
-        newEventRow("one address", e) << (L() << a) << listed("host http://a");
-        newEventRow("last of three addresses", e) << (L() << a << b << c) << listed("host http://c");
-        newEventRow("last of three, turned", e) << (L() << c << b << a) << listed("host http://a");
-        newEventRow("unmarked address last", e) << (L() << a << b << unmarked) << listed("host http://b");
-        newEventRow("same address twice", e) << (L() << a << a) << listed("host http://a");
-        newEventRow("one mail", e) << (L() << mail1) << listed("desktop mailto:1");
-        newEventRow("one application", e) << (L() << clock) << listed("desktop /clock");
-        newEventRow("mails around an address", e)
-            << (L() << mail1 << a << mail2) << listed("desktop mailto:1|desktop mailto:2|host http://a");
-        newEventRow("address first", e) << (L() << a << mail2 << mail1)
-                                        << listed("desktop mailto:2|desktop mailto:1|host http://a");
-        newEventRow("all kinds", e) << (L() << a << clock << b << mail1 << unmarkedClock << c << mail2 << clock)
-                                    << listed("desktop /clock|desktop mailto:1|desktop mailto:2|desktop /clock|"
-                                              "host http://c");
-        newEventRow("empty address last", e) << (L() << a << blank) << listed("host ");
-        newEventRow("only an empty address", e) << (L() << blank) << listed("host ");
-        newEventRow("empty address first", e) << (L() << blank << a) << listed("host http://a");
-    }
+    QTest::addColumn<QByteArray>("addresses");
+    QTest::addColumn<QByteArray>("openings");
+    const struct {
+        const char *row, *addresses, *openings;
+    } rows[] = {
+        {"empty list", "", ""},
+        {"nothing marked", "-http://d|-/other", ""},
+        {"one address", "http://a", "host http://a"},
+        {"last of three addresses", "http://a|http://b|http://c", "host http://c"},
+        {"last of three, turned", "http://c|http://b|http://a", "host http://a"},
+        {"unmarked address last", "http://a|http://b|-http://d", "host http://b"},
+        {"same address twice", "http://a|http://a", "host http://a"},
+        {"one mail", "mailto:1", "desktop mailto:1"},
+        {"one application", "/clock", "desktop /clock"},
+        {"mails around an address", "mailto:1|http://a|mailto:2", "desktop mailto:1|desktop mailto:2|host http://a"},
+        {"address first", "http://a|mailto:2|mailto:1", "desktop mailto:2|desktop mailto:1|host http://a"},
+        {"all kinds", "http://a|/clock|http://b|mailto:1|-/other|http://c|mailto:2|/clock",
+         "desktop /clock|desktop mailto:1|desktop mailto:2|desktop /clock|host http://c"},
+        {"empty address last", "http://a|.", "host "},
+        {"only an empty address", ".", "host "},
+        {"empty address first", ".|http://a", "host http://a"},
+    };
+    for (const auto& row : rows)
+        QTest::newRow(row.row) << QByteArray(row.addresses) << QByteArray(row.openings);
 }
 
 void AutomaticLaunchTest::order()
 {
-    QFETCH(Event, event);
-    QFETCH(QuickLinkRecordList, links);
-    QFETCH(QStringList, openings);
-    m_plugin.load(links);
-    QCOMPARE(tell(m_plugin.page, event), 0);
-    QCOMPARE(host().openings, openings);
+    QFETCH(QByteArray, addresses);
+    QFETCH(QByteArray, openings);
+    m_plugin.load(markedLinks(m_event, addresses.constData()));
+    QCOMPARE(tellEvent(), 0);
+    QCOMPARE(host().openings, listed(openings.constData()));
 }
 
 void AutomaticLaunchTest::onlyOneMeansYes_data()
 {
-    QTest::addColumn<Event>("event");
-    QTest::addColumn<QString>("flag");
+    QTest::addColumn<QByteArray>("flag");
     const char* const flags[] = {"0",   "",   "true", " 1", "1 ", "01",          "11",
                                  "1.0", "+1", "yes",  "2",  "-1", "\xef\xbc\x91"};
-    for (const Event event : bothEvents) {
-        for (const char* flag : flags)
-            newEventRow(QByteArray('"' + QByteArray(flag) + '"').constData(), event) << QString::fromUtf8(flag);
-    }
+    for (const char* flag : flags)
+        QTest::newRow(QByteArray('"' + QByteArray(flag) + '"').constData()) << QByteArray(flag);
 }
 
 void AutomaticLaunchTest::onlyOneMeansYes()
 {
-    QFETCH(Event, event);
-    QFETCH(QString, flag);
-    const QByteArray text = flag.toUtf8();
-    m_plugin.load(QuickLinkRecordList() << marked(event, "application", "/clock", text.constData())
-                                        << marked(event, "email", "mailto:", text.constData())
-                                        << marked(event, "internet", "http://a", text.constData()));
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    QFETCH(QByteArray, flag);
+    m_plugin.load(markedLinks(m_event, "/clock|mailto:|http://a", flag.constData()));
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openings, QStringList());
-    m_plugin.page->m_recordList->append(marked(event, "email", "mailto:yes"));
-    tell(m_plugin.page, event);
+    *m_plugin.page->m_recordList << markedLinks(m_event, "mailto:yes");
+    tellEvent();
     QCOMPARE(host().openings, listed("desktop mailto:yes"));
 }
 
 void AutomaticLaunchTest::otherTypesAreSkipped_data()
 {
-    QTest::addColumn<Event>("event");
     QTest::addColumn<QString>("type");
     const char* const types[] = {"",  "IDS_LINK_TYPE_E_MAIL", "ids_link_type_internet", "IDS_LINK_TYPE_INTERNET ",
                                  "2", "application"};
-    for (const Event event : bothEvents) {
-        for (const char* type : types)
-            newEventRow(QByteArray('"' + QByteArray(type) + '"').constData(), event) << QString::fromUtf8(type);
-    }
+    for (const char* type : types)
+        QTest::newRow(QByteArray('"' + QByteArray(type) + '"').constData()) << type;
 }
 
 void AutomaticLaunchTest::otherTypesAreSkipped()
 {
-    QFETCH(Event, event);
     QFETCH(QString, type);
-    QuickLinkRecord strange = marked(event, "", "http://www.strange.example");
-    strange.type = type;
-    m_plugin.load(QuickLinkRecordList() << strange << marked(event, "email", "mailto:") << strange
-                                        << marked(event, "internet", "http://a") << strange);
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    QuickLinkRecordList links = markedLinks(m_event, "http://www.x|mailto:|http://www.y|http://a|http://www.z");
+    for (int i = 0; i < links.size(); i += 2)
+        links[i].type = type;
+    m_plugin.load(links);
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openings, listed("desktop mailto:|host http://a"));
     QCOMPARE(host().messages.size(), 0);
 }
 
-void AutomaticLaunchTest::hiddenLinksLaunch_data()
-{
-    eventRows();
-}
-
 void AutomaticLaunchTest::hiddenLinksLaunch()
 {
-    QFETCH(Event, event);
-    QuickLinkRecordList links;
-    links << marked(event, "application", "/clock") << marked(event, "email", "mailto:")
-          << marked(event, "internet", "http://a");
-    for (int i = 0; i < links.size(); ++i) {
-        links[i].visible = "0";
-        links[i].edit = links[i].delete_ = "0";
-    }
+    QuickLinkRecordList links = markedLinks(m_event, "/clock|mailto:|http://a");
+    for (int i = 0; i < links.size(); ++i)
+        links[i].visible = links[i].edit = links[i].delete_ = "0";
     m_plugin.load(links);
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openings, listed("desktop /clock|desktop mailto:|host http://a"));
-}
-
-void AutomaticLaunchTest::parametersAreNotPassed_data()
-{
-    eventRows();
 }
 
 void AutomaticLaunchTest::parametersAreNotPassed()
 {
-    QFETCH(Event, event);
-    QuickLinkRecordList links;
-    links << marked(event, "application", "/my clock") << marked(event, "email", "mailto:")
-          << marked(event, "internet", "http://a");
+    QuickLinkRecordList links = markedLinks(m_event, "/my clock|mailto:|http://a");
     for (int i = 0; i < links.size(); ++i)
         links[i].para = "--fast";
     m_plugin.load(links);
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().openings, listed("desktop /my clock|desktop mailto:|host http://a"));
 }
 
 void AutomaticLaunchTest::addressIsHandedOverAsTyped_data()
 {
-    QTest::addColumn<Event>("event");
     QTest::addColumn<QString>("url");
     // No test of the address, and no change: a menu launch would change or refuse most of these.
     const char* const urls[] = {
         "http://Example.ORG/A%41%20b", "HTTP://EXAMPLE.ORG",      "example.org",    "http://[bad",
         " http://example.org ",        "http://example.org:080/", "not an address", "http://b\xc3\xbc\x63her.example/",
         "javascript:alert(1)",         "mailto:a@b.example",      "/usr/bin/xclock"};
-    for (const Event event : bothEvents) {
-        for (const char* url : urls)
-            newEventRow(url, event) << QString::fromUtf8(url);
-    }
+    for (const char* url : urls)
+        QTest::newRow(url) << QString::fromUtf8(url);
 }
 
 void AutomaticLaunchTest::addressIsHandedOverAsTyped()
 {
-    QFETCH(Event, event);
     QFETCH(QString, url);
-    m_plugin.load(QuickLinkRecordList() << marked(event, "internet", url.toUtf8().constData()));
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    m_plugin.load(QuickLinkRecordList() << marked(m_event, "internet", url.toUtf8().constData()));
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openedByHost, QStringList() << url);
     QCOMPARE(host().openedByDesktop.size(), 0);
     QCOMPARE(host().messages.size(), 0);
@@ -236,164 +179,117 @@ void AutomaticLaunchTest::addressIsHandedOverAsTyped()
 
 void AutomaticLaunchTest::localAddressesAreQUrls_data()
 {
-    QTest::addColumn<Event>("event");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("url");
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<QByteArray>("url");
     const char* const urls[] = {"/opt/my tool",    "/opt/my%20tool",         "xclock",
                                 "www.example.org", "file:///usr/bin/xclock", "http://example.org/x"};
-    for (const Event event : bothEvents) {
-        for (const char* type : {"application", "email"}) {
-            for (const char* url : urls)
-                newEventRow(QByteArray(QByteArray(type) + ' ' + url).constData(), event)
-                    << QString::fromUtf8(type) << QString::fromUtf8(url);
-        }
+    for (const char* type : {"application", "email"}) {
+        for (const char* url : urls)
+            QTest::newRow(QByteArray(QByteArray(type) + ' ' + url).constData()) << QByteArray(type) << QByteArray(url);
     }
 }
 
 void AutomaticLaunchTest::localAddressesAreQUrls()
 {
-    QFETCH(Event, event);
-    QFETCH(QString, type);
-    QFETCH(QString, url);
-    m_plugin.load(QuickLinkRecordList() << marked(event, type.toLatin1().constData(), url.toUtf8().constData()));
-    tell(m_plugin.page, event);
-    QCOMPARE(host().openedByDesktop, QList<QUrl>() << QUrl(url));
+    QFETCH(QByteArray, type);
+    QFETCH(QByteArray, url);
+    m_plugin.load(QuickLinkRecordList() << marked(m_event, type.constData(), url.constData()));
+    tellEvent();
+    QCOMPARE(host().openedByDesktop, QList<QUrl>() << QUrl(QString::fromUtf8(url)));
     QCOMPARE(host().openedByHost, QStringList());
-}
-
-void AutomaticLaunchTest::failureStopsNothing_data()
-{
-    eventRows();
 }
 
 void AutomaticLaunchTest::failureStopsNothing()
 {
-    QFETCH(Event, event);
     // No handler takes the scheme, so the desktop answers that it could not open it.
-    m_plugin.load(QuickLinkRecordList() << marked(event, "application", "unheard-of:1")
-                                        << marked(event, "email", "unheard-of:2") << marked(event, "email", "mailto:")
-                                        << marked(event, "internet", "http://a"));
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    m_plugin.load(QuickLinkRecordList() << marked(m_event, "application", "unheard-of:1")
+                                        << marked(m_event, "email", "unheard-of:2")
+                                        << markedLinks(m_event, "mailto:|http://a"));
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openings, listed("desktop mailto:|host http://a"));
     QCOMPARE(host().messages.size(), 0);
 }
 
-void AutomaticLaunchTest::everyEventLaunchesAgain_data()
-{
-    eventRows();
-}
-
 void AutomaticLaunchTest::everyEventLaunchesAgain()
 {
-    QFETCH(Event, event);
-    m_plugin.load(QuickLinkRecordList() << marked(event, "internet", "http://a") << marked(event, "email", "mailto:")
-                                        << marked(event, "application", "/clock"));
+    m_plugin.load(markedLinks(m_event, "http://a|mailto:|/clock"));
     const QStringList once = listed("desktop mailto:|desktop /clock|host http://a");
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().openings, once);
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().openings, once + once);
 }
 
-void AutomaticLaunchTest::eventsDoNotMix()
+void AutomaticLaunchTest::otherEventsLinksStay()
 {
-    QuickLinkRecord both = marked(ConnectionUp, "email", "mailto:both");
-    both.startmobile = "1";
-    m_plugin.load(QuickLinkRecordList() << marked(HostStart, "email", "mailto:start")
-                                        << marked(ConnectionUp, "email", "mailto:connection") << both
-                                        << marked(HostStart, "internet", "http://start")
-                                        << marked(ConnectionUp, "internet", "http://connection"));
-    tell(m_plugin.page, HostStart);
-    QCOMPARE(host().openings, listed("desktop mailto:start|desktop mailto:both|host http://start"));
+    const Event other = m_event == ConnectionUp ? HostStart : ConnectionUp;
+    QuickLinkRecord both = marked(m_event, "email", "mailto:both");
+    both.startconnect = both.startmobile = "1";
+    m_plugin.load(QuickLinkRecordList() << markedLinks(other, "mailto:other") << markedLinks(m_event, "mailto:own")
+                                        << both << markedLinks(m_event, "http://own")
+                                        << markedLinks(other, "http://other"));
+    tellEvent();
+    QCOMPARE(host().openings, listed("desktop mailto:own|desktop mailto:both|host http://own"));
     host().openings.clear();
-    tell(m_plugin.page, ConnectionUp);
-    QCOMPARE(host().openings, listed("desktop mailto:connection|desktop mailto:both|host http://connection"));
-}
-
-void AutomaticLaunchTest::linksOfTheFile_data()
-{
-    eventRows();
+    tell(m_plugin.page, other);
+    QCOMPARE(host().openings, listed("desktop mailto:other|desktop mailto:both|host http://other"));
 }
 
 void AutomaticLaunchTest::linksOfTheFile()
 {
-    QFETCH(Event, event);
-    const QList<QuickLinkRecord> links = QList<QuickLinkRecord>() << marked(event, "internet", "http://a/?x=1&y=2")
-                                                                  << marked(event, "application", "/my clock")
-                                                                  << marked(event, "email", "mailto:", "0");
-    QVERIFY(host().writeConfig(configDocument("1", "3", links)));
+    const QuickLinkRecordList links = markedLinks(m_event, "http://a/?x=1&y=2|/my clock|-mailto:");
+    QVERIFY(host().writeConfig(configDocument("1", "3", links.toList())));
     m_plugin.page->Init();
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().openings, listed("desktop /my clock|host http://a/?x=1&y=2"));
-}
-
-void AutomaticLaunchTest::thousandLinks_data()
-{
-    eventRows();
 }
 
 void AutomaticLaunchTest::thousandLinks()
 {
-    QFETCH(Event, event);
     QuickLinkRecordList links;
     QStringList expected;
     for (int i = 0; i < 1000; ++i) {
-        const QByteArray mail = "mailto:" + QByteArray::number(i);
-        links << marked(event, "email", mail.constData()) << marked(event, "internet", QByteArray("http://" + mail));
-        expected << "desktop " + QString::fromLatin1(mail);
+        const QByteArray number = QByteArray::number(i);
+        links << markedLinks(m_event, QByteArray("mailto:" + number + "|http://" + number).constData());
+        expected << "desktop mailto:" + number;
     }
-    expected << "host http://mailto:999";
+    expected << "host http://999";
     m_plugin.load(links);
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().openings, expected);
-}
-
-void AutomaticLaunchTest::nothingElseHappens_data()
-{
-    eventRows();
 }
 
 void AutomaticLaunchTest::nothingElseHappens()
 {
-    QFETCH(Event, event);
-    const QuickLinkRecordList links = QuickLinkRecordList()
-                                      << marked(event, "internet", "bad") << marked(event, "email", "mailto:");
+    const QuickLinkRecordList links = markedLinks(m_event, "bad|mailto:");
     m_plugin.load(links);
-    tell(m_plugin.page, event);
+    tellEvent();
     QCOMPARE(host().messages.size(), 0);
     QCOMPARE(host().notifications, QStringList());
     QVERIFY(host().readConfig().isEmpty());
     QVERIFY(m_plugin.page->m_actionMap.isEmpty());
-    QCOMPARE(m_plugin.page->m_recordList->size(), links.size());
-    for (int i = 0; i < links.size(); ++i)
-        QCOMPARE(difference(m_plugin.page->m_recordList->at(i), links.at(i)), QString());
-}
-
-void AutomaticLaunchTest::withoutList_data()
-{
-    eventRows();
+    QCOMPARE(listDifference(*m_plugin.page->m_recordList, links), QString());
 }
 
 void AutomaticLaunchTest::withoutList()
 {
-    QFETCH(Event, event);
-    const QString pattern = tracePattern(event == ConnectionUp ? "Arg is NULL: %T: %F: launchOnConnection %L"
-                                                               : "Arg is NULL: %T: %F: launchOnSoftwareLaunch %L");
+    const QString pattern = tracePattern(m_event == ConnectionUp ? "Arg is NULL: %T: %F: launchOnConnection %L"
+                                                                 : "Arg is NULL: %T: %F: launchOnSoftwareLaunch %L");
     {
         RecordingTrace trace;
-        QCOMPARE(tell(m_plugin.page, event), 0);
+        QCOMPARE(tellEvent(), 0);
         QCOMPARE(trace.countDebug(pattern), 1);
         QCOMPARE(trace.warningLines, QStringList());
     }
-    m_plugin.load(QuickLinkRecordList() << marked(event, "email", "mailto:"));
+    m_plugin.load(markedLinks(m_event, "mailto:"));
     {
         RecordingTrace trace;
-        tell(m_plugin.page, event);
+        tellEvent();
         QCOMPARE(trace.countDebug(pattern), 0);
     }
     QCOMPARE(host().openings.size(), 1);
     m_plugin.page->OnDestroy();
-    QCOMPARE(tell(m_plugin.page, event), 0);
+    QCOMPARE(tellEvent(), 0);
     QCOMPARE(host().openings.size(), 1);
 }
 

@@ -104,7 +104,7 @@ private Q_SLOTS:
     void languageBackAgain();
 
 private:
-    ShownPage m_shown;
+    LanguagePage m_shown;
     QuickLinkSettingPluginDlg* m_page;
 };
 

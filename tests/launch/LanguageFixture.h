@@ -9,7 +9,7 @@
 #include "LoadedPlugin.h"
 
 /** A plug-in with two links whose settings page is shown in English. */
-class ShownPage
+class LanguagePage
 {
 public:
     void make()

@@ -1,80 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The language notification: which texts are set again, and when it is answered with -1.
+// The language notification: which texts of the page are set again, and when it is answered with -1.
 
 #include <QLabel>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTableWidget>
 
-#include "LanguageFixture.h"
 #include "QuickLinkSettingNewEditDlg.h"
+#include "ShownPage.h"
 #include "Test.h"
-
-/** Puts another pointer into a member of the page and gives the one that was there. */
-typedef void* (*Exchange)(QuickLinkSettingPluginDlg*, void*);
-Q_DECLARE_METATYPE(Exchange)
-
-/** The text of one widget. */
-typedef QString (*PageText)(const QuickLinkSettingPluginDlg*);
-Q_DECLARE_METATYPE(PageText)
 
 namespace
 {
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
-
-template <class T, T* QuickLinkSettingPluginDlg::*member>
-void* exchange(QuickLinkSettingPluginDlg* page, void* value)
-{
-    void* const old = page->*member;
-    page->*member = static_cast<T*>(value);
-    return old;
-}
-
-template <class T, T* QuickLinkSettingPluginDlg::*member>
-QString pageText(const QuickLinkSettingPluginDlg* page)
-{
-    return (page->*member)->text();
-}
-
-QString tabText(const QuickLinkSettingPluginDlg* page)
-{
-    return page->m_QLinkTabWidget->tabText(0);
-}
-
-template <int column>
-QString headerText(const QuickLinkSettingPluginDlg* page)
-{
-    return page->m_QLinkListTblView->horizontalHeaderItem(column)->text();
-}
-
-typedef QuickLinkSettingPluginDlg Page;
-
 const struct {
-    const char* key;
-    PageText text;
-} pageTexts[] = {{"IDS_LINK_SETTING_ORDER", pageText<QLabel, &Page::m_launchOrderLbl>},
-                 {"IDS_LINK_SETTING_UP", pageText<QPushButton, &Page::m_upBtn>},
-                 {"IDS_LINK_SETTING_DOWN", pageText<QPushButton, &Page::m_downBtn>},
-                 {"IDS_LINK_SETTING_TAB", tabText},
-                 {"IDS_LINK_SETTING_NEW", pageText<QPushButton, &Page::m_newBtn>},
-                 {"IDS_LINK_SETTING_EDIT", pageText<QPushButton, &Page::m_editBtn>},
-                 {"IDS_LINK_SETTING_DEL", pageText<QPushButton, &Page::m_deleteBtn>},
-                 {"IDS_LINK_SETTING_NAME", headerText<0>},
-                 {"IDS_LINK_SETTING_TYPE", headerText<1>}};
-
-QStringList textsOf(const Page* page)
-{
-    QStringList texts;
-    for (const auto& entry : pageTexts)
-        texts << entry.text(page);
-    return texts;
-}
-
+    const char *name, *key;
+} widgetTexts[] = {{"m_launchOrderLbl", "IDS_LINK_SETTING_ORDER"}, {"m_upBtn", "IDS_LINK_SETTING_UP"},
+                   {"m_downBtn", "IDS_LINK_SETTING_DOWN"},         {"m_newBtn", "IDS_LINK_SETTING_NEW"},
+                   {"m_editBtn", "IDS_LINK_SETTING_EDIT"},         {"m_deleteBtn", "IDS_LINK_SETTING_DEL"}};
 } // namespace
 
 class PageLanguageTest : public QObject
@@ -82,12 +23,12 @@ class PageLanguageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_shown.make(); }
-    void cleanup() { m_shown.unload(); }
+    void init() { m_page.begin(links("News Mail")); }
+    void cleanup() { m_page.end(); }
 
-    void pageTextsFollow_data();
-    void pageTextsFollow();
+    void textsFollow();
     void cellsDoNotFollow();
+    void headerItemsFollowTogether_data();
     void headerItemsFollowTogether();
     void statesStay();
     void onlyThePluginsContext();
@@ -101,165 +42,166 @@ private Q_SLOTS:
     void emptyTableFollows();
 
 private:
-    ShownPage m_shown;
+    static FakeHost& host() { return FakeHost::instance(); }
+    /** The host changes its language and tells it. The plug-in's answer. */
+    int changeLanguage();
+    /** The keys shown on the page, each with its language before it. */
+    QStringList texts() const;
+    static QStringList textsIn(const QString& language);
+
+    ShownPage m_page;
 };
 
-void PageLanguageTest::pageTextsFollow_data()
+int PageLanguageTest::changeLanguage()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<PageText>("text");
-    for (const auto& entry : pageTexts)
-        QTest::newRow(entry.key) << QString::fromLatin1(entry.key) << entry.text;
+    host().language = "de";
+    return m_page.page->Notify(1024, 0, 0);
 }
 
-void PageLanguageTest::pageTextsFollow()
+QStringList PageLanguageTest::texts() const
 {
-    QFETCH(QString, key);
-    QFETCH(PageText, text);
-    QCOMPARE(text(m_shown.plugin.page), "en:" + key);
-    QCOMPARE(m_shown.changeLanguage(), 0);
-    QCOMPARE(text(m_shown.plugin.page), "de:" + key);
+    const QWidget* const widget = m_page.page->m_pageWidget;
+    QStringList shownTexts;
+    for (const auto& entry : widgetTexts)
+        shownTexts << widget->findChild<QWidget*>(entry.name)->property("text").toString();
+    return shownTexts << widget->findChild<QTabWidget*>()->tabText(0) << m_page.table()->horizontalHeaderItem(0)->text()
+                      << m_page.table()->horizontalHeaderItem(1)->text();
+}
+
+QStringList PageLanguageTest::textsIn(const QString& language)
+{
+    QStringList expected;
+    for (const auto& entry : widgetTexts)
+        expected << language + ':' + entry.key;
+    return expected << language + ":IDS_LINK_SETTING_TAB" << language + ":IDS_LINK_SETTING_NAME"
+                    << language + ":IDS_LINK_SETTING_TYPE";
+}
+
+void PageLanguageTest::textsFollow()
+{
+    QCOMPARE(texts(), textsIn("en"));
+    QCOMPARE(changeLanguage(), 0);
+    QCOMPARE(texts(), textsIn("de"));
 }
 
 void PageLanguageTest::cellsDoNotFollow()
 {
-    m_shown.changeLanguage();
-    const QTableWidget* const table = m_shown.plugin.page->m_QLinkListTblView;
-    QCOMPARE(table->item(0, 0)->text(), QString::fromUtf8("News"));
-    QCOMPARE(table->item(0, 1)->text(), QString::fromUtf8("en:IDS_LINK_TYPE_INTERNET"));
-    QCOMPARE(table->item(1, 1)->text(), QString::fromUtf8("en:IDS_LINK_TYPE_E-MAIL"));
+    changeLanguage();
+    QCOMPARE(m_page.shownNames(), "News Mail");
+    QCOMPARE(m_page.table()->item(0, 1)->text(), "en:IDS_LINK_TYPE_INTERNET");
+    QCOMPARE(m_page.table()->item(1, 1)->text(), "en:IDS_LINK_TYPE_E-MAIL");
+}
+
+void PageLanguageTest::headerItemsFollowTogether_data()
+{
+    QTest::addColumn<bool>("isNameMissing");
+    QTest::newRow("no m_nameHeaderItem") << true;
+    QTest::newRow("no m_typeHeaderItem") << false;
 }
 
 void PageLanguageTest::headerItemsFollowTogether()
 {
-    Page* const page = m_shown.plugin.page;
-    QTableWidgetItem* const name = page->m_nameHeaderItem;
-    QTableWidgetItem* const type = page->m_typeHeaderItem;
-    page->m_nameHeaderItem = nullptr;
-    const int answerWithoutName = m_shown.changeLanguage();
-    const QString typeText = type->text();
-    page->m_nameHeaderItem = name;
-    page->m_typeHeaderItem = nullptr;
-    const int answerWithoutType = m_shown.changeLanguage();
-    const QString nameText = name->text();
-    page->m_typeHeaderItem = type;
-    QCOMPARE(answerWithoutName, 0);
-    QCOMPARE(answerWithoutType, 0);
-    QCOMPARE(typeText, QString::fromUtf8("en:IDS_LINK_SETTING_TYPE"));
-    QCOMPARE(nameText, QString::fromUtf8("en:IDS_LINK_SETTING_NAME"));
-    QCOMPARE(page->m_upBtn->text(), QString::fromUtf8("de:IDS_LINK_SETTING_UP"));
-    QCOMPARE(m_shown.changeLanguage(), 0);
-    QCOMPARE(name->text(), QString::fromUtf8("de:IDS_LINK_SETTING_NAME"));
-    QCOMPARE(type->text(), QString::fromUtf8("de:IDS_LINK_SETTING_TYPE"));
+    QFETCH(bool, isNameMissing);
+    QStringList expected = textsIn("de");
+    expected[7] = "en:IDS_LINK_SETTING_NAME";
+    expected[8] = "en:IDS_LINK_SETTING_TYPE";
+    {
+        QTableWidgetItem* none = nullptr;
+        Replaced<QTableWidgetItem> missing(
+            isNameMissing ? m_page.page->m_nameHeaderItem : m_page.page->m_typeHeaderItem, none);
+        QCOMPARE(changeLanguage(), 0);
+    }
+    QCOMPARE(texts(), expected);
+    QCOMPARE(changeLanguage(), 0);
+    QCOMPARE(texts(), textsIn("de"));
 }
 
 void PageLanguageTest::statesStay()
 {
-    Page* const page = m_shown.plugin.page;
-    page->m_QLinkListTblView->setCurrentCell(1, 0);
-    m_shown.changeLanguage();
-    QCOMPARE(page->m_QLinkListTblView->currentRow(), 1);
-    QCOMPARE(page->m_QLinkListTblView->rowCount(), 2);
-    QVERIFY(page->m_upBtn->isEnabled());
-    QVERIFY(!page->m_downBtn->isEnabled());
-    QVERIFY(page->m_newBtn->isEnabled() && page->m_editBtn->isEnabled() && page->m_deleteBtn->isEnabled());
-    QCOMPARE(page->m_QLinkTabWidget->count(), 1);
-    QVERIFY(!page->m_editDlg && !page->m_newDlg);
+    m_page.select(1);
+    changeLanguage();
+    QCOMPARE(m_page.currentRow(), 1);
+    QCOMPARE(m_page.table()->rowCount(), 2);
+    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
+    QCOMPARE(m_page.page->m_pageWidget->findChild<QTabWidget*>()->count(), 1);
+    QCOMPARE(m_page.liveFrames(), 0);
     QCOMPARE(host().openings, QStringList());
     QCOMPARE(host().lookups.size(), 0);
 }
 
 void PageLanguageTest::onlyThePluginsContext()
 {
-    m_shown.plugin.page->onEditBtnClick();
+    m_page.click("m_editBtn");
     host().translationContexts.clear();
-    m_shown.changeLanguage();
-    QCOMPARE(host().translationContexts, QStringList() << "QuickLinkUIPlugin");
+    changeLanguage();
+    QCOMPARE(host().translationContexts, QStringList("QuickLinkUIPlugin"));
 }
 
 void PageLanguageTest::missingMemberAnswersMinusOne_data()
 {
-    QTest::addColumn<Exchange>("member");
-    QTest::newRow("m_pageWidget") << Exchange(exchange<QWidget, &Page::m_pageWidget>);
-    QTest::newRow("m_QLinkTabWidget") << Exchange(exchange<QTabWidget, &Page::m_QLinkTabWidget>);
-    QTest::newRow("m_QLinkTab") << Exchange(exchange<QWidget, &Page::m_QLinkTab>);
-    QTest::newRow("m_QLinkListTblView") << Exchange(exchange<QTableWidget, &Page::m_QLinkListTblView>);
-    QTest::newRow("m_launchOrderLbl") << Exchange(exchange<QLabel, &Page::m_launchOrderLbl>);
-    QTest::newRow("m_upBtn") << Exchange(exchange<QPushButton, &Page::m_upBtn>);
-    QTest::newRow("m_downBtn") << Exchange(exchange<QPushButton, &Page::m_downBtn>);
-    QTest::newRow("m_newBtn") << Exchange(exchange<QPushButton, &Page::m_newBtn>);
-    QTest::newRow("m_editBtn") << Exchange(exchange<QPushButton, &Page::m_editBtn>);
-    QTest::newRow("m_deleteBtn") << Exchange(exchange<QPushButton, &Page::m_deleteBtn>);
+    addMemberRows(names("m_pageWidget m_QLinkTabWidget m_QLinkTab m_QLinkListTblView m_launchOrderLbl m_upBtn "
+                        "m_downBtn m_newBtn m_editBtn m_deleteBtn"));
 }
 
 void PageLanguageTest::missingMemberAnswersMinusOne()
 {
-    QFETCH(Exchange, member);
-    Page* const page = m_shown.plugin.page;
-    page->onEditBtnClick();
-    const QStringList pageBefore = textsOf(page);
+    QFETCH(QString, member);
+    m_page.click("m_editBtn");
     host().translationContexts.clear();
-    int answer = 0;
-    int traced = 0;
-    void* const widget = member(page, nullptr);
     {
+        const NullMember missing(memberOf(m_page.page, member));
         RecordingTrace trace;
-        answer = m_shown.changeLanguage();
-        traced = trace.countDebug(tracePattern("Arg is NULL: %T: %F: [A-Za-z]+ %L"));
+        QCOMPARE(changeLanguage(), -1);
+        QCOMPARE(trace.countDebug(nullTrace("[A-Za-z]+")), 1);
     }
-    member(page, widget);
-    QVERIFY(widget);
-    QCOMPARE(answer, -1);
-    QCOMPARE(traced, 1);
-    QCOMPARE(textsOf(page), pageBefore);
-    QCOMPARE(page->m_editDlg->m_okBtn->text(), QString::fromUtf8("en:IDS_LINK_SETTING_NEW_OK"));
+    QCOMPARE(texts(), textsIn("en"));
+    QCOMPARE(m_page.inDialog<QPushButton>("m_okBtn")->text(), "en:IDS_LINK_SETTING_NEW_OK");
     QCOMPARE(host().translationContexts, QStringList());
-    QCOMPARE(m_shown.changeLanguage(), 0);
+    QCOMPARE(changeLanguage(), 0);
 }
 
 void PageLanguageTest::layoutsAreNotNeeded()
 {
-    Page* const page = m_shown.plugin.page;
-    QHBoxLayout* const layout = page->m_pageLayout;
-    page->m_pageLayout = nullptr;
-    const int answer = m_shown.changeLanguage();
-    page->m_pageLayout = layout;
-    QCOMPARE(answer, 0);
-    QCOMPARE(page->m_newBtn->text(), QString::fromUtf8("de:IDS_LINK_SETTING_NEW"));
+    const NullMember missing(memberOf(m_page.page, "m_pageLayout"));
+    QCOMPARE(changeLanguage(), 0);
+    QCOMPARE(texts(), textsIn("de"));
 }
 
 void PageLanguageTest::pageThatIsGone_data()
 {
     QTest::addColumn<QString>("how");
-    QTest::newRow("never shown") << QString::fromUtf8("never");
-    QTest::newRow("never even loaded") << QString::fromUtf8("unloaded");
-    QTest::newRow("parent deleted by the host") << QString::fromUtf8("parent");
-    QTest::newRow("page deleted by the host") << QString::fromUtf8("page");
-    QTest::newRow("plug-in ended") << QString::fromUtf8("end");
+    QTest::addColumn<bool>("mayBeShownAgain");
+    QTest::newRow("never shown") << "never" << false;
+    QTest::newRow("never even loaded") << "unloaded" << false;
+    QTest::newRow("parent deleted by the host") << "parent" << true;
+    QTest::newRow("page deleted by the host") << "page" << true;
+    QTest::newRow("plug-in ended") << "end" << false;
 }
 
 void PageLanguageTest::pageThatIsGone()
 {
     QFETCH(QString, how);
+    QFETCH(bool, mayBeShownAgain);
     if (how == "never" || how == "unloaded") {
-        m_shown.plugin.unload();
-        m_shown.plugin.make();
+        m_page.end();
+        m_page.make();
         if (how == "never")
-            m_shown.plugin.page->Init();
+            m_page.page->Init();
     } else if (how == "parent") {
-        m_shown.plugin.page->onEditBtnClick();
-        m_shown.parent.reset();
+        m_page.click("m_editBtn");
+        delete m_page.host;
+        m_page.host = new QWidget;
     } else if (how == "page") {
-        delete m_shown.plugin.page->m_pageWidget;
+        delete m_page.page->m_pageWidget;
     } else {
-        m_shown.plugin.page->OnDestroy();
+        m_page.page->OnDestroy();
     }
     host().translationContexts.clear();
-    QCOMPARE(m_shown.changeLanguage(), -1);
+    QCOMPARE(changeLanguage(), -1);
     QCOMPARE(host().translationContexts, QStringList());
-    if (how == "parent" || how == "page") {
-        m_shown.show();
-        QCOMPARE(m_shown.changeLanguage(), 0);
+    if (mayBeShownAgain) {
+        m_page.show();
+        QCOMPARE(changeLanguage(), 0);
     }
 }
 
@@ -273,21 +215,21 @@ void PageLanguageTest::pageThatIsOnlyHidden_data()
 void PageLanguageTest::pageThatIsOnlyHidden()
 {
     QFETCH(bool, isCancelled);
-    m_shown.plugin.page->HideSetting();
+    m_page.page->HideSetting();
     if (isCancelled)
-        m_shown.plugin.page->OnClickSettingCancelButton();
-    QCOMPARE(m_shown.changeLanguage(), 0);
-    QCOMPARE(m_shown.plugin.page->m_newBtn->text(), QString::fromUtf8("de:IDS_LINK_SETTING_NEW"));
-    QVERIFY(!m_shown.plugin.page->m_pageWidget->isVisible());
+        m_page.page->OnClickSettingCancelButton();
+    QCOMPARE(changeLanguage(), 0);
+    QCOMPARE(texts(), textsIn("de"));
+    QVERIFY(!m_page.page->m_pageWidget->isVisible());
 }
 
 void PageLanguageTest::emptyTableFollows()
 {
-    m_shown.plugin.page->m_recordList->clear();
-    m_shown.show();
-    QCOMPARE(m_shown.plugin.page->m_QLinkListTblView->rowCount(), 0);
-    QCOMPARE(m_shown.changeLanguage(), 0);
-    QCOMPARE(m_shown.plugin.page->m_nameHeaderItem->text(), QString::fromUtf8("de:IDS_LINK_SETTING_NAME"));
+    m_page.page->m_recordList->clear();
+    m_page.show();
+    QCOMPARE(m_page.table()->rowCount(), 0);
+    QCOMPARE(changeLanguage(), 0);
+    QCOMPARE(texts(), textsIn("de"));
 }
 
 REGISTER_TEST(PageLanguageTest)

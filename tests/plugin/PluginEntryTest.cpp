@@ -3,7 +3,6 @@
 
 // The two functions that the plug-in loader calls.
 
-
 #include "FakeHost.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "Test.h"
@@ -37,7 +36,7 @@ void PluginEntryTest::objectIsThePlugin()
 {
     QObject* const object = qt_plugin_instance();
     QVERIFY(qobject_cast<QuickLinkSettingPluginDlg*>(object));
-    QCOMPARE(QByteArray(object->metaObject()->className()), QByteArray("QuickLinkSettingPluginDlg"));
+    QCOMPARE(QByteArray(object->metaObject()->className()), "QuickLinkSettingPluginDlg");
     QVERIFY(!object->parent());
 }
 

@@ -3,12 +3,9 @@
 
 // The answers to the host that never change.
 
-
 #include <climits>
 
-#include "FakeHost.h"
-#include "QuickLinkSettingPluginDlg.h"
-#include "RecordingTrace.h"
+#include "LoadedPlugin.h"
 #include "Test.h"
 
 class PluginIdentityTest : public QObject
@@ -16,83 +13,47 @@ class PluginIdentityTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_plugin.make(); }
+    void cleanup() { m_plugin.unload(); }
 
-    void number_data();
-    void number();
-    void text_data();
-    void text();
+    void answersNeverChange();
     void queryInterfaceFindsNothing_data();
     void queryInterfaceFindsNothing();
     void releaseOnlyTraces();
 
 private:
-    QuickLinkSettingPluginDlg* m_plugin;
+    QStringList answers();
+
+    LoadedPlugin m_plugin;
 };
 
-void PluginIdentityTest::init()
+QStringList PluginIdentityTest::answers()
 {
-    FakeHost::instance().reset();
-    m_plugin = new QuickLinkSettingPluginDlg;
+    const QString numbers =
+        "GetVersion %1, GetPluginType %2, IsReady %3, IsAllowRelease %4, DoModal %5, GetLastError %6";
+    QuickLinkSettingPluginDlg* const plugin = m_plugin.page;
+    return QStringList() << plugin->GetPluginName() << plugin->GetCLSID()
+                         << numbers.arg(plugin->GetVersion())
+                                .arg(plugin->GetPluginType())
+                                .arg(plugin->IsReady())
+                                .arg(plugin->IsAllowRelease())
+                                .arg(plugin->DoModal())
+                                .arg(plugin->GetLastError());
 }
 
-void PluginIdentityTest::cleanup()
+void PluginIdentityTest::answersNeverChange()
 {
-    m_plugin->OnDestroy();
-    delete m_plugin;
-}
-
-typedef int (QuickLinkSettingPluginDlg::*NumberAnswer)();
-typedef QString (QuickLinkSettingPluginDlg::*TextAnswer)();
-Q_DECLARE_METATYPE(NumberAnswer)
-Q_DECLARE_METATYPE(TextAnswer)
-
-void PluginIdentityTest::number_data()
-{
-    QTest::addColumn<NumberAnswer>("answer");
-    QTest::addColumn<int>("expected");
-    typedef QuickLinkSettingPluginDlg Plugin;
-    QTest::newRow("GetVersion") << static_cast<NumberAnswer>(&Plugin::GetVersion) << 257;
-    QTest::newRow("GetPluginType") << static_cast<NumberAnswer>(&Plugin::GetPluginType) << 0;
-    QTest::newRow("IsReady") << static_cast<NumberAnswer>(&Plugin::IsReady) << 0;
-    QTest::newRow("IsAllowRelease") << static_cast<NumberAnswer>(&Plugin::IsAllowRelease) << 0;
-    QTest::newRow("DoModal") << static_cast<NumberAnswer>(&Plugin::DoModal) << 0;
-    QTest::newRow("GetLastError") << static_cast<NumberAnswer>(&Plugin::GetLastError) << 0;
-    QTest::newRow("Init") << static_cast<NumberAnswer>(&Plugin::Init) << 1;
-}
-
-void PluginIdentityTest::number()
-{
-    QFETCH(NumberAnswer, answer);
-    QFETCH(int, expected);
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->Init();
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->OnDestroy();
-    QCOMPARE((m_plugin->*answer)(), expected);
-}
-
-void PluginIdentityTest::text_data()
-{
-    QTest::addColumn<TextAnswer>("answer");
-    QTest::addColumn<QString>("expected");
-    typedef QuickLinkSettingPluginDlg Plugin;
-    QTest::newRow("GetPluginName") << static_cast<TextAnswer>(&Plugin::GetPluginName)
-                                   << "QuickLinkUIPlugin";
-    QTest::newRow("GetCLSID") << static_cast<TextAnswer>(&Plugin::GetCLSID)
-                              << "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6";
-}
-
-void PluginIdentityTest::text()
-{
-    QFETCH(TextAnswer, answer);
-    QFETCH(QString, expected);
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->Init();
-    QCOMPARE((m_plugin->*answer)(), expected);
-    m_plugin->OnDestroy();
-    QCOMPARE((m_plugin->*answer)(), expected);
+    const QStringList expected =
+        QStringList() << "QuickLinkUIPlugin"
+                      << "3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6"
+                      << "GetVersion 257, GetPluginType 0, IsReady 0, IsAllowRelease 0, DoModal 0, GetLastError 0";
+    QCOMPARE(answers(), expected);
+    QCOMPARE(m_plugin.page->Init(), 1);
+    QCOMPARE(m_plugin.page->Init(), 1);
+    QCOMPARE(answers(), expected);
+    m_plugin.page->OnDestroy();
+    QCOMPARE(answers(), expected);
+    QCOMPARE(m_plugin.page->Init(), 1);
 }
 
 void PluginIdentityTest::queryInterfaceFindsNothing_data()
@@ -111,26 +72,24 @@ void PluginIdentityTest::queryInterfaceFindsNothing()
     QFETCH(int, number);
     QFETCH(bool, hasOutPointer);
     QObject* found = this;
-    QCOMPARE(m_plugin->QueryInterface(number, hasOutPointer ? &found : nullptr), 0);
+    QCOMPARE(m_plugin.page->QueryInterface(number, hasOutPointer ? &found : nullptr), 0);
     QCOMPARE(found, this);
 }
 
 void PluginIdentityTest::releaseOnlyTraces()
 {
-    m_plugin->Init();
+    m_plugin.page->Init();
     QuickLinkSettingPluginDlg* const single = QuickLinkSettingPluginDlg::m_pInstance;
-    QPointer<QObject> alive(m_plugin);
+    QPointer<QObject> alive(m_plugin.page);
     RecordingTrace trace;
-    m_plugin->Release();
-    const QString place = QLatin1String(TracePattern::file) + ": Release: " +
-                          QLatin1String(TracePattern::line) + ": ";
-    QCOMPARE(
-        trace.debugDifference(QStringList() << "Start of " + place << "End of " + place),
-        QString());
+    m_plugin.page->Release();
+    QCOMPARE(trace.debugDifference(QStringList() << tracePattern("Start of %F: Release: %L: ")
+                                                 << tracePattern("End of %F: Release: %L: ")),
+             QString());
     QVERIFY(alive);
     QCOMPARE(QuickLinkSettingPluginDlg::m_pInstance, single);
-    QVERIFY(m_plugin->m_store);
-    QVERIFY(m_plugin->m_recordList);
+    QVERIFY(m_plugin.page->m_store);
+    QVERIFY(m_plugin.page->m_recordList);
 }
 
 REGISTER_TEST(PluginIdentityTest)

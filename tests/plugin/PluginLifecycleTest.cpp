@@ -3,7 +3,6 @@
 
 // The object's beginning: made, Init(), its caption, the single object, its end by the destructor.
 
-
 #include <cstring>
 #include <new>
 
@@ -54,9 +53,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void pointerStartsNull_data();
-    void pointerStartsNull();
-    void otherMembersStartEmpty();
+    void membersStartEmpty();
     void initAnswersTrue_data();
     void initAnswersTrue();
     void initTakesStoreAndList();
@@ -93,22 +90,10 @@ void PluginLifecycleTest::cleanup()
     QuickLinkXmlParse::Destroy();
 }
 
-void PluginLifecycleTest::pointerStartsNull_data()
-{
-    QuickLinkSettingPluginDlg plugin;
-    addMemberRows(&plugin);
-}
-
-void PluginLifecycleTest::pointerStartsNull()
-{
-    QFETCH(int, index);
-    DirtyPlugin dirty;
-    QVERIFY(!releasedMembers(dirty.plugin).at(index).pointer);
-}
-
-void PluginLifecycleTest::otherMembersStartEmpty()
+void PluginLifecycleTest::membersStartEmpty()
 {
     DirtyPlugin dirty;
+    QCOMPARE(releasedMembersThatAre(false, dirty.plugin), QStringList());
     QVERIFY(!dirty.plugin->m_parentWidget);
     QVERIFY(!dirty.plugin->m_isEditing);
     QVERIFY(dirty.plugin->m_actionMap.isEmpty());
@@ -188,27 +173,28 @@ void PluginLifecycleTest::traceOfInit()
 {
     RecordingTrace trace;
     m_plugin->Init();
-    const QString called = QLatin1String(TracePattern::time) + ": " + QLatin1String(TracePattern::file) +
-                           ": Init: called";
+    const QString called = tracePattern("%T: %F: Init: called");
     QCOMPARE(trace.countDebug(called), 1);
     QCOMPARE(trace.countDebug("File .* is not present"), 1);
-    QCOMPARE(trace.debugLines.value(0), trace.debugLines.filter(": called").value(0));
+    QVERIFY(trace.debugLines.first().endsWith(": Init: called"));
 }
 
 void PluginLifecycleTest::moduleName_data()
 {
     QTest::addColumn<QByteArray>("element");
     QTest::addColumn<bool>("hasName");
+    const char* const rows[][2] = {{"1", "<Visible>1</Visible>"},
+                                   {"empty", "<Visible></Visible>"},
+                                   {"blank before 0", "<Visible> 0</Visible>"},
+                                   {"blank after 0", "<Visible>0 </Visible>"},
+                                   {"00", "<Visible>00</Visible>"},
+                                   {"false", "<Visible>false</Visible>"},
+                                   {"no", "<Visible>no</Visible>"},
+                                   {"no element", ""},
+                                   {"0 after the menu", "<menu/><Visible>0</Visible>"}};
     QTest::newRow("0") << QByteArray("<Visible>0</Visible>") << false;
-    QTest::newRow("1") << QByteArray("<Visible>1</Visible>") << true;
-    QTest::newRow("empty") << QByteArray("<Visible></Visible>") << true;
-    QTest::newRow("blank before 0") << QByteArray("<Visible> 0</Visible>") << true;
-    QTest::newRow("blank after 0") << QByteArray("<Visible>0 </Visible>") << true;
-    QTest::newRow("00") << QByteArray("<Visible>00</Visible>") << true;
-    QTest::newRow("false") << QByteArray("<Visible>false</Visible>") << true;
-    QTest::newRow("no") << QByteArray("<Visible>no</Visible>") << true;
-    QTest::newRow("no element") << QByteArray() << true;
-    QTest::newRow("0 after the menu") << QByteArray("<menu/><Visible>0</Visible>") << true;
+    for (const auto& row : rows)
+        QTest::newRow(row[0]) << QByteArray(row[1]) << true;
 }
 
 void PluginLifecycleTest::moduleName()
@@ -241,9 +227,7 @@ void PluginLifecycleTest::traceOfModuleName()
 {
     RecordingTrace trace;
     m_plugin->GetModuleName();
-    const QString line = "Returning Module Name " + QLatin1String(TracePattern::file) +
-                         ": GetModuleName: " + QLatin1String(TracePattern::line) + ": ";
-    QCOMPARE(trace.countDebug(line), 1);
+    QCOMPARE(trace.countDebug(tracePattern("Returning Module Name %F: GetModuleName: %L: ")), 1);
 }
 
 void PluginLifecycleTest::getInstanceMakesOne()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The installed module in the hands of the toolkit's own plug-in loader, with the real host libraries behind it. The same
-// program for every Qt: what differs between them is what the loader asks of the file.
+// The installed module in the hands of the toolkit's own plug-in loader, with the real host libraries behind it. The
+// same program for every Qt: what differs between them is what the loader asks of the file.
 
 #include <QAction>
 #include <QDesktopServices>
@@ -86,6 +86,8 @@ void PluginLoaderTest::cleanup()
     if (m_loader->isLoaded() && m_loader->instance())
         plugin<IBasePlugin>()->OnDestroy();
     m_loader->unload();
+    // Before the next one is made: Qt 4 would take a file that is unloaded, but still known, for loaded.
+    m_loader.reset();
 }
 
 QTableWidget* PluginLoaderTest::table(const QWidget& parent)

@@ -3,11 +3,7 @@
 
 // OnDestroy(): what goes, in which order, and that it may be called again.
 
-
-#include "ExtendDialog.h"
-#include "FakeHost.h"
 #include "PluginMembers.h"
-#include "RecordingTrace.h"
 #include "Test.h"
 
 namespace
@@ -22,13 +18,14 @@ public:
         bool hasRowRecords, hasList, hasStore, storeHasList;
     };
 
-    explicit Witness(QuickLinkSettingPluginDlg* plugin)
-        : m_plugin(plugin)
-        , m_sharedList(*plugin->m_recordList)
+    explicit Witness(const ShownPage& shown)
+        : m_rowRecord(shown.recordOf(0))
+        , m_sharedList(*shown.page->m_recordList)
     {
-        for (const PluginMember& member : releasedMembers(plugin)) {
+        const QList<PointerMember> members = releasedMembers(shown.page);
+        for (const PointerMember& member : members) {
             if (member.object)
-                watch(member.object, QLatin1String(member.name));
+                watch(member.object, member.name);
         }
     }
 
@@ -50,13 +47,13 @@ private Q_SLOTS:
         const QString name = m_names.value(object);
         order.append(name);
         QuickLinkXmlParse* const store = QuickLinkXmlParse::m_spInstance;
-        const Moment moment = {!m_plugin->m_rowRecords.isEmpty(), !m_sharedList.isDetached(), store != nullptr,
+        const Moment moment = {!m_rowRecord.isFreed(), !m_sharedList.isDetached(), store != nullptr,
                                store && store->m_recordList};
         moments.insert(name, moment);
     }
 
 private:
-    QuickLinkSettingPluginDlg* m_plugin;
+    RecordProbe m_rowRecord;
     QuickLinkRecordList m_sharedList; ///< shared with the plug-in's list while that exists
     QMap<QObject*, QString> m_names;
 };
@@ -67,17 +64,13 @@ class PluginTeardownTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void cleanup() { m_page.end(); }
 
-    void memberIsNullAfterwards_data();
-    void memberIsNullAfterwards();
-    void objectsAreDeleted();
+    void everythingIsDeleted();
     void order_data();
     void order();
     void dataGoesInItsStep_data();
     void dataGoesInItsStep();
-    void dialogFramesGoToo();
     void actionMapStays();
     void secondCallDoesNothing();
     void secondCallDestroysNewStore();
@@ -89,64 +82,43 @@ private Q_SLOTS:
     void trace();
 
 private:
+    /** Everything that the object can hold: the page with rows, both dialogs, an action. */
     void buildEverything();
+    void openDialogs();
+    void destroy() { m_page.page->OnDestroy(); }
+    QStringList leftMembers() { return releasedMembersThatAre(false, m_page.page); }
 
-    QuickLinkSettingPluginDlg* m_plugin;
-    QWidget* m_window;
+    ShownPage m_page;
 };
 
-void PluginTeardownTest::init()
-{
-    FakeHost::instance().reset();
-    FakeHost::instance().writeConfig("<tovadoc><menu><item name='a' type='IDS_LINK_TYPE_INTERNET' url='u' edit='1' "
-                                     "delete='1' visible='1'/><item name='b' visible='1'/></menu></tovadoc>");
-    m_plugin = new QuickLinkSettingPluginDlg;
-    m_window = new QWidget;
-}
-
-void PluginTeardownTest::cleanup()
-{
-    m_plugin->OnDestroy();
-    delete m_plugin;
-    delete m_window;
-}
-
-/** Everything that the object can hold: the page with rows, both dialogs, an action. */
 void PluginTeardownTest::buildEverything()
 {
-    m_plugin->Init();
-    QRect area(0, 0, 400, 360);
-    m_plugin->ShowSettingDialog(m_window, area);
-    m_plugin->onNewBtnClick();
-    m_plugin->onEditBtnClick();
-    m_plugin->GetActionFromQuickLink(0);
+    m_page.begin(links("a b"));
+    openDialogs();
 }
 
-void PluginTeardownTest::memberIsNullAfterwards_data()
+void PluginTeardownTest::openDialogs()
 {
-    QuickLinkSettingPluginDlg plugin;
-    addMemberRows(&plugin);
+    m_page.page->onNewBtnClick();
+    m_page.page->onEditBtnClick();
+    m_page.page->GetActionFromQuickLink(0);
 }
 
-void PluginTeardownTest::memberIsNullAfterwards()
-{
-    QFETCH(int, index);
-    buildEverything();
-    QVERIFY(releasedMembers(m_plugin).at(index).pointer);
-    m_plugin->OnDestroy();
-    QVERIFY(!releasedMembers(m_plugin).at(index).pointer);
-}
-
-void PluginTeardownTest::objectsAreDeleted()
+void PluginTeardownTest::everythingIsDeleted()
 {
     buildEverything();
+    QCOMPARE(releasedMembersThatAre(true, m_page.page), QStringList());
     QMap<QString, QPointer<QObject>> objects;
-    for (const PluginMember& member : releasedMembers(m_plugin)) {
+    const QList<PointerMember> members = releasedMembers(m_page.page);
+    for (const PointerMember& member : members) {
         if (member.object)
-            objects.insert(QLatin1String(member.name), member.object);
+            objects.insert(member.name, member.object);
     }
     QCOMPARE(static_cast<int>(objects.size()), 18);
-    m_plugin->OnDestroy();
+    QCOMPARE(m_page.liveFrames(), 2);
+    destroy();
+    QCOMPARE(leftMembers(), QStringList());
+    QCOMPARE(m_page.liveFrames(), 0);
     for (auto object = objects.constBegin(); object != objects.constEnd(); ++object)
         QVERIFY2(!object.value(), qPrintable(object.key()));
 }
@@ -155,35 +127,24 @@ void PluginTeardownTest::order_data()
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
-    const char* const steps[][2] = {{"m_newDlg", "m_gridDelegate"},
-                                    {"m_gridDelegate", "m_QLinkListTblView"},
-                                    {"m_gridDelegate", "m_launchOrderLbl"},
-                                    {"m_gridDelegate", "m_upBtn"},
-                                    {"m_gridDelegate", "m_newBtn"},
-                                    {"m_gridDelegate", "m_editDlg"},
-                                    {"m_gridDelegate", "m_orderButtonsLayout"},
-                                    {"m_gridDelegate", "m_buttonColumnLayout"},
-                                    {"m_QLinkListTblView", "m_pInstance"},
-                                    {"m_launchOrderLbl", "m_pInstance"},
-                                    {"m_upBtn", "m_pInstance"},
-                                    {"m_downBtn", "m_pInstance"},
-                                    {"m_newBtn", "m_pInstance"},
-                                    {"m_editBtn", "m_pInstance"},
-                                    {"m_deleteBtn", "m_pInstance"},
-                                    {"m_pageLayout", "m_pInstance"},
-                                    {"m_tabLayout", "m_pInstance"},
-                                    {"m_buttonColumnLayout", "m_pInstance"},
-                                    {"m_orderButtonsLayout", "m_pInstance"},
-                                    {"m_editDlg", "m_pInstance"},
-                                    {"m_orderButtonsLayout", "m_tabLayout"},
-                                    {"m_buttonColumnLayout", "m_pageLayout"},
-                                    {"m_pInstance", "m_QLinkTab"},
-                                    {"m_pInstance", "m_QLinkTabWidget"},
-                                    {"m_QLinkTab", "m_pageWidget"},
-                                    {"m_QLinkTabWidget", "m_pageWidget"}};
-    for (const auto& step : steps)
-        QTest::newRow(QByteArray(QByteArray(step[0]) + " before " + step[1]).constData())
-            << QString::fromLatin1(step[0]) << QString::fromLatin1(step[1]);
+    // Each of the first before each of the second.
+    const char* const steps[][2] = {
+        {"m_newDlg", "m_gridDelegate"},
+        {"m_gridDelegate", "m_QLinkListTblView m_launchOrderLbl m_upBtn m_newBtn m_editDlg m_orderButtonsLayout "
+                           "m_buttonColumnLayout"},
+        {"m_QLinkListTblView m_launchOrderLbl m_upBtn m_downBtn m_newBtn m_editBtn m_deleteBtn m_pageLayout "
+         "m_tabLayout m_buttonColumnLayout m_orderButtonsLayout m_editDlg",
+         "m_pInstance"},
+        {"m_orderButtonsLayout", "m_tabLayout"},
+        {"m_buttonColumnLayout", "m_pageLayout"},
+        {"m_pInstance", "m_QLinkTab m_QLinkTabWidget"},
+        {"m_QLinkTab m_QLinkTabWidget", "m_pageWidget"}};
+    for (const auto& step : steps) {
+        for (const QString& first : names(step[0])) {
+            for (const QString& second : names(step[1]))
+                QTest::newRow(qPrintable(first + " before " + second)) << first << second;
+        }
+    }
 }
 
 void PluginTeardownTest::order()
@@ -191,8 +152,8 @@ void PluginTeardownTest::order()
     QFETCH(QString, first);
     QFETCH(QString, second);
     buildEverything();
-    Witness witness(m_plugin);
-    m_plugin->OnDestroy();
+    Witness witness(m_page);
+    destroy();
     QVERIFY(witness.place(first) >= 0);
     QVERIFY2(witness.place(first) < witness.place(second), qPrintable(witness.order.join(" ")));
 }
@@ -216,8 +177,8 @@ void PluginTeardownTest::dataGoesInItsStep()
     QFETCH(bool, hasRowRecords);
     QFETCH(bool, hasList);
     buildEverything();
-    Witness witness(m_plugin);
-    m_plugin->OnDestroy();
+    Witness witness(m_page);
+    destroy();
     QVERIFY(witness.moments.contains(object));
     const Witness::Moment moment = witness.moments.value(object);
     QCOMPARE(moment.hasRowRecords, hasRowRecords);
@@ -228,61 +189,49 @@ void PluginTeardownTest::dataGoesInItsStep()
     QVERIFY(!QuickLinkXmlParse::m_spInstance);
 }
 
-void PluginTeardownTest::dialogFramesGoToo()
-{
-    buildEverything();
-    QPointer<QObject> newFrame(m_plugin->m_newDlg->m_frameDialog);
-    QPointer<QObject> editFrame(m_plugin->m_editDlg->m_frameDialog);
-    QVERIFY(newFrame);
-    QVERIFY(editFrame);
-    m_plugin->OnDestroy();
-    QVERIFY(!newFrame);
-    QVERIFY(!editFrame);
-}
-
 void PluginTeardownTest::actionMapStays()
 {
     buildEverything();
-    QCOMPARE(static_cast<int>(m_plugin->m_actionMap.size()), 1);
-    m_plugin->OnDestroy();
-    QCOMPARE(static_cast<int>(m_plugin->m_actionMap.size()), 1);
+    QCOMPARE(static_cast<int>(m_page.page->m_actionMap.size()), 1);
+    destroy();
+    QCOMPARE(static_cast<int>(m_page.page->m_actionMap.size()), 1);
 }
 
 void PluginTeardownTest::secondCallDoesNothing()
 {
     buildEverything();
-    m_plugin->OnDestroy();
+    destroy();
     const QByteArray file = FakeHost::instance().readConfig();
-    m_plugin->OnDestroy();
-    for (const PluginMember& member : releasedMembers(m_plugin))
-        QVERIFY2(!member.pointer, member.name);
+    destroy();
+    QCOMPARE(leftMembers(), QStringList());
     QCOMPARE(FakeHost::instance().readConfig(), file);
-    QCOMPARE(m_plugin->GetQuickLinkRecordSize(), -1);
+    QCOMPARE(m_page.page->GetQuickLinkRecordSize(), -1);
 }
 
 void PluginTeardownTest::secondCallDestroysNewStore()
 {
-    m_plugin->Init();
-    m_plugin->OnDestroy();
+    m_page.beginHidden(links("a"));
+    destroy();
     QuickLinkXmlParse::GetInstance();
-    m_plugin->OnDestroy();
+    destroy();
     QVERIFY(!QuickLinkXmlParse::m_spInstance);
 }
 
 void PluginTeardownTest::neverInitialised()
 {
+    m_page.make();
     QPointer<QuickLinkSettingPluginDlg> single(QuickLinkSettingPluginDlg::GetInstance());
-    m_plugin->OnDestroy();
+    destroy();
     QVERIFY(!single);
     QVERIFY(!QuickLinkSettingPluginDlg::m_pInstance);
 }
 
 void PluginTeardownTest::withoutPage()
 {
-    m_plugin->Init();
-    QuickLinkRecordList copy = *m_plugin->m_recordList;
+    m_page.beginHidden(links("a b"));
+    QuickLinkRecordList copy = *m_page.page->m_recordList;
     QPointer<QuickLinkSettingPluginDlg> single(QuickLinkSettingPluginDlg::m_pInstance);
-    m_plugin->OnDestroy();
+    destroy();
     QVERIFY(copy.isDetached());
     QVERIFY(!single);
     QVERIFY(!QuickLinkXmlParse::m_spInstance);
@@ -290,6 +239,7 @@ void PluginTeardownTest::withoutPage()
 
 void PluginTeardownTest::onTheSingleObjectItself()
 {
+    m_page.make();
     QPointer<QuickLinkSettingPluginDlg> single(QuickLinkSettingPluginDlg::GetInstance());
     single->Init();
     QCOMPARE(QuickLinkSettingPluginDlg::m_pInstance, single.data());
@@ -305,34 +255,34 @@ void PluginTeardownTest::onTheSingleObjectItself()
 void PluginTeardownTest::afterTheHostDeletedThePage()
 {
     buildEverything();
-    delete m_window;
-    m_window = nullptr;
-    m_plugin->OnDestroy();
-    for (const PluginMember& member : releasedMembers(m_plugin))
-        QVERIFY2(!member.pointer, member.name);
-    QVERIFY(m_plugin->m_rowRecords.isEmpty());
+    const RecordProbe rowRecord(m_page.recordOf(0));
+    delete m_page.host;
+    destroy();
+    QCOMPARE(leftMembers(), QStringList());
+    QVERIFY(rowRecord.isFreed());
 }
 
 void PluginTeardownTest::lifeMayBeginAgain()
 {
+    buildEverything();
     for (int life = 0; life < 3; ++life) {
-        buildEverything();
-        QCOMPARE(m_plugin->GetQuickLinkRecordSize(), 2);
+        QCOMPARE(m_page.page->GetQuickLinkRecordSize(), 2);
         QVERIFY(QuickLinkSettingPluginDlg::m_pInstance);
-        m_plugin->OnDestroy();
-        QCOMPARE(m_plugin->GetQuickLinkRecordSize(), -1);
+        destroy();
+        QCOMPARE(m_page.page->GetQuickLinkRecordSize(), -1);
+        m_page.page->Init();
+        m_page.show();
+        openDialogs();
     }
 }
 
 void PluginTeardownTest::trace()
 {
-    m_plugin->Init();
+    m_page.beginHidden(links("a"));
     RecordingTrace recorder;
-    m_plugin->OnDestroy();
-    const QString place = QLatin1String(TracePattern::file) + ": OnDestroy: " +
-                          QLatin1String(TracePattern::line) + ": ";
-    QCOMPARE(recorder.countDebug("Start of " + place), 1);
-    QCOMPARE(recorder.countDebug("End of " + place), 1);
+    destroy();
+    QCOMPARE(recorder.countDebug(tracePattern("Start of %F: OnDestroy: %L: ")), 1);
+    QCOMPARE(recorder.countDebug(tracePattern("End of %F: OnDestroy: %L: ")), 1);
     QCOMPARE(recorder.warningLines, QStringList());
 }
 

@@ -3,14 +3,13 @@
 
 // The time of day in trace lines: right from one second to the next, and in the zone that the host is in.
 
-
 #include <ctime>
 
 #include <QDateTime>
 #include <QTime>
 
-#include "Trace.h"
 #include "Test.h"
+#include "Trace.h"
 
 namespace
 {

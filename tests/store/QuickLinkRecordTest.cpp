@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-
 #include <climits>
 #include <type_traits>
 

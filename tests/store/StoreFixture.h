@@ -5,8 +5,8 @@
 
 #include "FakeHost.h"
 #include "QuickLinkXmlParse.h"
-#include "Records.h"
 #include "RecordingTrace.h"
+#include "Records.h"
 
 /** A fresh store over an empty folder; call begin() in init() and end() in cleanup(). */
 namespace StoreFixture
@@ -56,24 +56,30 @@ inline QString names()
     return result.join(",");
 }
 
-/** The pattern of a line of the store's trace that begins with the time of day; between is the text after it. */
-inline QString stampedLine(const char* between, const char* function, const char* end)
-{
-    return QLatin1String(TracePattern::time) + QLatin1String(between) + QLatin1String(TracePattern::file) +
-           ": " + QLatin1String(function) + ": " + QLatin1String(end);
-}
-
-/** The lines of the reader's trace; each is one of the patterns to hand to RecordingTrace::debugDifference(). */
+/** The patterns of the reader's trace, to hand to RecordingTrace::debugDifference(). */
 inline QStringList readerBeginning()
 {
-    return QStringList() << stampedLine(": ", "ReadXmlInformation", "Entered")
-                         << QLatin1String(TracePattern::file) + ": ReadXmlInformation: ";
+    return QStringList() << tracePattern("%T: %F: ReadXmlInformation: Entered")
+                         << tracePattern("%F: ReadXmlInformation: ");
 }
 
 inline QStringList walkLines()
 {
-    return QStringList() << stampedLine(": ", "parseCallLogConfig", "Entered")
-                         << stampedLine(": ", "parseCallLogConfig", "Exit")
-                         << stampedLine(": ", "parseCallLogConfig", "Exit");
+    const QString exit = tracePattern("%T: %F: parseCallLogConfig: Exit");
+    return QStringList() << tracePattern("%T: %F: parseCallLogConfig: Entered") << exit << exit;
+}
+
+/** The same for the writer, whose second line is not always the one of a success. */
+inline QStringList writerLines(const char* second = "%T : %F: SaveToConfigFile: Exit")
+{
+    return QStringList() << tracePattern("%T : %F: SaveToConfigFile: Entered") << tracePattern(second);
+}
+
+/** An Internet link with that id. */
+inline QuickLinkRecord numbered(const char* id, const char* name)
+{
+    QuickLinkRecord record = makeRecord(name, "internet", "www.example.org");
+    record.id = QLatin1String(id);
+    return record;
 }
 } // namespace StoreFixture

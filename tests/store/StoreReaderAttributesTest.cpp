@@ -3,7 +3,6 @@
 
 // The attributes of an item reach their fields in whatever order they stand, and equal texts are kept once.
 
-
 #include "StoreFixture.h"
 #include "Test.h"
 
@@ -77,8 +76,7 @@ void StoreReaderAttributesTest::anyOrder_data()
     QTest::addColumn<QList<int>>("order");
     QList<int> order = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
     for (int turn = 0; turn < 10; ++turn) {
-        QTest::newRow(qPrintable(QString("begins with %1").arg(QLatin1String(names10[order.first()]))))
-            << order;
+        QTest::newRow(qPrintable(QString("begins with %1").arg(QLatin1String(names10[order.first()])))) << order;
         order.append(order.takeFirst());
     }
     QTest::newRow("backwards") << QList<int>({9, 8, 7, 6, 5, 4, 3, 2, 1, 0});

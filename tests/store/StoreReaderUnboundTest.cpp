@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-
 #include <QBuffer>
 #include <QXmlStreamReader>
 
@@ -69,9 +68,8 @@ void StoreReaderUnboundTest::traceComesBeforeTheWalk()
     isUnbound = true;
     RecordingTrace trace;
     QCOMPARE(readBytes(document("<menu/>")), 13);
-    const QString line = QLatin1String(TracePattern::file) +
-                         ": ReadXmlInformation: StreamReader is not binded with device";
-    QCOMPARE(trace.debugDifference(readerBeginning() + QStringList(line) + walkLines()), QString());
+    const QStringList line(tracePattern("%F: ReadXmlInformation: StreamReader is not binded with device"));
+    QCOMPARE(trace.debugDifference(readerBeginning() + line + walkLines()), QString());
 }
 
 REGISTER_TEST(StoreReaderUnboundTest)

@@ -3,7 +3,6 @@
 
 // What is written comes back: every character that XML allows, in every field.
 
-
 #include "StoreFixture.h"
 #include "Test.h"
 
@@ -20,16 +19,7 @@ QuickLinkRecord filledWith(const QString& text)
     return record;
 }
 
-QString codePoint(uint code)
-{
-#if QT_VERSION >= 0x060000
-    const char32_t character = code;
-    return QString::fromUcs4(&character, 1);
-#else
-    return QString::fromUcs4(&code, 1);
-#endif
-}
-
+/** Whether XML allows the character. */
 bool isAllowed(uint code)
 {
     return code == 0x9 || code == 0xa || code == 0xd || (code >= 0x20 && code <= 0xd7ff) ||
@@ -90,7 +80,7 @@ void StoreRoundtripTest::textInAllFields_data()
     QTest::newRow("last before the surrogates") << codePoint(0xd7ff);
     QTest::newRow("first after the surrogates") << codePoint(0xe000);
     QTest::newRow("replacement character") << codePoint(0xfffd);
-    QTest::newRow("last of all") << codePoint(0x10ffff);
+    QTest::newRow("last that may be exchanged") << codePoint(0x10fffd);
     QTest::newRow("byte order mark") << "a" + codePoint(0xfeff);
     QTest::newRow("long") << QString(100000, 'x');
     QTest::newRow("long and escaped") << QString(100000, '&');
@@ -105,8 +95,7 @@ void StoreRoundtripTest::textInAllFields()
     const QByteArray expected = configDocument("1", QString(), {records.at(0)});
     QVERIFY2(written == expected, written.left(2000).constData());
     QCOMPARE(store()->ReadXmlInformation(), 0);
-    QCOMPARE(store()->m_recordList->size(), 1);
-    QCOMPARE(difference(store()->m_recordList->at(0), records.at(0)), QString());
+    QCOMPARE(listDifference(*store()->m_recordList, records), QString());
 }
 
 void StoreRoundtripTest::textInOneField_data()
@@ -131,8 +120,7 @@ void StoreRoundtripTest::textInOneField()
     QuickLinkRecordList records(1, record);
     QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
     QCOMPARE(store()->ReadXmlInformation(), 0);
-    QCOMPARE(store()->m_recordList->size(), 1);
-    QCOMPARE(difference(store()->m_recordList->at(0), record), QString());
+    QCOMPARE(listDifference(*store()->m_recordList, records), QString());
 }
 
 void StoreRoundtripTest::everyCharacter_data()
@@ -150,7 +138,7 @@ void StoreRoundtripTest::everyCharacter()
     for (uint block = plane << 16; block < (plane + 1) << 16; block += 0x100) {
         QString text;
         for (uint code = block; code < block + 0x100; ++code) {
-            if (isAllowed(code))
+            if (isAllowed(code) && isWritable(code))
                 text += codePoint(code);
         }
         records.append(makeRecord("x", "internet", "u"));
@@ -159,9 +147,7 @@ void StoreRoundtripTest::everyCharacter()
     }
     QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
     QCOMPARE(store()->ReadXmlInformation(), 0);
-    QCOMPARE(store()->m_recordList->size(), 256);
-    for (int i = 0; i < 256; ++i)
-        QCOMPARE(difference(store()->m_recordList->at(i), records.at(i)), QString());
+    QCOMPARE(listDifference(*store()->m_recordList, records), QString());
 }
 
 void StoreRoundtripTest::counterText_data()
@@ -192,9 +178,7 @@ void StoreRoundtripTest::orderAndCount()
         records.append(filledWith(QString::number(i * 7919 % 5000)));
     QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
     QCOMPARE(store()->ReadXmlInformation(), 0);
-    QCOMPARE(store()->m_recordList->size(), 5000);
-    for (int i = 0; i < 5000; ++i)
-        QCOMPARE(store()->m_recordList->at(i).name, records.at(i).name);
+    QCOMPARE(listDifference(*store()->m_recordList, records), QString());
 }
 
 void StoreRoundtripTest::writtenTwiceIsTheSame()

@@ -3,7 +3,6 @@
 
 // Saving where the disk does not play along.
 
-
 #include <sys/mount.h>
 
 #include "ProcessLimits.h"
@@ -121,9 +120,7 @@ void StoreWriterDiskTest::fileThatCannotBeOpened()
         QVERIFY(QFileInfo(host.configPath()).isDir());
     if (how == "gone")
         QVERIFY(!QFile::exists(folder));
-    QCOMPARE(trace.debugDifference(QStringList() << stampedLine(" : ", "SaveToConfigFile", "Entered")
-                                                 << "Error open file: "),
-             QString());
+    QCOMPARE(trace.debugDifference(writerLines("Error open file: ")), QString());
 }
 
 void StoreWriterDiskTest::oldFileIsGoneAfterFailedOpen()
@@ -182,9 +179,7 @@ void StoreWriterDiskTest::writeErrorsAreNotNoticed()
     QVERIFY(host.readConfig().size() <= 100000);
     QCOMPARE(store()->m_currentId, "8");
     QCOMPARE(records.size(), 1000);
-    QCOMPARE(trace.debugDifference(QStringList() << stampedLine(" : ", "SaveToConfigFile", "Entered")
-                                                 << stampedLine(" : ", "SaveToConfigFile", "Exit")),
-             QString());
+    QCOMPARE(trace.debugDifference(writerLines()), QString());
 }
 
 void StoreWriterDiskTest::fullDiskIsNotNoticed()

@@ -1,42 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The written document and the numbering of links.
+// The written document, and what a save leaves alone.
 
-
-#include <climits>
 #include <unistd.h>
 
 #include "StoreFixture.h"
 #include "Test.h"
 
 using namespace StoreFixture;
-
-namespace
-{
-QuickLinkRecord numbered(const char* id, const char* name)
-{
-    QuickLinkRecord record = makeRecord(name, "internet", "www.example.org");
-    record.id = QLatin1String(id);
-    return record;
-}
-
-/** What the settings page does for New: append, save with 0, read back. */
-void addLink(const char* name)
-{
-    store()->m_recordList->append(makeRecord(name, "internet", "www.example.org"));
-    store()->SaveToConfigFile(store()->m_recordList, 0);
-    store()->ReadXmlInformation();
-}
-
-QString idsInMemory()
-{
-    QStringList ids;
-    for (const QuickLinkRecord& record : *store()->m_recordList)
-        ids.append(record.id);
-    return ids.join(",");
-}
-} // namespace
 
 class StoreWriterTest : public QObject
 {
@@ -50,19 +22,11 @@ private Q_SLOTS:
     void documentOfAnyList_data();
     void documentOfAnyList();
     void attributesInFileOrder();
-    void numbering_data();
-    void numbering();
-    void counterAtTheEndOfItsRange();
-    void onlyEmptyIdsAreNumbered();
-    void twoSavesAdvanceTwice();
     void nothingElseChanges_data();
     void nothingElseChanges();
     void visibleBecomesOne_data();
     void visibleBecomesOne();
     void hiddenLinkIsWrittenButNotReadBack();
-    void idsOfNewLinks();
-    void deletedIdIsNotUsedAgain();
-    void editedLinkSharesAnId();
     void oldFileIsReplaced_data();
     void oldFileIsReplaced();
     void oldFileIsRemovedNotOverwritten();
@@ -156,88 +120,6 @@ void StoreWriterTest::attributesInFileOrder()
     QVERIFY2(FakeHost::instance().readConfig().contains(expected), FakeHost::instance().readConfig().constData());
 }
 
-void StoreWriterTest::numbering_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("keepCurrentId");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("no counter yet") << "" << 0 << "1" << "0";
-    QTest::newRow("no counter yet, kept") << "" << 1 << "" << "-1";
-    QTest::newRow("0") << "0" << 0 << "1" << "0";
-    QTest::newRow("0, kept") << "0" << 1 << "0" << "-1";
-    QTest::newRow("7") << "7" << 0 << "8" << "7";
-    QTest::newRow("7, kept") << "7" << 1 << "7" << "6";
-    QTest::newRow("7, kept by 2") << "7" << 2 << "7" << "6";
-    QTest::newRow("7, kept by -1") << "7" << -1 << "7" << "6";
-    QTest::newRow("7, kept by the least number")
-        << "7" << INT_MIN << "7" << "6";
-    QTest::newRow("letters") << "letters" << 0 << "1" << "0";
-    QTest::newRow("letters, kept") << "letters" << 1 << "letters"
-                                   << "-1";
-    QTest::newRow("number and letters") << "12x" << 0 << "1" << "0";
-    QTest::newRow("hexadecimal") << "0x10" << 0 << "1" << "0";
-    QTest::newRow("a fraction") << "1.5" << 0 << "1" << "0";
-    QTest::newRow("an exponent") << "1e3" << 0 << "1" << "0";
-    QTest::newRow("zeros before") << "007" << 0 << "8" << "7";
-    QTest::newRow("zeros before, kept") << "007" << 1 << "007" << "6";
-    QTest::newRow("negative") << "-5" << 0 << "-4" << "-5";
-    QTest::newRow("-1") << "-1" << 0 << "0" << "-1";
-    QTest::newRow("end of 32 bits") << "2147483647" << 0 << "2147483648"
-                                    << "2147483647";
-    QTest::newRow("beyond 32 bits") << "4294967296" << 0 << "4294967297"
-                                    << "4294967296";
-    QTest::newRow("beyond 64 bits") << "99999999999999999999" << 0 << "1"
-                                    << "0";
-}
-
-void StoreWriterTest::numbering()
-{
-    QFETCH(QString, before);
-    QFETCH(int, keepCurrentId);
-    QFETCH(QString, after);
-    QFETCH(QString, id);
-    store()->m_currentId = before;
-    QuickLinkRecordList records;
-    records << numbered("3", "first") << makeRecord("second", "email", "mailto:");
-    QCOMPARE(store()->SaveToConfigFile(&records, keepCurrentId), 0);
-    QCOMPARE(store()->m_currentId, after);
-    QuickLinkRecord written = records.at(1);
-    written.id = id;
-    QCOMPARE(FakeHost::instance().readConfig(), configDocument("1", after, {records.at(0), written}));
-    QCOMPARE(records.at(1).id, QString());
-}
-
-void StoreWriterTest::counterAtTheEndOfItsRange()
-{
-    store()->m_currentId = QString::number(LLONG_MAX);
-    QuickLinkRecordList records(1, makeRecord("a", "internet", "www.example.org"));
-    QCOMPARE(store()->SaveToConfigFile(&records, 0), 0);
-    QVERIFY(FakeHost::instance().readConfig().contains("<item id=\"9223372036854775807\" name=\"a\""));
-}
-
-void StoreWriterTest::onlyEmptyIdsAreNumbered()
-{
-    store()->m_currentId = "9";
-    QuickLinkRecordList records;
-    records << makeRecord("a", "internet", "u") << numbered("4", "b") << makeRecord("c", "internet", "u")
-            << numbered(" ", "d");
-    QCOMPARE(store()->SaveToConfigFile(&records, 0), 0);
-    QCOMPARE(store()->ReadXmlInformation(), 0);
-    QCOMPARE(idsInMemory(), "9,4,9, ");
-}
-
-void StoreWriterTest::twoSavesAdvanceTwice()
-{
-    QuickLinkRecordList records(1, numbered("0", "a"));
-    store()->m_currentId = "1";
-    store()->SaveToConfigFile(&records, 0);
-    store()->SaveToConfigFile(&records, 0);
-    QCOMPARE(store()->m_currentId, "3");
-    QCOMPARE(FakeHost::instance().readConfig(),
-             configDocument("1", "3", {records.at(0)}));
-}
-
 void StoreWriterTest::nothingElseChanges_data()
 {
     QTest::addColumn<int>("keepCurrentId");
@@ -296,44 +178,6 @@ void StoreWriterTest::hiddenLinkIsWrittenButNotReadBack()
     QVERIFY(!FakeHost::instance().readConfig().contains("name=\"hidden\""));
 }
 
-void StoreWriterTest::idsOfNewLinks()
-{
-    QCOMPARE(store()->ReadXmlInformation(), 3);
-    addLink("a");
-    QCOMPARE(idsInMemory(), "0");
-    QCOMPARE(store()->m_currentId, "1");
-    addLink("b");
-    addLink("c");
-    QCOMPARE(idsInMemory(), "0,1,2");
-    QCOMPARE(store()->m_currentId, "3");
-}
-
-void StoreWriterTest::deletedIdIsNotUsedAgain()
-{
-    store()->ReadXmlInformation();
-    for (const char* name : {"a", "b", "c"})
-        addLink(name);
-    store()->m_recordList->remove(1);
-    QCOMPARE(store()->SaveToConfigFile(store()->m_recordList, 1), 0);
-    addLink("d");
-    QCOMPARE(names(), "a,c,d");
-    QCOMPARE(idsInMemory(), "0,2,3");
-}
-
-void StoreWriterTest::editedLinkSharesAnId()
-{
-    store()->ReadXmlInformation();
-    for (const char* name : {"a", "b", "c"})
-        addLink(name);
-    store()->m_recordList->replace(0, makeRecord("edited", "internet", "u"));
-    QCOMPARE(store()->SaveToConfigFile(store()->m_recordList, 1), 0);
-    QVERIFY(FakeHost::instance().readConfig().contains("<item id=\"2\" name=\"edited\""));
-    QCOMPARE(idsInMemory(), ",1,2");
-    addLink("d");
-    QCOMPARE(idsInMemory(), "3,1,2,3");
-    QCOMPARE(store()->m_currentId, "4");
-}
-
 void StoreWriterTest::oldFileIsReplaced_data()
 {
     QTest::addColumn<QByteArray>("old");
@@ -361,7 +205,7 @@ void StoreWriterTest::oldFileIsRemovedNotOverwritten()
     QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
     QFile other(otherName);
     QVERIFY(other.open(QIODevice::ReadOnly));
-    QCOMPARE(other.readAll(), QByteArray("old bytes"));
+    QCOMPARE(other.readAll(), "old bytes");
 }
 
 void StoreWriterTest::linkInPlaceOfFileIsRemoved()
@@ -376,7 +220,7 @@ void StoreWriterTest::linkInPlaceOfFileIsRemoved()
     QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
     QVERIFY(!QFileInfo(host.configPath()).isSymLink());
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("old bytes"));
+    QCOMPARE(file.readAll(), "old bytes");
 }
 
 void StoreWriterTest::nothingElseLiesInTheFolder()
@@ -412,7 +256,7 @@ void StoreWriterTest::noRecords()
     QCOMPARE(QFile::exists(host.configPath()), hasFile);
     QCOMPARE(host.readConfig(), hasFile ? QByteArray("old bytes") : QByteArray());
     QCOMPARE(store()->m_currentId, "7");
-    QCOMPARE(trace.debugDifference(QStringList(stampedLine(" : ", "SaveToConfigFile", "Entered"))), QString());
+    QCOMPARE(trace.debugDifference(writerLines().mid(0, 1)), QString());
 }
 
 void StoreWriterTest::traceOfSave()
@@ -420,9 +264,7 @@ void StoreWriterTest::traceOfSave()
     QuickLinkRecordList records(2, numbered("0", "a"));
     RecordingTrace trace;
     QCOMPARE(store()->SaveToConfigFile(&records, 0), 0);
-    QCOMPARE(trace.debugDifference(QStringList() << stampedLine(" : ", "SaveToConfigFile", "Entered")
-                                                 << stampedLine(" : ", "SaveToConfigFile", "Exit")),
-             QString());
+    QCOMPARE(trace.debugDifference(writerLines()), QString());
     QCOMPARE(trace.warningLines, QStringList());
 }
 

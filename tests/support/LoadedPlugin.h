@@ -9,8 +9,8 @@
 #include "QuickLinkRecord.h"
 #include "QuickLinkSettingPluginDlg.h"
 #include "QuickLinkXmlParse.h"
-#include "Records.h"
 #include "RecordingTrace.h"
+#include "Records.h"
 
 Q_DECLARE_METATYPE(QuickLinkRecord)
 DECLARE_LIST_METATYPE(QuickLinkRecordList)
@@ -50,13 +50,3 @@ public:
 
     QuickLinkSettingPluginDlg* page;
 };
-
-/** The pattern of a trace line, in which %T stands for the time, %F for the source file and %L for the line. */
-inline QString tracePattern(const char* line)
-{
-    QString pattern = QLatin1String(line);
-    pattern.replace("%T", QLatin1String(TracePattern::time));
-    pattern.replace("%F", QLatin1String(TracePattern::file));
-    pattern.replace("%L", QLatin1String(TracePattern::line));
-    return pattern;
-}

@@ -5,8 +5,8 @@
 
 #include <QtGlobal>
 
-// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know no
-// versions. What is missing of QtTest is in QtTestVersions.h.
+// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know
+// no versions. What is missing of QtTest is in QtTestVersions.h.
 
 #if QT_VERSION < 0x050000
 #include <cstdlib>
@@ -33,6 +33,40 @@
 DECLARE_LIST_METATYPE(QList<int>)
 
 typedef QStyleOptionViewItemV4 ViewItemOption;
+
+/** The loader's entry point for metadata; empty where it has none. */
+const char metadataEntry[] = "";
+
+/** Whether a loader of this architecture reads the plug-in's build key from a section of the file. */
+#ifdef __i386__
+const bool isBuildKeyInSection = false;
+#else
+const bool isBuildKeyInSection = true;
+#endif
+
+/** Whether the XML reader gives up at entities that grow beyond measure. */
+const bool areEntitiesLimited = false;
+
+/** Whether the XML reader takes a NUL byte for the end of what can be read; else it leaves it out. */
+const bool isNulAnError = false;
+
+/** Whether a code point can be written to a file: not one that Unicode keeps for use inside of programs. */
+inline bool isWritable(uint code)
+{
+    return (code & 0xfffe) != 0xfffe && (code < 0xfdd0 || code > 0xfdef);
+}
+
+/** For what the toolkit itself does otherwise since Qt 5. */
+inline const char* byQt(const char* before5, const char*)
+{
+    return before5;
+}
+
+/** The text of one character. */
+inline QString codePoint(uint code)
+{
+    return QString::fromUcs4(&code, 1);
+}
 
 inline bool qunsetenv(const char* name)
 {
@@ -98,6 +132,30 @@ private:
 #define DECLARE_LIST_METATYPE(List)
 
 typedef QStyleOptionViewItem ViewItemOption;
+
+#if QT_VERSION >= 0x060000
+const char metadataEntry[] = "qt_plugin_query_metadata_v2";
+#else
+const char metadataEntry[] = "qt_plugin_query_metadata";
+#endif
+const bool isBuildKeyInSection = false;
+const bool areEntitiesLimited = true;
+const bool isNulAnError = true;
+
+inline bool isWritable(uint)
+{
+    return true;
+}
+
+inline const char* byQt(const char*, const char* since5)
+{
+    return since5;
+}
+
+inline QString codePoint(char32_t code)
+{
+    return QString::fromUcs4(&code, 1);
+}
 
 inline QByteArray signatureOf(const QMetaMethod& method)
 {

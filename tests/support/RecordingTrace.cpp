@@ -108,8 +108,15 @@ QString RecordingTrace::debugDifference(const QStringList& patterns) const
         isSame = matches(debugLines.at(i), patterns.at(i));
     if (isSame)
         return QString();
-    return "lines:\n" + debugLines.join("\n") + "\npatterns:\n" +
-           patterns.join("\n");
+    return "lines:\n" + debugLines.join("\n") + "\npatterns:\n" + patterns.join("\n");
+}
+
+QString tracePattern(const char* line)
+{
+    QString pattern = line;
+    return pattern.replace("%T", TracePattern::time)
+        .replace("%F", TracePattern::file)
+        .replace("%L", TracePattern::line);
 }
 
 #if QT_VERSION >= 0x050000

@@ -54,3 +54,6 @@ extern const char time[];
 extern const char file[];
 extern const char line[];
 } // namespace TracePattern
+
+/** The pattern of a trace line, in which %T stands for the time, %F for the source file and %L for the line. */
+QString tracePattern(const char* line);

@@ -70,6 +70,18 @@ QString difference(const QuickLinkRecord& actual, const QuickLinkRecord& expecte
     return text;
 }
 
+QString listDifference(const QuickLinkRecordList& actual, const QuickLinkRecordList& expected)
+{
+    if (actual.size() != expected.size())
+        return QString("%1 records, not %2").arg(actual.size()).arg(expected.size());
+    for (int i = 0; i < actual.size(); ++i) {
+        const QString unlike = difference(actual.at(i), expected.at(i));
+        if (!unlike.isEmpty())
+            return QString("record %1: ").arg(i) + unlike;
+    }
+    return QString();
+}
+
 QByteArray configDocument(const QString& visible, const QString& currentId, const QList<QuickLinkRecord>& records)
 {
     QByteArray document = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
