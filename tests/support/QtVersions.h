@@ -5,8 +5,8 @@
 
 #include <QtGlobal>
 
-// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know no
-// versions. What is missing of QtTest is in QtTestVersions.h.
+// What tests use of the toolkit and Qt 4.8 lacks, in the words of Qt 5 where there are some. The tests themselves know
+// no versions. What is missing of QtTest is in QtTestVersions.h.
 
 #if QT_VERSION < 0x050000
 #include <cstdlib>
@@ -49,6 +49,15 @@ inline QByteArray signatureOf(const QMetaMethod& method)
 {
     return method.signature();
 }
+
+/** The type that a method returns; Qt 4.8 has no name for void. */
+inline QByteArray returnTypeOf(const QMetaMethod& method)
+{
+    return *method.typeName() ? method.typeName() : "void";
+}
+
+/** Whether a widget says that it goes before its children go. */
+const bool saysParentGoneFirst = false;
 
 /** Removes a folder with all that is in it, links unfollowed; false when something stays. */
 inline bool removeFolder(const QString& path)
@@ -103,6 +112,13 @@ inline QByteArray signatureOf(const QMetaMethod& method)
 {
     return method.methodSignature();
 }
+
+inline QByteArray returnTypeOf(const QMetaMethod& method)
+{
+    return method.typeName();
+}
+
+const bool saysParentGoneFirst = true;
 
 inline bool removeFolder(const QString& path)
 {
