@@ -5,8 +5,8 @@
 
 #include <QLineEdit>
 
-#include "ShownPage.h"
 #include "QuickLinkSettingNewEditDlg.h"
+#include "ShownPage.h"
 #include "Test.h"
 
 class PageNewTest : public QObject
@@ -42,6 +42,8 @@ private Q_SLOTS:
     void cancel();
     void closingTheFrame();
     void emittedWhileEditingReplaces();
+    void hiddenLinksGoAtTheReRead();
+    void editedLinksShareTheNewId();
 
 private:
     ShownPage m_page;
@@ -73,8 +75,7 @@ void PageNewTest::dialogTitle()
     m_page.begin(links("a"));
     FakeHost::instance().language = language;
     m_page.click("m_newBtn");
-    QCOMPARE(FakeHost::instance().frames.first().titles,
-             QStringList() << language + ":IDS_LINK_SETTING_NEW_TITLE");
+    QCOMPARE(FakeHost::instance().frames.first().titles, QStringList() << language + ":IDS_LINK_SETTING_NEW_TITLE");
 }
 
 void PageNewTest::dialogIsInNewMode()
@@ -151,10 +152,8 @@ void PageNewTest::linkOfEachType_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("url");
-    QTest::newRow("application") << 0 << "IDS_LINK_TYPE_APPLICATION" << existingFile()
-                                 << existingFile();
-    QTest::newRow("e-mail") << 1 << "IDS_LINK_TYPE_E-MAIL" << QString()
-                            << "mailto:";
+    QTest::newRow("application") << 0 << "IDS_LINK_TYPE_APPLICATION" << existingFile() << existingFile();
+    QTest::newRow("e-mail") << 1 << "IDS_LINK_TYPE_E-MAIL" << QString() << "mailto:";
     QTest::newRow("Internet") << 2 << "IDS_LINK_TYPE_INTERNET"
                               << "www.example.org/?a=1&b=\"2\""
                               << "www.example.org/?a=1&b=\"2\"";
@@ -352,6 +351,46 @@ void PageNewTest::emittedWhileEditingReplaces()
     QCOMPARE(m_page.shownNames(), "c b");
     QCOMPARE(m_page.listNames(), "c b");
     QVERIFY(!m_page.page->m_isEditing);
+}
+
+void PageNewTest::hiddenLinksGoAtTheReRead()
+{
+    m_page.beginHidden(links("a b"));
+    (*m_page.page->m_recordList)[0].visible = "0";
+    m_page.show();
+    m_page.addLink(1, "c");
+    // The table is filled only when the page is shown: it has a row more than the list until then.
+    QCOMPARE(m_page.listNames(), "b c");
+    QCOMPARE(m_page.shownNames(), "a b c");
+    QCOMPARE(m_page.currentRow(), 2);
+    const QByteArray file = FakeHost::instance().readConfig();
+
+    // The row without a link moves nowhere, is not edited and not deleted.
+    m_page.click("m_upBtn");
+    m_page.click("m_deleteBtn");
+    m_page.click("m_editBtn");
+    m_page.pressOk();
+    QCOMPARE(m_page.listNames(), "b c");
+    QCOMPARE(m_page.shownNames(), "a b c");
+    QCOMPARE(FakeHost::instance().readConfig(), file);
+
+    m_page.show();
+    QCOMPARE(m_page.shownNames(), "b c");
+}
+
+void PageNewTest::editedLinksShareTheNewId()
+{
+    m_page.begin(links("a b c"));
+    m_page.select(1);
+    m_page.click("m_editBtn");
+    m_page.enter("m_appNameEdit", "changed");
+    m_page.pressOk();
+    m_page.addLink(1, "d");
+    QStringList ids;
+    for (const QuickLinkRecord& record : *m_page.page->m_recordList)
+        ids.append(record.id);
+    QCOMPARE(ids.join(" "), "0 3 2 3");
+    QCOMPARE(FakeHost::instance().readConfig(), m_page.expectedFile("4"));
 }
 
 REGISTER_TEST(PageNewTest)

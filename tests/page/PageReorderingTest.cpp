@@ -53,6 +53,8 @@ private Q_SLOTS:
     void tableGetsTheFocus_data();
     void tableGetsTheFocus();
     void counterStays();
+    void upNeedsNoUpButton();
+    void putRecord();
 
 private:
     void begin();
@@ -151,8 +153,7 @@ void PageReorderingTest::fileListsTheNewOrder()
                 moved.append(record);
         }
     }
-    QCOMPARE(FakeHost::instance().readConfig(),
-             configDocument("1", QString::number(unmoved.size()), moved));
+    QCOMPARE(FakeHost::instance().readConfig(), configDocument("1", QString::number(unmoved.size()), moved));
 }
 
 void PageReorderingTest::menuIsNotTold()
@@ -186,8 +187,10 @@ void PageReorderingTest::allTheWay_data()
     QTest::addColumn<int>("row");
     QTest::addColumn<QString>("direction");
     QTest::addColumn<QString>("names");
-    QTest::newRow("to the end") << 0 << "Down" << "b c d e a";
-    QTest::newRow("to the start") << 4 << "Up" << "e a b c d";
+    QTest::newRow("to the end") << 0 << "Down"
+                                << "b c d e a";
+    QTest::newRow("to the start") << 4 << "Up"
+                                  << "e a b c d";
 }
 
 void PageReorderingTest::allTheWay()
@@ -210,8 +213,10 @@ void PageReorderingTest::rightsDoNotMatter_data()
 {
     QTest::addColumn<QString>("direction");
     QTest::addColumn<QString>("names");
-    QTest::newRow("Up") << "Up" << "b a c";
-    QTest::newRow("Down") << "Down" << "a c b";
+    QTest::newRow("Up") << "Up"
+                        << "b a c";
+    QTest::newRow("Down") << "Down"
+                          << "a c b";
 }
 
 void PageReorderingTest::rightsDoNotMatter()
@@ -251,8 +256,7 @@ void PageReorderingTest::editedLinkKeepsItsEmptyId()
     QCOMPARE(m_page.page->m_recordList->at(1).id, QString());
     QuickLinkRecordList onDisk = *m_page.page->m_recordList;
     onDisk[1].id = "2";
-    QCOMPARE(FakeHost::instance().readConfig(),
-             configDocument("1", "3", onDisk.toList()));
+    QCOMPARE(FakeHost::instance().readConfig(), configDocument("1", "3", onDisk.toList()));
 }
 
 void PageReorderingTest::oldRecordsAreFreed_data()
@@ -304,6 +308,27 @@ void PageReorderingTest::counterStays()
     QCOMPARE(QuickLinkXmlParse::GetInstance()->m_currentId, "3");
     QCOMPARE(FakeHost::instance().readConfig(), m_page.expectedFile("3"));
     QCOMPARE(m_page.shownNames(), "a b c");
+}
+
+void PageReorderingTest::upNeedsNoUpButton()
+{
+    m_page.begin(links("a b c"));
+    m_page.select(1);
+    const NullMember missing(memberOf(m_page.page, "m_upBtn"));
+    m_page.page->onUpBtnClick();
+    QCOMPARE(m_page.linkNames(), "b a c");
+    QCOMPARE(m_page.file(), m_page.expectedFile("3"));
+}
+
+void PageReorderingTest::putRecord()
+{
+    m_page.begin(links("a b c"));
+    const RecordProbe old(m_page.recordOf(1));
+    QuickLinkRecord* const record = new QuickLinkRecord(makeRecord("other", "application", "/x"));
+    m_page.page->addRecordOnUpButtonClick(record, 1);
+    QVERIFY(old.isFreed());
+    QCOMPARE(m_page.recordOf(1), record);
+    QCOMPARE(m_page.linkNames(), "a other c");
 }
 
 REGISTER_TEST(PageReorderingTest)

@@ -36,6 +36,9 @@ private Q_SLOTS:
     void rewritingARowReusesItsItems();
     void rewritingARowKeepsTheOldRecord();
     void traceOfARow();
+    void releaseFreesEveryRecord();
+    void releaseStopsEarly_data();
+    void releaseStopsEarly();
 
 private:
     ShownPage m_page;
@@ -263,7 +266,7 @@ void PageTableTest::rewritingARowReusesItsItems()
     QCOMPARE(m_page.recordOf(1), record);
     QVERIFY(!(name->flags() & Qt::ItemIsEditable));
     QCOMPARE(trace.warningLines, QStringList());
-    m_page.page->freeRecord(old);
+    delete old;
 }
 
 void PageTableTest::rewritingARowKeepsTheOldRecord()
@@ -273,8 +276,7 @@ void PageTableTest::rewritingARowKeepsTheOldRecord()
     const RecordProbe probe(old);
     m_page.page->populateTableRow(new QuickLinkRecord(makeRecord("Other", "email", "mailto:")), 0);
     QVERIFY(!probe.isFreed());
-    m_page.page->freeRecord(old);
-    QVERIFY(probe.isFreed());
+    delete old;
 }
 
 void PageTableTest::traceOfARow()
@@ -284,6 +286,53 @@ void PageTableTest::traceOfARow()
     RecordingTrace trace;
     m_page.page->populateTableRow(same, 0);
     QCOMPARE(trace.debugDifference(QStringList() << tracePattern("%F: populateTableRow: %T : Entered ")), QString());
+}
+
+void PageTableTest::releaseFreesEveryRecord()
+{
+    m_page.begin(links("a b c"));
+    const QVariant before = m_page.table()->item(1, 0)->data(Qt::UserRole);
+    const RecordProbe first(m_page.recordOf(0));
+    const RecordProbe second(m_page.recordOf(1));
+    const RecordProbe third(m_page.recordOf(2));
+    m_page.page->releaseTable();
+    QVERIFY(first.isFreed());
+    QVERIFY(second.isFreed());
+    QVERIFY(third.isFreed());
+    // The rows stay as they are.
+    QCOMPARE(m_page.shownNames(), "a b c");
+    QCOMPARE(m_page.table()->item(1, 0)->data(Qt::UserRole), before);
+}
+
+void PageTableTest::releaseStopsEarly_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QVariant>("data");
+    QTest::newRow("0 in the first row") << 0 << QVariant(0);
+    QTest::newRow("0 in the second row") << 1 << QVariant(0);
+    QTest::newRow("nothing in the second row") << 1 << QVariant();
+    QTest::newRow("no number in the second row") << 1 << QVariant("record");
+    QTest::newRow("0 in the last row") << 2 << QVariant(0);
+}
+
+void PageTableTest::releaseStopsEarly()
+{
+    QFETCH(int, row);
+    QFETCH(QVariant, data);
+    m_page.begin(links("a b c"));
+    QList<QuickLinkRecord*> records;
+    QList<RecordProbe> probes;
+    for (int each = 0; each < 3; ++each) {
+        records.append(m_page.recordOf(each));
+        probes.append(RecordProbe(records.last()));
+    }
+    m_page.table()->item(row, 0)->setData(Qt::UserRole, data);
+    m_page.page->releaseTable();
+    for (int each = 0; each < 3; ++each) {
+        QCOMPARE(probes.at(each).isFreed(), each < row);
+        if (each >= row)
+            delete records.at(each);
+    }
 }
 
 REGISTER_TEST(PageTableTest)
