@@ -7,8 +7,8 @@
 
 #include <sys/mount.h>
 
-#include "ShownPage.h"
 #include "ProcessLimits.h"
+#include "ShownPage.h"
 #include "Test.h"
 
 class PageSavingFailsTest : public QObject
@@ -63,16 +63,20 @@ void PageSavingFailsTest::changeRows(const char* listAfterNew)
     QTest::addColumn<QString>("rows");
     QTest::addColumn<QString>("list");
     QTest::addColumn<int>("notifications");
-    QTest::newRow("New") << "New" << "a b c d"
-                         << QString::fromLatin1(listAfterNew) << 1;
-    QTest::newRow("Edit") << "Edit" << "a x c" << "a x c"
-                          << 1;
-    QTest::newRow("Delete") << "Delete" << "a c" << "a c"
-                            << 1;
-    QTest::newRow("Up") << "Up" << "b a c" << "b a c"
-                        << 0;
-    QTest::newRow("Down") << "Down" << "a c b" << "a c b"
-                          << 0;
+    QTest::newRow("New") << "New"
+                         << "a b c d" << QString(listAfterNew) << 1;
+    QTest::newRow("Edit") << "Edit"
+                          << "a x c"
+                          << "a x c" << 1;
+    QTest::newRow("Delete") << "Delete"
+                            << "a c"
+                            << "a c" << 1;
+    QTest::newRow("Up") << "Up"
+                        << "b a c"
+                        << "b a c" << 0;
+    QTest::newRow("Down") << "Down"
+                          << "a c b"
+                          << "a c b" << 0;
 }
 
 void PageSavingFailsTest::change()
@@ -115,8 +119,7 @@ QByteArray PageSavingFailsTest::document() const
         }
         records.append(record);
     }
-    return configDocument("1",
-                          names.contains("d") ? "4" : "3", records);
+    return configDocument("1", names.contains("d") ? "4" : "3", records);
 }
 
 void PageSavingFailsTest::noFolder()
@@ -149,7 +152,7 @@ void PageSavingFailsTest::folderInPlaceOfTheFile()
 void PageSavingFailsTest::readOnly()
 {
     begin();
-    const QByteArray before = FakeHost::instance().readConfig();
+    const QByteArray before = m_page.file();
     QVERIFY(setMode(FakeHost::instance().userFolder, 0755));
     QVERIFY(setMode(FakeHost::instance().configFolder(), 0555));
     QVERIFY(setMode(FakeHost::instance().configPath(), 0444));
@@ -162,13 +165,13 @@ void PageSavingFailsTest::readOnly()
     }
     QVERIFY(setMode(FakeHost::instance().configFolder(), 0755));
     checkPage();
-    QCOMPARE(FakeHost::instance().readConfig(), before);
+    QCOMPARE(m_page.file(), before);
 }
 
 void PageSavingFailsTest::oldFileCannotBeRemoved()
 {
     begin();
-    const QByteArray before = FakeHost::instance().readConfig();
+    const QByteArray before = m_page.file();
     QVERIFY(setMode(FakeHost::instance().userFolder, 0755));
     QVERIFY(setMode(FakeHost::instance().configFolder(), 0555));
     QVERIFY(setMode(FakeHost::instance().configPath(), 0666));
@@ -181,7 +184,7 @@ void PageSavingFailsTest::oldFileCannotBeRemoved()
     checkPage();
     // Written over the old bytes, whose tail stays behind a shorter document.
     const QByteArray expected = document();
-    QCOMPARE(FakeHost::instance().readConfig(), expected + before.mid(expected.size()));
+    QCOMPARE(m_page.file(), expected + before.mid(expected.size()));
 }
 
 void PageSavingFailsTest::fileCutShort()
@@ -193,13 +196,13 @@ void PageSavingFailsTest::fileCutShort()
         change();
     }
     checkPage();
-    QCOMPARE(FakeHost::instance().readConfig(), document().left(200));
+    QCOMPARE(m_page.file(), document().left(200));
 }
 
 void PageSavingFailsTest::linksBeforeTheCutAreReadBack()
 {
     begin();
-    const QByteArray before = FakeHost::instance().readConfig();
+    const QByteArray before = m_page.file();
     const int cut = int(before.indexOf("name=\"b\""));
     QVERIFY(cut > 0);
     {
@@ -219,9 +222,11 @@ void PageSavingFailsTest::diskFull_data()
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("names");
     QTest::addColumn<QString>("list");
-    QTest::newRow("New") << "New" << "a b c d"
+    QTest::newRow("New") << "New"
+                         << "a b c d"
                          << "a b c";
-    QTest::newRow("Edit") << "Edit" << "a x c"
+    QTest::newRow("Edit") << "Edit"
+                          << "a x c"
                           << "a x c";
 }
 
@@ -263,8 +268,8 @@ void PageSavingFailsTest::diskFull()
     }
     QCOMPARE(m_page.shownNames(), names);
     QCOMPARE(m_page.listNames(), list);
-    QCOMPARE(FakeHost::instance().readConfig().size(), 4096);
-    QCOMPARE(FakeHost::instance().notifications.size(), 1);
+    QCOMPARE(m_page.file().size(), 4096);
+    QCOMPARE(m_page.told(), 1);
 }
 
 void PageSavingFailsTest::counterAfterAFailure()
@@ -291,8 +296,7 @@ void PageSavingFailsTest::worksAgainAfterwards()
     const QString before = what == "New" ? QString() : m_page.listNames();
     QVERIFY(before.isEmpty() ? m_page.listNames() == "last" : before.endsWith("last"));
     QCOMPARE(m_page.disorder(), QString());
-    QCOMPARE(FakeHost::instance().readConfig(),
-             m_page.expectedFile(QuickLinkXmlParse::GetInstance()->m_currentId.toLatin1().constData()));
+    QCOMPARE(m_page.file(), m_page.expectedFile(QuickLinkXmlParse::GetInstance()->m_currentId.toLatin1().constData()));
 }
 
 REGISTER_TEST(PageSavingFailsTest)

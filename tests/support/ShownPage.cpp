@@ -81,6 +81,13 @@ int ShownPage::changeLanguage(const char* language)
     return page->Notify(1024, 0, 0);
 }
 
+void ShownPage::deletePlugin()
+{
+    page->OnDestroy();
+    delete page;
+    page = nullptr;
+}
+
 void ShownPage::end()
 {
     if (page) {

@@ -67,6 +67,9 @@ public:
     /** The host changes its language and tells it. The plug-in's answer. */
     int changeLanguage(const char* language = "de");
 
+    /** The host ends the plug-in and deletes its object, whatever else goes on. */
+    void deletePlugin();
+
     /** Ends the plug-in, then the host's widget. Frees the records that the dialogs leave. Harmless before begin(). */
     void end();
 
