@@ -25,15 +25,11 @@ private Q_SLOTS:
     void longNameIsCutLikeTheField();
     void changedInPlace_data();
     void changedInPlace();
-    void typeChangesInTheTable();
     void rightsComeBack();
+    void nameIsChecked_data();
+    void nameIsChecked();
     void optionsGoWithoutAClick_data();
     void optionsGoWithoutAClick();
-    void unchangedNameIsNotRefused();
-    void nameOfAnotherLinkIsRefused();
-    void oldRecordIsFreed();
-    void editingEnds_data();
-    void editingEnds();
     void pageBuiltAgainMeanwhile();
 
 private:
@@ -57,13 +53,9 @@ void PageEditTest::field_data()
     QTest::addColumn<QString>("parameters");
     QTest::addColumn<QString>("address");
     const struct {
-        const char* name;
-        const char* type;
-        const char* url;
+        const char *name, *type, *url;
         int index;
-        const char* path;
-        const char* parameters;
-        const char* address;
+        const char *path, *parameters, *address;
     } rows[] = {{"application", "IDS_LINK_TYPE_APPLICATION", "/opt/a b/run", 0, "/opt/a b/run", "-x -y", ""},
                 {"backslashes", "IDS_LINK_TYPE_APPLICATION", "C:\\Tools\\app.exe", 0, "C:/Tools/app.exe", "-x -y", ""},
                 {"mixed slashes", "IDS_LINK_TYPE_APPLICATION", "\\\\h/d\\", 0, "//h/d/", "-x -y", ""},
@@ -163,31 +155,24 @@ void PageEditTest::changedInPlace()
 {
     QFETCH(int, row);
     QFETCH(QString, names);
-    QuickLinkRecordList records = links("a b c");
-    for (QuickLinkRecord& record : records)
-        record.type = "IDS_LINK_TYPE_INTERNET";
-    m_page.begin(records);
+    m_page.begin(links("a b c"));
     const QuickLinkRecord* others[] = {m_page.recordOf(0), m_page.recordOf(1), m_page.recordOf(2)};
-    const QString buttons = (edit(row), m_page.enabledButtons());
+    edit(row);
+    const RecordProbe old(m_page.recordOf(row));
+    const QString buttons = m_page.enabledButtons();
+    m_page.chooseType(1);
     m_page.enter("m_appNameEdit", "new");
+    QVERIFY(!old.isFreed());
     m_page.pressOk();
+    QVERIFY(old.isFreed());
     QCOMPARE(m_page.linkNames(), names);
+    QCOMPARE(m_page.table()->item(row, 1)->text(), "en:IDS_LINK_TYPE_E-MAIL");
+    QCOMPARE(m_page.page->m_recordList->at(row).url, "mailto:");
     QCOMPARE(m_page.currentRow(), row);
     QCOMPARE(m_page.enabledButtons(), buttons);
     for (int each = 0; each < 3; ++each)
         QCOMPARE(m_page.recordOf(each) == others[each], each != row);
     QVERIFY(!m_page.frame()->isVisible());
-}
-
-void PageEditTest::typeChangesInTheTable()
-{
-    m_page.begin(links("a b c"));
-    edit(0);
-    m_page.chooseType(1);
-    m_page.pressOk();
-    QCOMPARE(m_page.table()->item(0, 1)->text(), shown("IDS_LINK_TYPE_E-MAIL"));
-    QCOMPARE(m_page.page->m_recordList->at(0).url, "mailto:");
-    QCOMPARE(m_page.disorder(), QString());
 }
 
 void PageEditTest::rightsComeBack()
@@ -202,6 +187,34 @@ void PageEditTest::rightsComeBack()
     QCOMPARE(m_page.page->m_recordList->at(1).delete_, "1");
     m_page.select(1);
     QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
+}
+
+void PageEditTest::nameIsChecked_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("its own") << "b" << false;
+    QTest::newRow("another link's") << "a" << true;
+}
+
+void PageEditTest::nameIsChecked()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isTaken);
+    m_page.begin(links("a b"));
+    edit(1);
+    m_page.enter("m_appNameEdit", name);
+    m_page.pressOk();
+    QCOMPARE(FakeHost::instance().messages.size(), isTaken ? 1 : 0);
+    QCOMPARE(m_page.linkNames(), "a b");
+    QCOMPARE(m_page.page->m_isEditing, isTaken);
+    QCOMPARE(m_page.frame()->isVisible(), isTaken);
+    if (isTaken)
+        return;
+    // The edit is over: the next link is a new one.
+    QVERIFY(m_page.page->m_editDlg);
+    m_page.change("New");
+    QCOMPARE(m_page.linkNames(), "a b d");
 }
 
 void PageEditTest::optionsGoWithoutAClick_data()
@@ -225,62 +238,6 @@ void PageEditTest::optionsGoWithoutAClick()
     m_page.pressOk();
     QCOMPARE(m_page.page->m_recordList->at(1).startconnect, isClicked ? "1" : "0");
     QCOMPARE(m_page.page->m_recordList->at(1).startmobile, "0");
-}
-
-void PageEditTest::unchangedNameIsNotRefused()
-{
-    m_page.begin(links("a b"));
-    edit(1);
-    m_page.pressOk();
-    QCOMPARE(FakeHost::instance().messages.size(), 0);
-    QCOMPARE(m_page.shownNames(), "a b");
-    QVERIFY(!m_page.page->m_isEditing);
-}
-
-void PageEditTest::nameOfAnotherLinkIsRefused()
-{
-    m_page.begin(links("a b"));
-    edit(1);
-    m_page.enter("m_appNameEdit", "a");
-    m_page.pressOk();
-    QCOMPARE(FakeHost::instance().messages.size(), 1);
-    QCOMPARE(m_page.shownNames(), "a b");
-    QVERIFY(m_page.page->m_isEditing);
-    QVERIFY(m_page.frame()->isVisible());
-}
-
-void PageEditTest::oldRecordIsFreed()
-{
-    m_page.begin(links("a b"));
-    const RecordProbe first(m_page.recordOf(0));
-    const RecordProbe second(m_page.recordOf(1));
-    edit(1);
-    QVERIFY(!second.isFreed());
-    m_page.pressOk();
-    QVERIFY(second.isFreed());
-    QVERIFY(!first.isFreed());
-}
-
-void PageEditTest::editingEnds_data()
-{
-    QTest::addColumn<bool>("isCancelled");
-    QTest::newRow("by OK") << false;
-    QTest::newRow("by Cancel") << true;
-}
-
-void PageEditTest::editingEnds()
-{
-    QFETCH(bool, isCancelled);
-    m_page.begin(links("a b"));
-    edit(1);
-    if (isCancelled)
-        m_page.pressCancel();
-    else
-        m_page.pressOk();
-    QVERIFY(!m_page.page->m_isEditing);
-    QVERIFY(m_page.page->m_editDlg);
-    m_page.addLink(1, "c");
-    QCOMPARE(m_page.shownNames(), "a b c");
 }
 
 void PageEditTest::pageBuiltAgainMeanwhile()

@@ -18,10 +18,8 @@ private Q_SLOTS:
 
     void linkOfEachType_data();
     void linkOfEachType();
-    void fourthRow();
+    void linksGoToTheEnd();
     void firstLinkGetsId0();
-    void secondLinkGetsTheNextId();
-    void newestLinkCanBeMovedAtOnce();
     void linkAfterALinkInTheSameDialog();
     void takenNameIsRefused();
     void emittedWhileEditingReplaces();
@@ -65,7 +63,7 @@ void PageNewTest::linkOfEachType()
     QVERIFY(!m_page.frame()->isVisible());
 }
 
-void PageNewTest::fourthRow()
+void PageNewTest::linksGoToTheEnd()
 {
     m_page.begin(links("a b c"));
     m_page.addLink(1, "d");
@@ -75,6 +73,15 @@ void PageNewTest::fourthRow()
     QCOMPARE(m_page.table()->selectedItems().first()->row(), 3);
     QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
     QCOMPARE(m_page.file(), m_page.expectedFile("4"));
+    m_page.addLink(1, "e");
+    QCOMPARE(m_page.page->m_recordList->at(3).id, "3");
+    QCOMPARE(m_page.page->m_recordList->at(4).id, "4");
+    QCOMPARE(m_page.file(), m_page.expectedFile("5"));
+    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
+    // The newest can be moved at once.
+    m_page.click("m_upBtn");
+    QCOMPARE(m_page.shownNames(), "a b c e d");
+    QCOMPARE(m_page.file(), m_page.expectedFile("5"));
 }
 
 void PageNewTest::firstLinkGetsId0()
@@ -87,26 +94,6 @@ void PageNewTest::firstLinkGetsId0()
     QCOMPARE(m_page.page->m_recordList->at(0).id, "0");
     QCOMPARE(m_page.file(), m_page.expectedFile("1"));
     QCOMPARE(m_page.enabledButtons(), "New Edit Delete");
-}
-
-void PageNewTest::secondLinkGetsTheNextId()
-{
-    m_page.begin(links("a b c"));
-    m_page.addLink(1, "d");
-    m_page.addLink(1, "e");
-    QCOMPARE(m_page.page->m_recordList->at(3).id, "3");
-    QCOMPARE(m_page.page->m_recordList->at(4).id, "4");
-    QCOMPARE(m_page.file(), m_page.expectedFile("5"));
-    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Up");
-}
-
-void PageNewTest::newestLinkCanBeMovedAtOnce()
-{
-    m_page.begin(links("a b"));
-    m_page.addLink(1, "c");
-    m_page.click("m_upBtn");
-    QCOMPARE(m_page.shownNames(), "a c b");
-    QCOMPARE(m_page.file(), m_page.expectedFile("3"));
 }
 
 void PageNewTest::linkAfterALinkInTheSameDialog()

@@ -43,12 +43,10 @@ void PageReentrantTest::disturb(const QString& how)
         delete m_page.host;
     } else if (how == "page deleted") {
         delete m_page.page->m_pageWidget;
+    } else if (how == "object deleted") {
+        m_page.deletePlugin();
     } else {
         m_page.page->OnDestroy();
-        if (how == "object deleted") {
-            delete m_page.page;
-            m_page.page = nullptr;
-        }
     }
 }
 
