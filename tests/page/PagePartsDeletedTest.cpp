@@ -39,8 +39,8 @@ private Q_SLOTS:
 
     void partIsForgotten_data();
     void partIsForgotten();
-    void headerItemGoesOnce_data();
-    void headerItemGoesOnce();
+    void tablePartGoesOnce_data();
+    void tablePartGoesOnce();
     void headerItemWithoutTableIsKept_data() { addRows(names("rebuild fillTable OnDestroy")); }
     void headerItemWithoutTableIsKept();
     void layoutWithoutWidgetIsKept_data() { addRows(names("rebuild OnDestroy")); }
@@ -94,12 +94,12 @@ void PagePartsDeletedTest::remove(const QString& way)
         m_page.page->OnDestroy();
 }
 
-void PagePartsDeletedTest::headerItemGoesOnce_data()
+void PagePartsDeletedTest::tablePartGoesOnce_data()
 {
     addRows(QString("host's widget,page,tab widget,table,rebuild,fillTable,OnDestroy").split(','));
 }
 
-void PagePartsDeletedTest::headerItemGoesOnce()
+void PagePartsDeletedTest::tablePartGoesOnce()
 {
     QFETCH(QString, way);
     m_page.begin(links("a b"));
@@ -107,8 +107,10 @@ void PagePartsDeletedTest::headerItemGoesOnce()
     // The table frees the items that it had.
     m_page.table()->setHorizontalHeaderItem(0, m_page.page->m_nameHeaderItem = new CountedItem(&names));
     m_page.table()->setHorizontalHeaderItem(1, m_page.page->m_typeHeaderItem = new CountedItem(&types));
+    const QPointer<QObject> delegate = m_page.page->m_gridDelegate;
     m_page.page->releaseTable();
     remove(way);
+    QCOMPARE(!delegate, way == "rebuild" || way == "fillTable" || way == "OnDestroy");
     QCOMPARE(names, 1);
     QCOMPARE(types, 1);
     const bool isMadeAgain = way == "fillTable";
