@@ -176,7 +176,7 @@ void PageTableTest::rowsInOrderOfTheList()
     m_page.page->m_recordList->append(hidden);
     QCOMPARE(m_page.shownNames(), QString(names));
     m_page.show();
-    QCOMPARE(m_page.linkNames(), (names + " hidden").trimmed());
+    QCOMPARE(m_page.linkNames(), QString(names + " hidden").trimmed());
 }
 
 void PageTableTest::recordIsACopyOfAllFields()
