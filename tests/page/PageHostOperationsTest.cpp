@@ -150,6 +150,8 @@ void PageHostOperationsTest::result()
     QCOMPARE(m_page.page->m_pageWidget != nullptr, state != "not shown");
     QCOMPARE(m_page.told(), 0);
     QCOMPARE(FakeHost::instance().messages.size(), 0);
+    m_page.show();
+    QVERIFY(m_page.page->m_pageWidget->isVisible());
     m_page.end();
 
     bringInto(state);

@@ -29,7 +29,6 @@ private Q_SLOTS:
 private:
     /** What the host does meanwhile. */
     void disturb(const QString& how);
-    static void changeRows();
 
     ShownPage m_page;
 };
@@ -158,18 +157,6 @@ void PageReentrantTest::questionDuringTheQuestion()
     QCOMPARE(m_page.told(), 3);
 }
 
-void PageReentrantTest::changeRows()
-{
-    QTest::addColumn<QString>("what");
-    QTest::addColumn<QString>("names");
-    QTest::newRow("New") << "New"
-                         << "a b c d";
-    QTest::newRow("Edit") << "Edit"
-                          << "x b c";
-    QTest::newRow("Delete") << "Delete"
-                            << "b c";
-}
-
 void PageReentrantTest::duringTheNotification_data()
 {
     QTest::addColumn<QString>("what");
@@ -206,7 +193,14 @@ void PageReentrantTest::duringTheNotification()
 
 void PageReentrantTest::pageBuiltAgainDuringTheNotification_data()
 {
-    changeRows();
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("New") << "New"
+                         << "a b c d";
+    QTest::newRow("Edit") << "Edit"
+                          << "x b c";
+    QTest::newRow("Delete") << "Delete"
+                            << "b c";
 }
 
 void PageReentrantTest::pageBuiltAgainDuringTheNotification()
