@@ -5,6 +5,7 @@
 
 #include <QScrollBar>
 
+#include "PageOperations.h"
 #include "ShownPage.h"
 #include "Test.h"
 
@@ -39,9 +40,6 @@ private Q_SLOTS:
 
     void area_data();
     void area();
-    void showAnswersTrue_data();
-    void showAnswersTrue();
-    void settingDialogIsTheWindow_data();
     void settingDialogIsTheWindow();
     void result_data();
     void result();
@@ -49,16 +47,11 @@ private Q_SLOTS:
     void language();
     void withoutEffect_data();
     void withoutEffect();
-    void hide();
-    void cancel();
-    void cancelTwice();
-    void hiddenUntilShown();
-    void showAgain_data();
-    void showAgain();
+    void hideAndCancel_data();
+    void hideAndCancel();
     void showInAnotherWidget();
     void otherWidgetOwnsThePage();
     void selectionAndScrollingStartAnew();
-    void showReadsTheListAgain();
     void changeStaysAfter_data();
     void changeStaysAfter();
     void dialogsSurviveTheRebuild();
@@ -85,55 +78,34 @@ void PageHostOperationsTest::area()
     QFETCH(QRect, area);
     QFETCH(QSize, size);
     m_page.beginHidden(links("a b"));
-    QRect given = area;
-    m_page.page->ShowWindow(m_page.host, given);
-    QCOMPARE(given, area);
-    QCOMPARE(m_page.page->m_pageWidget->pos(), area.topLeft());
-    QCOMPARE(m_page.page->m_pageWidget->size(), size);
-    QVERIFY(m_page.page->m_pageWidget->isVisible());
-    QCOMPARE(m_page.page->m_parentWidget, m_page.host.data());
-}
-
-void PageHostOperationsTest::showAnswersTrue_data()
-{
-    QTest::addColumn<bool>("isSettingDialog");
-    QTest::newRow("ShowWindow") << false;
-    QTest::newRow("ShowSettingDialog") << true;
-}
-
-void PageHostOperationsTest::showAnswersTrue()
-{
-    QFETCH(bool, isSettingDialog);
-    m_page.beginHidden(links("a b"));
-    QRect area(0, 0, 450, 400);
-    for (int i = 0; i < 2; ++i) {
-        QCOMPARE(isSettingDialog ? m_page.page->ShowSettingDialog(m_page.host, area)
-                                 : m_page.page->ShowWindow(m_page.host, area),
-                 1);
-        QCOMPARE(m_page.shownNames(), "a b");
+    for (int i = 0; i < 4; ++i) {
+        QRect given = area;
+        const int answer =
+            i % 2 ? m_page.page->ShowSettingDialog(m_page.host, given) : m_page.page->ShowWindow(m_page.host, given);
+        QCOMPARE(answer, 1);
+        QCOMPARE(given, area);
+        QCOMPARE(m_page.page->m_pageWidget->pos(), area.topLeft());
+        QCOMPARE(m_page.page->m_pageWidget->size(), size);
+        QVERIFY(m_page.page->m_pageWidget->isVisible());
+        QCOMPARE(m_page.page->m_parentWidget, m_page.host.data());
+        QCOMPARE(m_page.linkNames(), "a b");
         QCOMPARE(m_page.enabledButtons(), "New Edit Delete Down");
     }
 }
 
-void PageHostOperationsTest::settingDialogIsTheWindow_data()
-{
-    QTest::addColumn<int>("result");
-    QTest::newRow("0") << 0;
-    QTest::newRow("1") << 1;
-    QTest::newRow("7") << 7;
-}
-
 void PageHostOperationsTest::settingDialogIsTheWindow()
 {
-    QFETCH(int, result);
     QWidget parent;
-    QRect area(1, 2, 30, 40);
     OwnWindow window;
-    window.result = result;
-    QCOMPARE(static_cast<ISettingUIPlugin*>(&window)->ShowSettingDialog(&parent, area), result);
-    QCOMPARE(window.parent, &parent);
-    QCOMPARE(window.area, QRect(1, 2, 30, 40));
-    QCOMPARE(area.left(), 99);
+    const int results[] = {0, 1, 7};
+    for (int result : results) {
+        QRect area(1, 2, 30, 40);
+        window.result = result;
+        QCOMPARE(static_cast<ISettingUIPlugin*>(&window)->ShowSettingDialog(&parent, area), result);
+        QCOMPARE(window.parent, &parent);
+        QCOMPARE(window.area, QRect(1, 2, 30, 40));
+        QCOMPARE(area.left(), 99);
+    }
 }
 
 void PageHostOperationsTest::bringInto(const QString& state)
@@ -141,6 +113,13 @@ void PageHostOperationsTest::bringInto(const QString& state)
     m_page.beginHidden(links("a b c"));
     if (state == "not shown")
         return;
+    if (state == "filled, not shown") {
+        m_page.page->createWidgetMemory(m_page.host);
+        m_page.page->initializeUI();
+        m_page.page->fillTable();
+        QVERIFY(m_page.page->m_pageWidget->isHidden());
+        return;
+    }
     m_page.show();
     if (state == "hidden")
         m_page.page->HideSetting();
@@ -151,9 +130,9 @@ void PageHostOperationsTest::bringInto(const QString& state)
 void PageHostOperationsTest::result_data()
 {
     QTest::addColumn<QString>("state");
-    const char* const states[] = {"not shown", "shown", "hidden", "cancelled"};
+    const char* const states[] = {"not shown", "filled, not shown", "shown", "hidden", "cancelled"};
     for (const char* state : states)
-        QTest::newRow(state) << QString::fromLatin1(state);
+        QTest::newRow(state) << QString(state);
 }
 
 void PageHostOperationsTest::result()
@@ -167,9 +146,23 @@ void PageHostOperationsTest::result()
     QCOMPARE(m_page.page->OnClickSettingCancelButton(), 1);
     QCOMPARE(m_page.page->HideSetting(), 1);
     QCOMPARE(m_page.page->IsActiveSetting(), 1);
+    QCOMPARE(m_page.page->OnClickSettingCancelButton(), 1);
     QCOMPARE(m_page.page->m_pageWidget != nullptr, state != "not shown");
-    QCOMPARE(FakeHost::instance().notifications, QStringList());
+    QCOMPARE(m_page.told(), 0);
     QCOMPARE(FakeHost::instance().messages.size(), 0);
+    m_page.show();
+    QVERIFY(m_page.page->m_pageWidget->isVisible());
+    m_page.end();
+
+    bringInto(state);
+    const QPointer<QWidget> old = m_page.page->m_pageWidget;
+    m_page.show();
+    QVERIFY(!old);
+    QCOMPARE(m_page.host->children().size(), 1);
+    QVERIFY(m_page.page->m_pageWidget->isVisible());
+    QCOMPARE(m_page.currentRow(), 0);
+    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Down");
+    QCOMPARE(m_page.linkNames(), "a b c");
 }
 
 void PageHostOperationsTest::language_data()
@@ -197,111 +190,61 @@ void PageHostOperationsTest::language()
 void PageHostOperationsTest::withoutEffect_data()
 {
     QTest::addColumn<QString>("operation");
-    const char* const operations[] = {"Hide", "FitSize", "OnClickSettingOkButton", "IsActiveSetting", "ChangeLang"};
-    for (const char* operation : operations)
-        QTest::newRow(operation) << QString::fromLatin1(operation);
+    QTest::addColumn<int>("traces");
+    QTest::newRow("Hide") << "Hide" << 1;
+    QTest::newRow("FitSize") << "FitSize" << 1;
+    QTest::newRow("ChangeLang") << "ChangeLang" << 1;
+    QTest::newRow("OnClickSettingOkButton") << "OnClickSettingOkButton" << -1;
+    QTest::newRow("IsActiveSetting") << "IsActiveSetting" << -1;
 }
 
 void PageHostOperationsTest::withoutEffect()
 {
     QFETCH(QString, operation);
+    QFETCH(int, traces);
     m_page.begin(links("a b"));
-    const QByteArray file = FakeHost::instance().readConfig();
     QFile::remove(FakeHost::instance().configPath());
     const QPointer<QWidget> widget = m_page.page->m_pageWidget;
-    const QRect geometry = widget->geometry();
+    widget->setGeometry(7, 8, 300, 200);
     m_page.table()->setCurrentCell(1, 0);
     {
         RecordingTrace trace;
-        QRect area(7, 8, 90, 100);
-        if (operation == "Hide")
-            m_page.page->Hide();
-        else if (operation == "FitSize")
-            m_page.page->FitSize(area);
-        else if (operation == "OnClickSettingOkButton")
-            m_page.page->OnClickSettingOkButton();
-        else if (operation == "IsActiveSetting")
-            m_page.page->IsActiveSetting();
-        else
-            m_page.page->ChangeLang("de");
-        QCOMPARE(area, QRect(7, 8, 90, 100));
-        const bool isTraced = operation == "Hide" || operation == "FitSize" ||
-                              operation == "ChangeLang";
+        operationNamed(operation).call(m_page.page, nullptr);
         const QByteArray name = operation.toLatin1();
-        QVERIFY(!isTraced || trace.countDebug(tracePattern("Start of %F: " + name + ": %L: ")) == 1);
-        QVERIFY(!isTraced || trace.countDebug(tracePattern("End of %F: " + name + ": %L: ")) == 1);
+        QVERIFY(traces < 0 || trace.countDebug(tracePattern("Start of %F: " + name + ": %L: ")) == traces);
+        QVERIFY(traces < 0 || trace.countDebug(tracePattern("End of %F: " + name + ": %L: ")) == traces);
     }
+    QCOMPARE(anyArea, QRect(0, 0, 450, 400));
     QCOMPARE(m_page.page->m_pageWidget, widget.data());
     QVERIFY(widget->isVisible());
-    QCOMPARE(widget->geometry(), geometry);
+    QCOMPARE(widget->geometry(), QRect(7, 8, 300, 200));
     QCOMPARE(widget->parentWidget(), m_page.host.data());
     QCOMPARE(m_page.currentRow(), 1);
-    QCOMPARE(m_page.disorder(), QString());
-    QCOMPARE(FakeHost::instance().readConfig(), QByteArray());
-    QCOMPARE(FakeHost::instance().notifications, QStringList());
+    QCOMPARE(m_page.linkNames(), "a b");
+    QCOMPARE(m_page.file(), QByteArray());
+    QCOMPARE(m_page.told(), 0);
 }
 
-void PageHostOperationsTest::hide()
+void PageHostOperationsTest::hideAndCancel_data()
 {
+    QTest::addColumn<bool>("isCancel");
+    QTest::newRow("hide") << false;
+    QTest::newRow("cancel") << true;
+}
+
+void PageHostOperationsTest::hideAndCancel()
+{
+    QFETCH(bool, isCancel);
     m_page.begin(links("a"));
     const QPointer<QWidget> widget = m_page.page->m_pageWidget;
-    QCOMPARE(m_page.page->HideSetting(), 1);
+    QCOMPARE(isCancel ? m_page.page->OnClickSettingCancelButton() : m_page.page->HideSetting(), 1);
     QVERIFY(widget);
     QVERIFY(widget->isHidden());
-    QCOMPARE(widget->parentWidget(), m_page.host.data());
+    QCOMPARE(widget->isWindow(), isCancel);
+    QCOMPARE(widget->parentWidget(), isCancel ? nullptr : m_page.host.data());
+    QCOMPARE(m_page.host->children().isEmpty(), isCancel);
     QCOMPARE(m_page.page->m_pageWidget, widget.data());
-    QCOMPARE(m_page.disorder(), QString());
-}
-
-void PageHostOperationsTest::cancel()
-{
-    m_page.begin(links("a"));
-    const QPointer<QWidget> widget = m_page.page->m_pageWidget;
-    QCOMPARE(m_page.page->OnClickSettingCancelButton(), 1);
-    QVERIFY(widget);
-    QVERIFY(!widget->parent());
-    QVERIFY(widget->isWindow());
-    QVERIFY(widget->isHidden());
-    QCOMPARE(m_page.page->m_pageWidget, widget.data());
-    QCOMPARE(m_page.disorder(), QString());
-    QVERIFY(m_page.host->children().isEmpty());
-}
-
-void PageHostOperationsTest::cancelTwice()
-{
-    m_page.begin(links("a"));
-    m_page.page->OnClickSettingCancelButton();
-    QCOMPARE(m_page.page->OnClickSettingCancelButton(), 1);
-    m_page.show();
-    QVERIFY(m_page.page->m_pageWidget->isVisible());
-}
-
-void PageHostOperationsTest::hiddenUntilShown()
-{
-    m_page.beginHidden(links("a"));
-    m_page.page->createWidgetMemory(m_page.host);
-    m_page.page->initializeUI();
-    m_page.page->fillTable();
-    QVERIFY(m_page.page->m_pageWidget->isHidden());
-}
-
-void PageHostOperationsTest::showAgain_data()
-{
-    result_data();
-}
-
-void PageHostOperationsTest::showAgain()
-{
-    QFETCH(QString, state);
-    bringInto(state);
-    const QPointer<QWidget> old = m_page.page->m_pageWidget;
-    m_page.show();
-    QVERIFY(!old);
-    QCOMPARE(m_page.host->children().size(), 1);
-    QVERIFY(m_page.page->m_pageWidget->isVisible());
-    QCOMPARE(m_page.currentRow(), 0);
-    QCOMPARE(m_page.enabledButtons(), "New Edit Delete Down");
-    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(m_page.linkNames(), "a");
 }
 
 void PageHostOperationsTest::showInAnotherWidget()
@@ -349,16 +292,6 @@ void PageHostOperationsTest::selectionAndScrollingStartAnew()
     QCOMPARE(m_page.table()->verticalScrollBar()->value(), 0);
 }
 
-void PageHostOperationsTest::showReadsTheListAgain()
-{
-    m_page.begin(links("a b"));
-    m_page.page->m_recordList->append(makeRecord("c", "email", "mailto:"));
-    QCOMPARE(m_page.shownNames(), "a b");
-    m_page.show();
-    QCOMPARE(m_page.shownNames(), "a b c");
-    QCOMPARE(m_page.disorder(), QString());
-}
-
 void PageHostOperationsTest::changeStaysAfter_data()
 {
     QTest::addColumn<QString>("what");
@@ -367,10 +300,8 @@ void PageHostOperationsTest::changeStaysAfter_data()
     const char* const rows[][2] = {
         {"New", "a b c d"}, {"Edit", "a x c"}, {"Delete", "a c"}, {"Up", "b a c"}, {"Down", "a c b"}};
     for (const char* const* row : rows) {
-        QTest::newRow(qPrintable(QLatin1String(row[0]) + ", Cancel"))
-            << QString::fromLatin1(row[0]) << true << QString::fromLatin1(row[1]);
-        QTest::newRow(qPrintable(QLatin1String(row[0]) + ", OK"))
-            << QString::fromLatin1(row[0]) << false << QString::fromLatin1(row[1]);
+        QTest::newRow(qPrintable(QLatin1String(row[0]) + ", Cancel")) << QString(row[0]) << true << QString(row[1]);
+        QTest::newRow(qPrintable(QLatin1String(row[0]) + ", OK")) << QString(row[0]) << false << QString(row[1]);
     }
 }
 
@@ -382,14 +313,14 @@ void PageHostOperationsTest::changeStaysAfter()
     m_page.begin(links("a b c"));
     m_page.select(1);
     m_page.change(what);
-    const QByteArray file = FakeHost::instance().readConfig();
+    const QByteArray file = m_page.file();
     const int notifications = FakeHost::instance().notifications.size();
     if (isCancelled)
         m_page.page->OnClickSettingCancelButton();
     else
         m_page.page->OnClickSettingOkButton();
     QCOMPARE(m_page.listNames(), names);
-    QCOMPARE(FakeHost::instance().readConfig(), file);
+    QCOMPARE(m_page.file(), file);
     QCOMPARE(FakeHost::instance().notifications.size(), notifications);
     m_page.show();
     QCOMPARE(m_page.shownNames(), names);
@@ -404,8 +335,7 @@ void PageHostOperationsTest::dialogsSurviveTheRebuild()
     m_page.show();
     QCOMPARE(m_page.liveFrames(), 1);
     m_page.pressOk();
-    QCOMPARE(m_page.shownNames(), "a b c");
-    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(m_page.linkNames(), "a b c");
 }
 
 REGISTER_TEST(PageHostOperationsTest)

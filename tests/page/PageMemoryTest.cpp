@@ -90,7 +90,7 @@ void PageMemoryTest::nothingPilesUp()
     QVERIFY(bytes > 0);
     const qint64 after = residentBytes();
     qDebug("resident after 100 rounds %lld bytes, after 1000 rounds %lld bytes", static_cast<long long>(bytes),
-          static_cast<long long>(after));
+           static_cast<long long>(after));
     QVERIFY2(after <= bytes + bytes / 50, "more than 2 % were added in 900 rounds");
 }
 

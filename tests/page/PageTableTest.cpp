@@ -17,25 +17,21 @@ class PageTableTest : public QObject
 private Q_SLOTS:
     void cleanup();
 
+    void configuration_data();
     void configuration();
-    void columnsKeepTheDefaultWidth();
-    void header_data();
-    void header();
     void rowHeight_data();
     void rowHeight();
     void item_data();
     void item();
-    void typeText_data();
-    void typeText();
     void rowsInOrderOfTheList_data();
     void rowsInOrderOfTheList();
     void recordIsACopyOfAllFields();
-    void hiddenLinksHaveRowsToo();
     void cellsCannotBeEdited_data();
     void cellsCannotBeEdited();
     void rewritingARowReusesItsItems();
-    void rewritingARowKeepsTheOldRecord();
-    void traceOfARow();
+    void releaseFreesEveryRecord();
+    void releaseStopsEarly_data();
+    void releaseStopsEarly();
 
 private:
     ShownPage m_page;
@@ -47,58 +43,47 @@ void PageTableTest::cleanup()
     QApplication::setFont(QFont());
 }
 
+void PageTableTest::configuration_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("without links") << 0;
+    QTest::newRow("with links") << 2;
+}
+
 void PageTableTest::configuration()
 {
-    m_page.begin(links("One Two"));
+    QFETCH(int, count);
+    QuickLinkRecordList records = links("One Two");
+    records[0].name = QString(200, 'W');
+    records.resize(count);
+    m_page.begin(records);
     const QTableWidget* const table = m_page.table();
-    QVERIFY(!table->horizontalHeader()->stretchLastSection());
+    const QHeaderView* const columns = table->horizontalHeader();
+    QCOMPARE(table->rowCount(), count);
+    QVERIFY(!columns->stretchLastSection());
     QVERIFY(!table->showGrid());
     QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
     QCOMPARE(table->selectionMode(), QAbstractItemView::SingleSelection);
     QCOMPARE(table->itemDelegate(), static_cast<QAbstractItemDelegate*>(m_page.page->m_gridDelegate));
     QVERIFY(table->verticalHeader()->isHidden());
-    QVERIFY(!table->horizontalHeader()->isHidden());
+    QVERIFY(!columns->isHidden());
     QCOMPARE(table->columnCount(), 2);
     QVERIFY(!table->wordWrap());
     QVERIFY(table->updatesEnabled());
     QVERIFY(!table->isSortingEnabled());
-}
-
-void PageTableTest::columnsKeepTheDefaultWidth()
-{
-    QuickLinkRecordList records = links("One");
-    records[0].name = QString(200, 'W');
-    m_page.begin(records);
-    const QHeaderView* const columns = m_page.table()->horizontalHeader();
     QCOMPARE(columns->defaultSectionSize(), QTableWidget().horizontalHeader()->defaultSectionSize());
-    QCOMPARE(m_page.table()->columnWidth(0), columns->defaultSectionSize());
-    QCOMPARE(m_page.table()->columnWidth(1), columns->defaultSectionSize());
-}
 
-void PageTableTest::header_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("links");
-    QTest::newRow("name") << 0 << "IDS_LINK_SETTING_NAME" << 2;
-    QTest::newRow("type") << 1 << "IDS_LINK_SETTING_TYPE" << 2;
-    QTest::newRow("name, no links") << 0 << "IDS_LINK_SETTING_NAME" << 0;
-    QTest::newRow("type, no links") << 1 << "IDS_LINK_SETTING_TYPE" << 0;
-}
-
-void PageTableTest::header()
-{
-    QFETCH(int, column);
-    QFETCH(QString, key);
-    QFETCH(int, links);
-    m_page.begin(::links(links ? "One Two" : ""));
-    QCOMPARE(m_page.table()->rowCount(), links);
-    const QTableWidgetItem* const item = m_page.table()->horizontalHeaderItem(column);
-    QVERIFY(item);
-    QCOMPARE(item, column == 0 ? m_page.page->m_nameHeaderItem : m_page.page->m_typeHeaderItem);
-    QCOMPARE(item->text(), shown(key.toLatin1().constData()));
-    QCOMPARE(item->data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignLeft));
-    QCOMPARE(item->type(), 0);
+    const QTableWidgetItem* const owned[] = {m_page.page->m_nameHeaderItem, m_page.page->m_typeHeaderItem};
+    const char* const texts[] = {"en:IDS_LINK_SETTING_NAME", "en:IDS_LINK_SETTING_TYPE"};
+    for (int column = 0; column < 2; ++column) {
+        QCOMPARE(table->columnWidth(column), columns->defaultSectionSize());
+        const QTableWidgetItem* const item = table->horizontalHeaderItem(column);
+        QVERIFY(item);
+        QCOMPARE(item, owned[column]);
+        QCOMPARE(item->text(), texts[column]);
+        QCOMPARE(item->data(Qt::TextAlignmentRole).toInt(), int(Qt::AlignLeft));
+        QCOMPARE(item->type(), 0);
+    }
 }
 
 void PageTableTest::rowHeight_data()
@@ -128,12 +113,17 @@ void PageTableTest::item_data()
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("hasRecord");
-    const char* const types[] = {"en:IDS_LINK_TYPE_INTERNET", "en:IDS_LINK_TYPE_E-MAIL",
-                                 "en:IDS_LINK_TYPE_APPLICATION"};
-    const char* const names[] = {"One", "Two", "Three"};
-    for (int row = 0; row < 3; ++row) {
-        QTest::newRow(names[row]) << row << 0 << QString::fromLatin1(names[row]) << true;
-        QTest::newRow(types[row]) << row << 1 << QString::fromLatin1(types[row]) << false;
+    // Any type is shown as the host translates it.
+    const char* const types[] = {"en:IDS_LINK_TYPE_INTERNET",
+                                 "en:IDS_LINK_TYPE_E-MAIL",
+                                 "en:IDS_LINK_TYPE_APPLICATION",
+                                 "en:IDS_LINK_TYPE_E_MAIL",
+                                 "en:2",
+                                 "en:"};
+    const char* const names[] = {"One", "Two", "Three", "Four", "Five", "Six"};
+    for (int row = 0; row < 6; ++row) {
+        QTest::newRow(names[row]) << row << 0 << QString(names[row]) << true;
+        QTest::newRow(types[row]) << row << 1 << QString(types[row]) << false;
     }
 }
 
@@ -143,7 +133,11 @@ void PageTableTest::item()
     QFETCH(int, column);
     QFETCH(QString, text);
     QFETCH(bool, hasRecord);
-    m_page.begin(links("One Two Three"));
+    QuickLinkRecordList records = links("One Two Three Four Five Six");
+    records[3].type = "IDS_LINK_TYPE_E_MAIL";
+    records[4].type = "2";
+    records[5].type = "";
+    m_page.begin(records);
     const QTableWidgetItem* const item = m_page.table()->item(row, column);
     QVERIFY(item);
     QCOMPARE(item->text(), text);
@@ -156,24 +150,6 @@ void PageTableTest::item()
     QCOMPARE(data != 0, hasRecord);
     if (hasRecord)
         QCOMPARE(m_page.recordOf(row)->name, text);
-}
-
-void PageTableTest::typeText_data()
-{
-    QTest::addColumn<QString>("type");
-    const char* const types[] = {
-        "IDS_LINK_TYPE_APPLICATION", "IDS_LINK_TYPE_E-MAIL", "IDS_LINK_TYPE_E_MAIL", "IDS_LINK_TYPE_INTERNET", "2", ""};
-    for (const char* type : types)
-        QTest::newRow(type) << QString::fromLatin1(type);
-}
-
-void PageTableTest::typeText()
-{
-    QFETCH(QString, type);
-    QuickLinkRecordList records = links("One");
-    records[0].type = type;
-    m_page.begin(records);
-    QCOMPARE(m_page.table()->item(0, 1)->text(), "en:" + type);
 }
 
 void PageTableTest::rowsInOrderOfTheList_data()
@@ -190,10 +166,17 @@ void PageTableTest::rowsInOrderOfTheList()
 {
     QFETCH(QByteArray, names);
     m_page.begin(links(names.constData()));
-    QCOMPARE(m_page.shownNames(), QString::fromLatin1(names));
-    QCOMPARE(m_page.disorder(), QString());
+    QCOMPARE(m_page.linkNames(), QString(names));
     QCOMPARE(m_page.currentRow(), names.isEmpty() ? -1 : 0);
     QCOMPARE(m_page.table()->selectedItems().size(), names.isEmpty() ? 0 : 2);
+
+    // The list may have come by more, hidden ones too, until the page is shown again.
+    QuickLinkRecord hidden = makeRecord("hidden", "email", "mailto:");
+    hidden.visible = "0";
+    m_page.page->m_recordList->append(hidden);
+    QCOMPARE(m_page.shownNames(), QString(names));
+    m_page.show();
+    QCOMPARE(m_page.linkNames(), QString(names + " hidden").trimmed());
 }
 
 void PageTableTest::recordIsACopyOfAllFields()
@@ -212,17 +195,6 @@ void PageTableTest::recordIsACopyOfAllFields()
     m_page.begin(QuickLinkRecordList() << record);
     QCOMPARE(difference(*m_page.recordOf(0), record), QString());
     QVERIFY(m_page.recordOf(0) != &m_page.page->m_recordList->at(0));
-}
-
-void PageTableTest::hiddenLinksHaveRowsToo()
-{
-    m_page.beginHidden(links("One"));
-    QuickLinkRecordList hidden = links("Two");
-    hidden[0].visible = "0";
-    m_page.page->m_recordList->append(hidden.first());
-    m_page.show();
-    QCOMPARE(m_page.shownNames(), "One Two");
-    QCOMPARE(m_page.disorder(), QString());
 }
 
 void PageTableTest::cellsCannotBeEdited_data()
@@ -250,6 +222,7 @@ void PageTableTest::cellsCannotBeEdited()
 void PageTableTest::rewritingARowReusesItsItems()
 {
     m_page.begin(links("One Two"));
+    const RecordProbe probe(m_page.recordOf(1));
     const QTableWidgetItem* const name = m_page.table()->item(1, 0);
     const QTableWidgetItem* const type = m_page.table()->item(1, 1);
     QuickLinkRecord* const old = m_page.recordOf(1);
@@ -263,27 +236,56 @@ void PageTableTest::rewritingARowReusesItsItems()
     QCOMPARE(m_page.recordOf(1), record);
     QVERIFY(!(name->flags() & Qt::ItemIsEditable));
     QCOMPARE(trace.warningLines, QStringList());
-    m_page.page->freeRecord(old);
-}
-
-void PageTableTest::rewritingARowKeepsTheOldRecord()
-{
-    m_page.begin(links("One"));
-    QuickLinkRecord* const old = m_page.recordOf(0);
-    const RecordProbe probe(old);
-    m_page.page->populateTableRow(new QuickLinkRecord(makeRecord("Other", "email", "mailto:")), 0);
-    QVERIFY(!probe.isFreed());
-    m_page.page->freeRecord(old);
-    QVERIFY(probe.isFreed());
-}
-
-void PageTableTest::traceOfARow()
-{
-    m_page.begin(links("One"));
-    QuickLinkRecord* const same = m_page.recordOf(0);
-    RecordingTrace trace;
-    m_page.page->populateTableRow(same, 0);
     QCOMPARE(trace.debugDifference(QStringList() << tracePattern("%F: populateTableRow: %T : Entered ")), QString());
+    QVERIFY(!probe.isFreed());
+    delete old;
+}
+
+void PageTableTest::releaseFreesEveryRecord()
+{
+    m_page.begin(links("a b c"));
+    const QVariant before = m_page.table()->item(1, 0)->data(Qt::UserRole);
+    const RecordProbe first(m_page.recordOf(0));
+    const RecordProbe second(m_page.recordOf(1));
+    const RecordProbe third(m_page.recordOf(2));
+    m_page.page->releaseTable();
+    QVERIFY(first.isFreed());
+    QVERIFY(second.isFreed());
+    QVERIFY(third.isFreed());
+    // The rows stay as they are.
+    QCOMPARE(m_page.shownNames(), "a b c");
+    QCOMPARE(m_page.table()->item(1, 0)->data(Qt::UserRole), before);
+}
+
+void PageTableTest::releaseStopsEarly_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QVariant>("data");
+    QTest::newRow("0 in the first row") << 0 << QVariant(0);
+    QTest::newRow("0 in the second row") << 1 << QVariant(0);
+    QTest::newRow("nothing in the second row") << 1 << QVariant();
+    QTest::newRow("no number in the second row") << 1 << QVariant("record");
+    QTest::newRow("0 in the last row") << 2 << QVariant(0);
+}
+
+void PageTableTest::releaseStopsEarly()
+{
+    QFETCH(int, row);
+    QFETCH(QVariant, data);
+    m_page.begin(links("a b c"));
+    QList<QuickLinkRecord*> records;
+    QList<RecordProbe> probes;
+    for (int each = 0; each < 3; ++each) {
+        records.append(m_page.recordOf(each));
+        probes.append(RecordProbe(records.last()));
+    }
+    m_page.table()->item(row, 0)->setData(Qt::UserRole, data);
+    m_page.page->releaseTable();
+    for (int each = 0; each < 3; ++each) {
+        QCOMPARE(probes.at(each).isFreed(), each < row);
+        if (each >= row)
+            delete records.at(each);
+    }
 }
 
 REGISTER_TEST(PageTableTest)

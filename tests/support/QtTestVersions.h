@@ -33,12 +33,15 @@
 
 namespace QTest
 {
-/** Qt 4.8 waits only for the window to be shown; the rest is waited for here. */
+/** Qt 4.8 waits only for the window to be shown; the rest is waited for here, and asked for where no window manager is.
+ */
 inline bool qWaitForWindowActive(QWidget* window)
 {
     qWaitForWindowShown(window);
-    for (int waited = 0; waited < 5000 && !window->isActiveWindow(); waited += 20)
+    for (int waited = 0; waited < 5000 && !window->isActiveWindow(); waited += 20) {
+        window->activateWindow();
         qWait(20);
+    }
     return window->isActiveWindow();
 }
 

@@ -84,6 +84,15 @@ inline QByteArray signatureOf(const QMetaMethod& method)
     return method.signature();
 }
 
+/** The type that a method returns; Qt 4.8 has no name for void. */
+inline QByteArray returnTypeOf(const QMetaMethod& method)
+{
+    return *method.typeName() ? method.typeName() : "void";
+}
+
+/** Whether a widget says that it goes before its children go. */
+const bool saysParentGoneFirst = false;
+
 /** Removes a folder with all that is in it, links unfollowed; false when something stays. */
 inline bool removeFolder(const QString& path)
 {
@@ -161,6 +170,13 @@ inline QByteArray signatureOf(const QMetaMethod& method)
 {
     return method.methodSignature();
 }
+
+inline QByteArray returnTypeOf(const QMetaMethod& method)
+{
+    return method.typeName();
+}
+
+const bool saysParentGoneFirst = true;
 
 inline bool removeFolder(const QString& path)
 {

@@ -54,14 +54,6 @@ QString existingFile()
     return QCoreApplication::applicationFilePath();
 }
 
-RecordProbe::RecordProbe(QuickLinkRecord* record)
-    : m_mark("watched")
-{
-    record->para = m_mark;
-    if (m_mark.isDetached())
-        qFatal("The toolkit does not share the texts of records");
-}
-
 void ShownPage::begin(const QuickLinkRecordList& records)
 {
     beginHidden(records);
@@ -71,8 +63,7 @@ void ShownPage::begin(const QuickLinkRecordList& records)
 void ShownPage::beginHidden(const QuickLinkRecordList& records)
 {
     make();
-    FakeHost::instance().writeConfig(
-        configDocument("1", QString::number(records.size()), records.toList()));
+    FakeHost::instance().writeConfig(configDocument("1", QString::number(records.size()), records.toList()));
     page->Init();
     host = new QWidget;
     host->resize(600, 450);
@@ -82,6 +73,19 @@ void ShownPage::beginHidden(const QuickLinkRecordList& records)
 void ShownPage::show(QRect area)
 {
     page->ShowSettingDialog(host, area);
+}
+
+int ShownPage::changeLanguage(const char* language)
+{
+    FakeHost::instance().language = QLatin1String(language);
+    return page->Notify(1024, 0, 0);
+}
+
+void ShownPage::deletePlugin()
+{
+    page->OnDestroy();
+    delete page;
+    page = nullptr;
 }
 
 void ShownPage::end()
@@ -149,6 +153,12 @@ QuickLinkRecord* ShownPage::recordOf(int row) const
 {
     const QVariant data = table()->item(row, 0)->data(Qt::UserRole);
     return reinterpret_cast<QuickLinkRecord*>(static_cast<quintptr>(data.toULongLong()));
+}
+
+QString ShownPage::linkNames() const
+{
+    const QString wrong = disorder();
+    return wrong.isEmpty() ? listNames() : wrong + ", rows " + shownNames() + ", list " + listNames();
 }
 
 QString ShownPage::disorder() const

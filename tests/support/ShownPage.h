@@ -14,6 +14,7 @@
 #include "ExtendDialog.h"
 #include "LoadedPlugin.h"
 #include "PointerMembers.h"
+#include "RecordProbe.h"
 
 class QuickLinkSettingNewEditDlg;
 
@@ -50,17 +51,6 @@ QuickLinkRecordList links(const char* names);
 /** A file that exists wherever the test runs. */
 QString existingFile();
 
-/** Knows whether a record has been freed. It marks the record's para, which the table does not show. */
-class RecordProbe
-{
-public:
-    explicit RecordProbe(QuickLinkRecord* record);
-    bool isFreed() const { return m_mark.isDetached(); }
-
-private:
-    QString m_mark;
-};
-
 /** The plug-in with its settings page on the screen, in a widget of the host. */
 class ShownPage : public LoadedPlugin
 {
@@ -73,6 +63,12 @@ public:
 
     /** The host shows the page in its widget. */
     void show(QRect area = QRect(0, 0, 450, 400));
+
+    /** The host changes its language and tells it. The plug-in's answer. */
+    int changeLanguage(const char* language = "de");
+
+    /** The host ends the plug-in and deletes its object, whatever else goes on. */
+    void deletePlugin();
 
     /** Ends the plug-in, then the host's widget. Frees the records that the dialogs leave. Harmless before begin(). */
     void end();
@@ -87,6 +83,9 @@ public:
     QString listNames() const;      ///< names in the record list; "none" where there is no list
     int currentRow() const { return table()->currentRow(); }
     QuickLinkRecord* recordOf(int row) const; ///< by the number in the row's first item; null for 0
+
+    /** The names of the links where rows and list agree, else what is wrong. */
+    QString linkNames() const;
 
     /** Empty while every row shows the element of the list in its place and owns a copy of it, the id aside. */
     QString disorder() const;
@@ -113,6 +112,10 @@ public:
     /** Makes one change to the selected link by mouse and keyboard: "New" (d), "Edit" (to x), "Delete", "Up" or "Down".
      */
     void change(const QString& what);
+
+    // What the page leaves outside.
+    static QByteArray file() { return FakeHost::instance().readConfig(); }
+    static int told() { return int(FakeHost::instance().notifications.size()); } ///< how often the menu was told
 
     /** The file, if it is written now from the list with this counter: ids as they are in memory. */
     QByteArray expectedFile(const char* currentId) const;
