@@ -50,6 +50,10 @@ inline QByteArray signatureOf(const QMetaMethod& method)
     return method.signature();
 }
 
+/** What is known of each signal's access, and how a method that returns nothing calls that. */
+const QMetaMethod::Access signalAccess = QMetaMethod::Protected;
+const char* const noTypeName = "";
+
 /** Removes a folder with all that is in it, links unfollowed; false when something stays. */
 inline bool removeFolder(const QString& path)
 {
@@ -103,6 +107,9 @@ inline QByteArray signatureOf(const QMetaMethod& method)
 {
     return method.methodSignature();
 }
+
+const QMetaMethod::Access signalAccess = QMetaMethod::Public;
+const char* const noTypeName = "void";
 
 inline bool removeFolder(const QString& path)
 {
