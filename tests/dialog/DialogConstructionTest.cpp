@@ -7,15 +7,15 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "OpenDialog.h"
-#include "ExtendDialog.h"
 #include "FakeHost.h"
+#include "OpenDialog.h"
+#include "ShownPage.h"
 #include "Test.h"
+
+typedef QuickLinkSettingNewEditDlg Dialog;
 
 class DialogConstructionTest : public QObject
 {
@@ -24,58 +24,33 @@ class DialogConstructionTest : public QObject
 private Q_SLOTS:
     void init() { FakeHost::instance().reset(); }
 
-    void freshMember_data();
-    void freshMember();
-    void freshStateIsThatOfANewLink();
+    void freshObject();
     void freshObjectMakesNoWidget();
     void membersStandInTheirOrder();
     void metaMethod_data();
     void metaMethod();
     void noFurtherMetaMethod();
-
-    void frameArguments();
-    void frameIsFixed();
-    void frameIsWindowModal();
-    void frameHostsTheMainWidget();
-    void frameHasNoTitle();
-    void frameIsShownWithoutBlocking();
-    void objectItselfIsNeverShown();
+    void frame();
     void frameWithoutParent();
-    void widgetIsInTheFrame_data();
-    void widgetIsInTheFrame();
+    void objectItselfIsNeverShown();
+    void everythingIsInTheFrame();
     void firstState();
     void secondShowingBuildsNothing();
+    void frameThatIsThereIsOnlyShown();
     void showingAgainAfterClosing();
     void destructorLeavesTheFrame();
     void destructorLeavesTheRecord();
 };
 
-void DialogConstructionTest::freshMember_data()
+void DialogConstructionTest::freshObject()
 {
-    QTest::addColumn<QString>("member");
-    QuickLinkSettingNewEditDlg dialog;
-    const QList<PointerMember> members = membersOf(&dialog);
-    for (const PointerMember& member : members)
-        QTest::newRow(member.name) << QString::fromLatin1(member.name);
-}
-
-void DialogConstructionTest::freshMember()
-{
-    QFETCH(QString, member);
     // Memory that is not zero by chance.
-    void* const memory = operator new(sizeof(QuickLinkSettingNewEditDlg));
-    std::memset(memory, 0x5a, sizeof(QuickLinkSettingNewEditDlg));
-    QuickLinkSettingNewEditDlg* const dialog = new (memory) QuickLinkSettingNewEditDlg;
-    const bool isNull = memberOf(dialog, member).isNull();
-    delete dialog;
-    QVERIFY(isNull);
-}
-
-void DialogConstructionTest::freshStateIsThatOfANewLink()
-{
-    void* const memory = operator new(sizeof(QuickLinkSettingNewEditDlg));
-    std::memset(memory, 0x5a, sizeof(QuickLinkSettingNewEditDlg));
-    const QScopedPointer<QuickLinkSettingNewEditDlg> dialog(new (memory) QuickLinkSettingNewEditDlg);
+    void* const memory = operator new(sizeof(Dialog));
+    std::memset(memory, 0x5a, sizeof(Dialog));
+    const QScopedPointer<Dialog> dialog(new (memory) Dialog);
+    const QList<PointerMember> members = membersOf(dialog.data());
+    for (const PointerMember& member : members)
+        QVERIFY2(member.isNull(), member.name);
     QCOMPARE(dialog->m_launchOnSoftware, "0");
     QCOMPARE(dialog->m_launchOnConnect, "0");
     QCOMPARE(dialog->m_isEdit, false);
@@ -88,7 +63,7 @@ void DialogConstructionTest::freshStateIsThatOfANewLink()
 void DialogConstructionTest::freshObjectMakesNoWidget()
 {
     const int before = QApplication::allWidgets().size();
-    const QuickLinkSettingNewEditDlg dialog;
+    const Dialog dialog;
     QCOMPARE(QApplication::allWidgets().size(), before + 1);
     QVERIFY(dialog.findChildren<QWidget*>().isEmpty());
     QVERIFY(FakeHost::instance().frames.isEmpty());
@@ -96,75 +71,62 @@ void DialogConstructionTest::freshObjectMakesNoWidget()
 
 void DialogConstructionTest::membersStandInTheirOrder()
 {
-    QuickLinkSettingNewEditDlg dialog;
+    Dialog dialog;
+    QList<const void*> addresses;
     const QList<PointerMember> members = membersOf(&dialog);
-    for (int i = 1; i < members.size(); ++i)
-        QVERIFY2(members.at(i - 1).address < members.at(i).address, members.at(i).name);
-    const void* const last = members.last().address;
-    QVERIFY(last < static_cast<void*>(&dialog.m_launchOnSoftware));
-    QVERIFY(static_cast<void*>(&dialog.m_launchOnSoftware) < static_cast<void*>(&dialog.m_launchOnConnect));
-    QVERIFY(static_cast<void*>(&dialog.m_launchOnConnect) < static_cast<void*>(&dialog.m_isEdit));
-    QVERIFY(static_cast<void*>(&dialog.m_isEdit) < static_cast<void*>(&dialog.m_editedName));
-    QVERIFY(static_cast<void*>(&dialog.m_editedName) < static_cast<void*>(&dialog.m_record));
+    for (const PointerMember& member : members)
+        addresses << member.address;
+    addresses << &dialog.m_launchOnSoftware << &dialog.m_launchOnConnect << &dialog.m_isEdit << &dialog.m_editedName
+              << &dialog.m_record;
+    for (int i = 1; i < addresses.size(); ++i)
+        QVERIFY2(addresses.at(i - 1) < addresses.at(i), QByteArray::number(i).constData());
 }
 
 void DialogConstructionTest::metaMethod_data()
 {
     QTest::addColumn<int>("index");
-    QTest::addColumn<QByteArray>("signature");
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("access");
-#if QT_VERSION >= 0x050000
-    const int signalAccess = QMetaMethod::Public;
-#else
-    const int signalAccess = QMetaMethod::Protected;
-#endif
-    const struct {
-        const char* signature;
-        int type;
-        int access;
-    } rows[] = {{"addRecord(QuickLinkRecord*)", QMetaMethod::Signal, signalAccess},
-                {"cancelNewButton()", QMetaMethod::Signal, signalAccess},
-                {"initializeUI()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onButtonClickCancelNew()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onClickBrowseButton()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onEnterNameInApplication()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onDeleteNameInApplication()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onSelectLaunchOnsoftware(bool)", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onSelectLaunchOnConnect(bool)", QMetaMethod::Slot, QMetaMethod::Private},
-                {"onClickOkButton()", QMetaMethod::Slot, QMetaMethod::Private},
-                {"OnSelectComboItem(int)", QMetaMethod::Slot, QMetaMethod::Public}};
-    int index = 0;
-    for (const auto& row : rows)
-        QTest::newRow(row.signature) << index++ << QByteArray(row.signature) << row.type << row.access;
+    const char* const methods[] = {"addRecord(QuickLinkRecord*)",
+                                   "cancelNewButton()",
+                                   "initializeUI()",
+                                   "onButtonClickCancelNew()",
+                                   "onClickBrowseButton()",
+                                   "onEnterNameInApplication()",
+                                   "onDeleteNameInApplication()",
+                                   "onSelectLaunchOnsoftware(bool)",
+                                   "onSelectLaunchOnConnect(bool)",
+                                   "onClickOkButton()",
+                                   "OnSelectComboItem(int)"};
+    for (int i = 0; i < 11; ++i) {
+        const QMetaMethod::Access slotAccess = i == 10 ? QMetaMethod::Public : QMetaMethod::Private;
+        QTest::newRow(methods[i]) << i << int(i < 2 ? QMetaMethod::Signal : QMetaMethod::Slot)
+                                  << int(i < 2 ? signalAccess : slotAccess);
+    }
 }
 
 void DialogConstructionTest::metaMethod()
 {
     QFETCH(int, index);
-    QFETCH(QByteArray, signature);
-    const QMetaObject& meta = QuickLinkSettingNewEditDlg::staticMetaObject;
+    const QMetaObject& meta = Dialog::staticMetaObject;
     const QMetaMethod method = meta.method(meta.methodOffset() + index);
-#if QT_VERSION >= 0x050000
-    QCOMPARE(method.methodSignature(), signature);
-#else
-    QCOMPARE(QByteArray(method.signature()), signature);
-#endif
+    QCOMPARE(signatureOf(method), QTest::currentDataTag());
     QTEST(int(method.methodType()), "type");
     QTEST(int(method.access()), "access");
-    QCOMPARE(QByteArray(method.typeName()), QByteArray(QT_VERSION >= 0x050000 ? "void" : ""));
+    QCOMPARE(QByteArray(method.typeName()), noTypeName);
 }
 
 void DialogConstructionTest::noFurtherMetaMethod()
 {
-    const QMetaObject& meta = QuickLinkSettingNewEditDlg::staticMetaObject;
+    const QMetaObject& meta = Dialog::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 11);
-    QCOMPARE(QByteArray(meta.className()), QByteArray("QuickLinkSettingNewEditDlg"));
+    QCOMPARE(QByteArray(meta.className()), "QuickLinkSettingNewEditDlg");
     QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
 }
 
-void DialogConstructionTest::frameArguments()
+void DialogConstructionTest::frame()
 {
+    // Showing it does not block: that would wait for a user here.
     const OpenDialog dialog;
     QCOMPARE(FakeHost::instance().frames.size(), 1);
     const MadeFrame& made = FakeHost::instance().frames.first();
@@ -173,41 +135,24 @@ void DialogConstructionTest::frameArguments()
     QCOMPARE(int(made.flags), int(Qt::WindowCloseButtonHint));
     QCOMPARE(made.widgetType, 1);
     QCOMPARE(made.flag, false);
+    QCOMPARE(made.titles, QStringList());
+    QCOMPARE(made.mainWidget.data(), dialog->m_mainWidget);
+    QCOMPARE(dialog->m_mainWidget->parent(), static_cast<QObject*>(made.frame));
+    QCOMPARE(made.frame->size(), QSize(345, 360));
+    QCOMPARE(made.frame->minimumSize(), QSize(345, 360));
+    QCOMPARE(made.frame->maximumSize(), QSize(345, 360));
+    QCOMPARE(made.frame->windowModality(), Qt::WindowModal);
+    QVERIFY(made.frame->isVisible());
 }
 
-void DialogConstructionTest::frameIsFixed()
+void DialogConstructionTest::frameWithoutParent()
 {
-    const OpenDialog dialog;
-    QCOMPARE(dialog->m_frameDialog->size(), QSize(345, 360));
-    QCOMPARE(dialog->m_frameDialog->minimumSize(), QSize(345, 360));
-    QCOMPARE(dialog->m_frameDialog->maximumSize(), QSize(345, 360));
-}
-
-void DialogConstructionTest::frameIsWindowModal()
-{
-    const OpenDialog dialog;
-    QCOMPARE(dialog->m_frameDialog->windowModality(), Qt::WindowModal);
-}
-
-void DialogConstructionTest::frameHostsTheMainWidget()
-{
-    const OpenDialog dialog;
-    QCOMPARE(FakeHost::instance().frames.first().mainWidget.data(), dialog->m_mainWidget);
-    QCOMPARE(dialog->m_mainWidget->parentWidget(), static_cast<QWidget*>(dialog->m_frameDialog));
-}
-
-void DialogConstructionTest::frameHasNoTitle()
-{
-    const OpenDialog dialog;
-    QVERIFY(FakeHost::instance().frames.first().titles.isEmpty());
-}
-
-void DialogConstructionTest::frameIsShownWithoutBlocking()
-{
-    // Already seen by coming here; a blocking call would wait for a user.
-    const OpenDialog dialog;
-    QVERIFY(dialog->m_frameDialog->isVisible());
-    QVERIFY(dialog.isOpen());
+    Dialog dialog;
+    dialog.ShowNewEditDlg(nullptr);
+    const QScopedPointer<ExtendDialog> frame(dialog.m_frameDialog);
+    QVERIFY(frame);
+    QVERIFY(!frame->parent());
+    QVERIFY(frame->isVisible());
 }
 
 void DialogConstructionTest::objectItselfIsNeverShown()
@@ -217,36 +162,17 @@ void DialogConstructionTest::objectItselfIsNeverShown()
     QVERIFY(dialog->findChildren<QWidget*>().isEmpty());
 }
 
-void DialogConstructionTest::frameWithoutParent()
+void DialogConstructionTest::everythingIsInTheFrame()
 {
-    QuickLinkSettingNewEditDlg dialog;
-    dialog.ShowNewEditDlg(nullptr);
-    const QScopedPointer<ExtendDialog> frame(dialog.m_frameDialog);
-    QVERIFY(frame);
-    QVERIFY(!frame->parent());
-    QVERIFY(frame->isVisible());
-}
-
-void DialogConstructionTest::widgetIsInTheFrame_data()
-{
-    QTest::addColumn<QString>("member");
-    QuickLinkSettingNewEditDlg dialog;
-    const QList<PointerMember> members = membersOf(&dialog);
-    for (const PointerMember& member : members) {
-        if (qstrcmp(member.name, "m_frameDialog") != 0)
-            QTest::newRow(member.name) << QString::fromLatin1(member.name);
-    }
-}
-
-void DialogConstructionTest::widgetIsInTheFrame()
-{
-    QFETCH(QString, member);
+    // What is not would outlive it.
     const OpenDialog dialog;
-    const QObject* ancestor = memberOf(dialog.get(), member).object;
-    QVERIFY(ancestor);
-    while (ancestor && ancestor != dialog->m_frameDialog)
-        ancestor = ancestor->parent();
-    QVERIFY2(ancestor, "It would outlive the frame");
+    const QList<PointerMember> members = membersOf(dialog.get());
+    for (const PointerMember& member : members) {
+        const QObject* ancestor = member.object;
+        while (ancestor && ancestor != dialog->m_frameDialog)
+            ancestor = ancestor->parent();
+        QVERIFY2(ancestor, member.name);
+    }
 }
 
 void DialogConstructionTest::firstState()
@@ -254,20 +180,19 @@ void DialogConstructionTest::firstState()
     const OpenDialog dialog;
     QVERIFY(!dialog.isOkEnabled());
     QVERIFY(dialog->m_cancelBtn->isEnabled());
-    QVERIFY(dialog->m_applicationPanel->isVisible());
+    QCOMPARE(dialog.shownPanel(), 0);
     QVERIFY(dialog->m_EmailTab->isHidden());
     QVERIFY(dialog->m_InternetTab->isHidden());
     QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
     QCOMPARE(dialog->m_appTabWidget->count(), 1);
     QCOMPARE(dialog->m_appTabWidget->widget(0), dialog->m_appTab);
-    QCOMPARE(dialog->m_launchOnSoftware, "0");
-    QCOMPARE(dialog->m_launchOnConnect, "0");
+    QCOMPARE(dialog.options(), "00");
     QVERIFY(!dialog->m_record);
 }
 
 void DialogConstructionTest::secondShowingBuildsNothing()
 {
-    OpenDialog dialog;
+    const OpenDialog dialog;
     const ExtendDialog* const frame = dialog->m_frameDialog;
     const int widgets = QApplication::allWidgets().size();
     QWidget other;
@@ -277,6 +202,20 @@ void DialogConstructionTest::secondShowingBuildsNothing()
     QCOMPARE(QApplication::allWidgets().size(), widgets + 1);
     QCOMPARE(FakeHost::instance().frames.size(), 1);
     QCOMPARE(dialog->m_appTypeChoice->count(), 3);
+}
+
+void DialogConstructionTest::frameThatIsThereIsOnlyShown()
+{
+    const OpenDialog dialog;
+    dialog->m_frameDialog->hide();
+    const RecordingTrace trace;
+    {
+        const NullMember missing(memberOf(dialog.get(), "m_appTabWidget"));
+        dialog->ShowNewEditDlg(dialog.host());
+        QVERIFY(!dialog->m_appTabWidget);
+    }
+    QVERIFY(dialog.isOpen());
+    QCOMPARE(trace.countDebug(".*Cell-Log UI Intialization Failed.*"), 0);
 }
 
 void DialogConstructionTest::showingAgainAfterClosing()
@@ -302,14 +241,13 @@ void DialogConstructionTest::destructorLeavesTheFrame()
 
 void DialogConstructionTest::destructorLeavesTheRecord()
 {
-    QuickLinkSettingNewEditDlg* const dialog = new QuickLinkSettingNewEditDlg;
+    QScopedPointer<Dialog> dialog(new Dialog);
     dialog->onClickOkButton();
     const QScopedPointer<QuickLinkRecord> record(dialog->m_record);
-    const QString name = "only the record shares this text";
-    record->name = name;
-    delete dialog;
-    QVERIFY(!name.isDetached());
-    QCOMPARE(record->name, name);
+    QVERIFY(record);
+    const RecordProbe probe(record.data());
+    dialog.reset();
+    QVERIFY(!probe.isFreed());
 }
 
 REGISTER_TEST(DialogConstructionTest)

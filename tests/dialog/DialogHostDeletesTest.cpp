@@ -7,9 +7,8 @@
 #include <QLineEdit>
 #include <QTabWidget>
 
-#include "OpenDialog.h"
-#include "ExtendDialog.h"
 #include "FakeHost.h"
+#include "OpenDialog.h"
 #include "RecordingTrace.h"
 #include "Test.h"
 
@@ -18,61 +17,55 @@ class DialogHostDeletesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void memberIsForgotten_data();
-    void memberIsForgotten();
-    void frameAloneIsDeleted();
+    void everythingIsForgotten_data();
+    void everythingIsForgotten();
     void partIsForgotten_data();
     void partIsForgotten();
     void stateStays();
-    void operationDoesNothing_data();
-    void operationDoesNothing();
     void cancelStillTells();
     void deletedAfterClosing();
     void showingAgainBuildsAnew();
-    void oldFrameDoesNotTakeTheNewOne();
-    void deletedBeforeTheFirstShowing();
     void hundredTimes();
 };
 
-void DialogHostDeletesTest::memberIsForgotten_data()
+void DialogHostDeletesTest::everythingIsForgotten_data()
 {
-    QTest::addColumn<QString>("member");
-    QuickLinkSettingNewEditDlg dialog;
-    const QList<PointerMember> members = membersOf(&dialog);
-    for (const PointerMember& member : members)
-        QTest::newRow(member.name) << QString::fromLatin1(member.name);
+    QTest::addColumn<bool>("byHost");
+    QTest::newRow("host's widget deleted") << true;
+    QTest::newRow("frame alone deleted") << false;
 }
 
-void DialogHostDeletesTest::memberIsForgotten()
+void DialogHostDeletesTest::everythingIsForgotten()
 {
-    QFETCH(QString, member);
+    QFETCH(bool, byHost);
     OpenDialog dialog;
-    const QPointer<QObject> object = memberOf(dialog.get(), member).object;
-    QVERIFY(object);
-    dialog.deleteHost();
-    QVERIFY(!object);
-    QVERIFY(memberOf(dialog.get(), member).isNull());
-}
-
-void DialogHostDeletesTest::frameAloneIsDeleted()
-{
-    OpenDialog dialog;
-    delete dialog->m_frameDialog;
     const QList<PointerMember> members = membersOf(dialog.get());
-    for (const PointerMember& member : members)
-        QVERIFY2(member.isNull(), member.name);
-    QVERIFY(dialog.host());
+    QList<QPointer<QObject>> objects;
+    for (const PointerMember& member : members) {
+        QVERIFY2(member.object, member.name);
+        objects << member.object;
+    }
+    if (byHost)
+        dialog.deleteHost();
+    else
+        delete dialog->m_frameDialog;
+    for (int i = 0; i < members.size(); ++i) {
+        QVERIFY2(!objects.at(i), members.at(i).name);
+        QVERIFY2(members.at(i).isNull(), members.at(i).name);
+    }
+    QCOMPARE(dialog.host() == nullptr, byHost);
 }
 
 void DialogHostDeletesTest::partIsForgotten_data()
 {
-    QTest::addColumn<QString>("member");
+    QStringList widgets;
     const OpenDialog dialog;
     const QList<PointerMember> members = membersOf(dialog.get());
     for (const PointerMember& member : members) {
         if (member.object->isWidgetType())
-            QTest::newRow(member.name) << QString::fromLatin1(member.name);
+            widgets.append(member.name);
     }
+    addMemberRows(widgets);
 }
 
 void DialogHostDeletesTest::partIsForgotten()
@@ -100,44 +93,7 @@ void DialogHostDeletesTest::stateStays()
     QCOMPARE(dialog->m_record, record);
     QCOMPARE(dialog->m_isEdit, true);
     QCOMPARE(dialog->m_editedName, "News");
-    QCOMPARE(dialog->m_launchOnConnect, "1");
-}
-
-void DialogHostDeletesTest::operationDoesNothing_data()
-{
-    QTest::addColumn<QByteArray>("operation");
-    QTest::addColumn<QByteArray>("argument");
-    const char* const plain[] = {"onClickOkButton", "onEnterNameInApplication", "onDeleteNameInApplication",
-                                 "SetLanguage"};
-    for (const char* operation : plain)
-        QTest::newRow(operation) << QByteArray(operation) << QByteArray();
-    const char* const types[] = {"0", "1", "2"};
-    for (const char* type : types) {
-        const QByteArray title = QByteArray("OnSelectComboItem ") + type;
-        QTest::newRow(title.constData()) << QByteArray("OnSelectComboItem") << QByteArray(type);
-    }
-}
-
-void DialogHostDeletesTest::operationDoesNothing()
-{
-    QFETCH(QByteArray, operation);
-    QFETCH(QByteArray, argument);
-    OpenDialog dialog;
-    dialog.fill(2, "News", "www.example.org");
-    dialog->onSelectLaunchOnConnect(true);
-    dialog.deleteHost();
-    const RecordingTrace trace;
-    if (operation == "SetLanguage")
-        dialog->SetLanguage();
-    else if (argument.isEmpty())
-        QVERIFY(QMetaObject::invokeMethod(dialog.get(), operation.constData()));
-    else
-        QVERIFY(QMetaObject::invokeMethod(dialog.get(), operation.constData(), Q_ARG(int, argument.toInt())));
-    QCOMPARE(trace.countDebug(nullTrace(operation.constData())), 1);
-    QCOMPARE(trace.warningLines, QStringList());
-    QVERIFY(dialog.added.isEmpty());
-    QVERIFY(FakeHost::instance().messages.isEmpty());
-    QCOMPARE(dialog->m_launchOnConnect, "1");
+    QCOMPARE(dialog.options(), "01");
 }
 
 void DialogHostDeletesTest::cancelStillTells()
@@ -151,7 +107,7 @@ void DialogHostDeletesTest::cancelStillTells()
 void DialogHostDeletesTest::deletedAfterClosing()
 {
     OpenDialog dialog;
-    dialog.fill(1, "Mail", "");
+    dialog.fill(1, "Mail");
     dialog.pressOk();
     dialog.deleteHost();
     QVERIFY(!dialog->m_frameDialog);
@@ -162,47 +118,26 @@ void DialogHostDeletesTest::showingAgainBuildsAnew()
 {
     OpenDialog dialog;
     dialog.fill(2, "News", "www.example.org");
+    QScopedPointer<QWidget> other(new QWidget);
     dialog.deleteHost();
-    QWidget other;
-    dialog->ShowNewEditDlg(&other);
-    QCOMPARE(FakeHost::instance().frames.size(), 2);
-    QVERIFY(dialog->m_frameDialog);
-    QCOMPARE(dialog->m_frameDialog->parentWidget(), &other);
-    QVERIFY(dialog.isOpen());
-    QVERIFY(!dialog.isOkEnabled());
-    QCOMPARE(dialog->m_appNameEdit->text(), QString());
-    QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
-    QCOMPARE(dialog->m_appTabWidget->count(), 1);
-    dialog.fill(1, "Mail", "");
-    dialog.pressOk();
-    QCOMPARE(dialog.added.size(), 1);
-}
-
-void DialogHostDeletesTest::oldFrameDoesNotTakeTheNewOne()
-{
-    OpenDialog dialog;
-    QWidget* const other = new QWidget;
-    dialog.deleteHost();
-    dialog->ShowNewEditDlg(other);
+    dialog->ShowNewEditDlg(other.data());
     const QPointer<ExtendDialog> frame = dialog->m_frameDialog;
     QVERIFY(frame);
-    delete other;
+    QCOMPARE(FakeHost::instance().frames.size(), 2);
+    QCOMPARE(frame->parentWidget(), other.data());
+    QVERIFY(dialog.isOpen());
+    QVERIFY(!dialog.isOkEnabled());
+    QCOMPARE(dialog->m_appNameEdit->text(), "");
+    QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
+    QCOMPARE(dialog->m_appTabWidget->count(), 1);
+    dialog.fill(1, "Mail");
+    dialog.pressOk();
+    QCOMPARE(dialog.added.size(), 1);
+
+    other.reset();
     QVERIFY(!frame);
     QVERIFY(!dialog->m_frameDialog);
     QVERIFY(!dialog->m_okBtn);
-}
-
-void DialogHostDeletesTest::deletedBeforeTheFirstShowing()
-{
-    FakeHost::instance().reset();
-    QuickLinkSettingNewEditDlg dialog;
-    const RecordingTrace trace;
-    dialog.SetLanguage();
-    dialog.OnSelectComboItem(1);
-    dialog.onEnterNameInApplication();
-    dialog.onDeleteNameInApplication();
-    QCOMPARE(trace.countDebug(nullTrace("[A-Za-z]+")), 4);
-    QVERIFY(FakeHost::instance().frames.isEmpty());
 }
 
 void DialogHostDeletesTest::hundredTimes()

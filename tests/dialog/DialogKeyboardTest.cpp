@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The dialog by keyboard: where typing goes at first, and where Tab leads.
+// The dialog by keyboard: where typing goes at first, where Tab leads, and what Return does.
 
+#include <QLineEdit>
 
-#include "OpenDialog.h"
 #include "FakeHost.h"
-#include "RecordingTrace.h"
+#include "OpenDialog.h"
 #include "Test.h"
 
 class DialogKeyboardTest : public QObject
@@ -23,29 +23,24 @@ private Q_SLOTS:
 
 void DialogKeyboardTest::startsInTheName()
 {
-    const RecordingTrace quiet;
     const OpenDialog dialog;
-    QCOMPARE(FakeHost::instance().frames.first().frame->focusWidget(),
-             memberOf(dialog.get(), "m_appNameEdit").object);
+    QCOMPARE(dialog->m_frameDialog->focusWidget(), static_cast<QWidget*>(dialog->m_appNameEdit));
 }
 
 void DialogKeyboardTest::tabOrder()
 {
-    const RecordingTrace quiet;
     const OpenDialog dialog;
     const QStringList order = names("m_appNameEdit m_appTypeChoice m_appPathEdit m_browseBtn m_appParamEdit "
                                     "m_launchWhenSWLaunchCB m_launchWhenConnectCB m_launchWhenSWLaunchCBForEmail "
                                     "m_launchWhenConnectCBForEmail m_EditUrlName m_launchWhenSWLaunchCBForInternet "
                                     "m_launchWhenConnectCBForInternet m_okBtn m_cancelBtn");
     QStringList walked;
-    const QWidget* const first = qobject_cast<QWidget*>(memberOf(dialog.get(), order.first()).object);
-    QVERIFY(first);
-    const QWidget* widget = first;
+    const QWidget* widget = dialog->m_appNameEdit;
     do {
         if (order.contains(widget->objectName()))
             walked.append(widget->objectName());
         widget = widget->nextInFocusChain();
-    } while (widget != first);
+    } while (widget != dialog->m_appNameEdit);
     QCOMPARE(walked, order);
 }
 
@@ -64,21 +59,18 @@ void DialogKeyboardTest::returnInAField()
 {
     QFETCH(int, type);
     QFETCH(QString, field);
-    const RecordingTrace quiet;
     OpenDialog dialog;
     dialog.fill(type, "Name", type == 0 ? "/" : "http://example.org/");
-    QTest::keyClick(qobject_cast<QWidget*>(memberOf(dialog.get(), field).object), Qt::Key_Return);
+    QTest::keyClick(dialog.find<QLineEdit>(field), Qt::Key_Return);
     QCOMPARE(dialog.added.size(), 1);
     QVERIFY(!dialog.isOpen());
 }
 
 void DialogKeyboardTest::returnWhileOkIsDisabled()
 {
-    const RecordingTrace quiet;
     const OpenDialog dialog;
     QVERIFY(!dialog.isOkEnabled());
-    QTest::keyClick(qobject_cast<QWidget*>(memberOf(dialog.get(), "m_appNameEdit").object),
-                    Qt::Key_Return);
+    QTest::keyClick(dialog->m_appNameEdit, Qt::Key_Return);
     QVERIFY(dialog.isOpen());
     QVERIFY(dialog.added.isEmpty());
 }

@@ -6,8 +6,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 
-#include "OpenDialog.h"
 #include "FakeHost.h"
+#include "OpenDialog.h"
 #include "Test.h"
 
 class DialogLaunchOptionsTest : public QObject
@@ -15,92 +15,63 @@ class DialogLaunchOptionsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void click_data();
-    void click();
-    void setCheckedIsNotAClick_data() { click_data(); }
-    void setCheckedIsNotAClick();
-    void boxesAreIndependent_data() { click_data(); }
-    void boxesAreIndependent();
-    void boxesKeepTheirStateThroughTypes_data() { click_data(); }
-    void boxesKeepTheirStateThroughTypes();
+    void box_data();
+    void box();
     void slotsDoNothingElse();
     void tickLostByARoundOfTypes();
     void tickOfAnotherPanelCounts();
     void lastClickDecides();
 
 private:
-    static QCheckBox* box(const OpenDialog& dialog, const QString& member);
-    static QStringList allBoxes();
+    static QStringList tickedBoxes(const OpenDialog& dialog);
 };
 
-QCheckBox* DialogLaunchOptionsTest::box(const OpenDialog& dialog, const QString& member)
+QStringList DialogLaunchOptionsTest::tickedBoxes(const OpenDialog& dialog)
 {
-    return qobject_cast<QCheckBox*>(memberOf(dialog.get(), member).object);
+    QStringList ticked;
+    const QList<QCheckBox*> boxes = dialog->m_frameDialog->findChildren<QCheckBox*>();
+    for (const QCheckBox* box : boxes) {
+        if (box->isChecked())
+            ticked.append(box->objectName());
+    }
+    return ticked;
 }
 
-QStringList DialogLaunchOptionsTest::allBoxes()
+void DialogLaunchOptionsTest::box_data()
 {
-    return names("m_launchWhenSWLaunchCB m_launchWhenConnectCB m_launchWhenSWLaunchCBForEmail "
-                 "m_launchWhenConnectCBForEmail m_launchWhenSWLaunchCBForInternet m_launchWhenConnectCBForInternet");
-}
-
-void DialogLaunchOptionsTest::click_data()
-{
-    QTest::addColumn<QString>("member");
     QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("isOnSoftware");
-    const QStringList all = allBoxes();
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(qPrintable(all.at(i))) << all.at(i) << i / 2 << (i % 2 == 0);
+    QTest::addColumn<QString>("options");
+    QTest::newRow("m_launchWhenSWLaunchCB") << 0 << "10";
+    QTest::newRow("m_launchWhenConnectCB") << 0 << "01";
+    QTest::newRow("m_launchWhenSWLaunchCBForEmail") << 1 << "10";
+    QTest::newRow("m_launchWhenConnectCBForEmail") << 1 << "01";
+    QTest::newRow("m_launchWhenSWLaunchCBForInternet") << 2 << "10";
+    QTest::newRow("m_launchWhenConnectCBForInternet") << 2 << "01";
 }
 
-void DialogLaunchOptionsTest::click()
+void DialogLaunchOptionsTest::box()
 {
-    QFETCH(QString, member);
     QFETCH(int, type);
-    QFETCH(bool, isOnSoftware);
+    QFETCH(QString, options);
     OpenDialog dialog;
+    QCheckBox* const box = dialog.find<QCheckBox>(QTest::currentDataTag());
+    box->setChecked(true);
+    QCOMPARE(dialog.options(), "00");
+    box->setChecked(false);
+
     dialog.chooseType(type);
-    QVERIFY(box(dialog, member)->isVisible());
-    const QString& option = isOnSoftware ? dialog->m_launchOnSoftware : dialog->m_launchOnConnect;
-    const QString& other = isOnSoftware ? dialog->m_launchOnConnect : dialog->m_launchOnSoftware;
-    QTest::keyClick(box(dialog, member), Qt::Key_Space);
-    QCOMPARE(option, "1");
-    QCOMPARE(other, "0");
-    QTest::keyClick(box(dialog, member), Qt::Key_Space);
-    QCOMPARE(option, "0");
-    QCOMPARE(other, "0");
-}
+    QVERIFY(box->isVisible());
+    QTest::keyClick(box, Qt::Key_Space);
+    QCOMPARE(dialog.options(), options);
+    QCOMPARE(tickedBoxes(dialog), QStringList(box->objectName()));
+    QTest::keyClick(box, Qt::Key_Space);
+    QCOMPARE(dialog.options(), "00");
 
-void DialogLaunchOptionsTest::setCheckedIsNotAClick()
-{
-    QFETCH(QString, member);
-    OpenDialog dialog;
-    box(dialog, member)->setChecked(true);
-    QCOMPARE(dialog->m_launchOnSoftware, "0");
-    QCOMPARE(dialog->m_launchOnConnect, "0");
-}
-
-void DialogLaunchOptionsTest::boxesAreIndependent()
-{
-    QFETCH(QString, member);
-    OpenDialog dialog;
-    box(dialog, member)->click();
-    const QStringList all = allBoxes();
-    for (const QString& one : all)
-        QCOMPARE(box(dialog, one)->isChecked(), one == member);
-}
-
-void DialogLaunchOptionsTest::boxesKeepTheirStateThroughTypes()
-{
-    QFETCH(QString, member);
-    OpenDialog dialog;
-    box(dialog, member)->click();
-    for (int type = 2; type >= 0; --type) {
-        dialog.chooseType(type);
-        QVERIFY(box(dialog, member)->isChecked());
-        QCOMPARE(dialog->m_launchOnSoftware, "0");
-        QCOMPARE(dialog->m_launchOnConnect, "0");
+    QTest::keyClick(box, Qt::Key_Space);
+    for (int next = 2; next >= 0; --next) {
+        dialog.chooseType(next);
+        QVERIFY(box->isChecked());
+        QCOMPARE(dialog.options(), "00");
     }
 }
 
@@ -109,15 +80,11 @@ void DialogLaunchOptionsTest::slotsDoNothingElse()
     const OpenDialog dialog;
     dialog->onSelectLaunchOnsoftware(true);
     dialog->onSelectLaunchOnConnect(true);
-    QCOMPARE(dialog->m_launchOnSoftware, "1");
-    QCOMPARE(dialog->m_launchOnConnect, "1");
-    const QStringList all = allBoxes();
-    for (const QString& one : all)
-        QVERIFY(!box(dialog, one)->isChecked());
+    QCOMPARE(dialog.options(), "11");
+    QCOMPARE(tickedBoxes(dialog), QStringList());
     QVERIFY(!dialog.isOkEnabled());
     dialog->onSelectLaunchOnsoftware(false);
-    QCOMPARE(dialog->m_launchOnSoftware, "0");
-    QCOMPARE(dialog->m_launchOnConnect, "1");
+    QCOMPARE(dialog.options(), "01");
 }
 
 void DialogLaunchOptionsTest::tickLostByARoundOfTypes()
@@ -136,7 +103,7 @@ void DialogLaunchOptionsTest::tickOfAnotherPanelCounts()
 {
     // The choice moved by code: the e-mail panel is still the one on the screen.
     OpenDialog dialog;
-    dialog.fill(1, "Name", "");
+    dialog.fill(1, "Name");
     QTest::keyClick(dialog->m_launchWhenSWLaunchCBForEmail, Qt::Key_Space);
     dialog->m_appTypeChoice->setCurrentIndex(2);
     dialog.pressOk();
@@ -148,12 +115,12 @@ void DialogLaunchOptionsTest::tickOfAnotherPanelCounts()
 
 void DialogLaunchOptionsTest::lastClickDecides()
 {
-    OpenDialog dialog;
+    const OpenDialog dialog;
     dialog->m_launchWhenConnectCB->click();
     dialog->m_launchWhenConnectCBForEmail->setChecked(true);
     dialog->m_launchWhenConnectCBForEmail->click();
     QVERIFY(dialog->m_launchWhenConnectCB->isChecked());
-    QCOMPARE(dialog->m_launchOnConnect, "0");
+    QCOMPARE(dialog.options(), "00");
 }
 
 REGISTER_TEST(DialogLaunchOptionsTest)

@@ -3,23 +3,27 @@
 
 // Whoever hears of the dialog or shows its message may dispose of it meanwhile: nothing freed is touched.
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "OpenDialog.h"
-#include "ExtendDialog.h"
 #include "FakeHost.h"
-#include "QuickLinkSettingPluginDlg.h"
+#include "OpenDialog.h"
 #include "QuickLinkXmlParse.h"
 #include "Records.h"
-#include "RecordingTrace.h"
+#include "ShownPage.h"
 #include "Test.h"
 
 namespace
 {
+/** When something goes. */
+enum Moment { NameMessage, PathMessage, AddRecord, Cancel };
+const char* const momentTitles[] = {"message about the name", "message about the path", "addRecord()",
+                                    "cancelNewButton()"};
+
 /** What goes, and in which order. */
 enum Disposal { Object, Host, ObjectThenHost, HostThenObject, ListOfTheStore };
+const char* const disposalTitles[] = {"object", "host widget", "object, then host widget", "host widget, then object",
+                                      "list of the store"};
 
 void dispose(OpenDialog& dialog, int disposal)
 {
@@ -33,27 +37,13 @@ void dispose(OpenDialog& dialog, int disposal)
         QuickLinkXmlParse::GetInstance()->ReadXmlInformation();
 }
 
-const char* titleOf(int disposal)
-{
-    const char* const titles[] = {"object", "host widget", "object, then host widget", "host widget, then object",
-                                  "list of the store"};
-    return titles[disposal];
-}
-
-void addDisposals()
-{
-    QTest::addColumn<int>("disposal");
-    for (int disposal = Object; disposal < ListOfTheStore; ++disposal)
-        QTest::newRow(titleOf(disposal)) << disposal;
-}
-
 /** Disposes of the dialog in the middle of its signals. */
-class Disposer : public QObject
+class SignalDisposer : public QObject
 {
     Q_OBJECT
 
 public:
-    Disposer(OpenDialog& dialog, int disposal)
+    SignalDisposer(OpenDialog& dialog, int disposal)
         : m_dialog(dialog)
         , m_disposal(disposal)
     {
@@ -96,92 +86,74 @@ class DialogReentrantTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void duringMessage_data();
-    void duringMessage();
-    void duringAddRecord_data() { addDisposals(); }
-    void duringAddRecord();
-    void duringCancel_data() { addDisposals(); }
-    void duringCancel();
-    void cancelWhileTheFrameCloses();
-    void okWhileTheFrameCloses();
+    void disposal_data();
+    void disposal();
+    void disposalWhileTheFrameCloses_data();
+    void disposalWhileTheFrameCloses();
     void okInsideTheMessage();
     void pageGoesDuringTheMessage_data();
     void pageGoesDuringTheMessage();
 };
 
-void DialogReentrantTest::duringMessage_data()
+void DialogReentrantTest::disposal_data()
 {
-    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<int>("moment");
     QTest::addColumn<int>("disposal");
-    const QStringList stored("One");
-    for (int disposal = Object; disposal <= ListOfTheStore; ++disposal) {
-        QTest::newRow((QByteArray("name, ") + titleOf(disposal)).constData()) << stored << disposal;
-        QTest::newRow((QByteArray("path, ") + titleOf(disposal)).constData()) << QStringList() << disposal;
+    for (int moment = NameMessage; moment <= Cancel; ++moment) {
+        for (int disposal = Object; disposal <= ListOfTheStore; ++disposal) {
+            const QByteArray title = QByteArray(momentTitles[moment]) + ": " + disposalTitles[disposal];
+            QTest::newRow(title.constData()) << moment << disposal;
+        }
     }
 }
 
-void DialogReentrantTest::duringMessage()
+void DialogReentrantTest::disposal()
 {
-    QFETCH(QStringList, stored);
+    QFETCH(int, moment);
     QFETCH(int, disposal);
-    OpenDialog dialog(stored);
-    dialog.fill(0, "One", "/no/such/file");
+    OpenDialog dialog(moment == NameMessage ? names("One") : QStringList());
+    dialog.fill(0, "One", moment == AddRecord ? "/" : "/no/such/file");
     FakeHost::instance().duringMessage = [&] {
         dispose(dialog, disposal);
     };
-    dialog->m_okBtn->click();
-    QCOMPARE(FakeHost::instance().messages.size(), 1);
-    QVERIFY(dialog.added.isEmpty());
+    const SignalDisposer disposer(dialog, disposal);
+    if (moment == Cancel)
+        dialog->m_cancelBtn->click();
+    else
+        dialog->m_okBtn->click();
+    QCOMPARE(FakeHost::instance().messages.size(), moment == NameMessage || moment == PathMessage ? 1 : 0);
+    QCOMPARE(dialog.added.size(), moment == AddRecord ? 1 : 0);
+    QCOMPARE(dialog.wasOpenWhenCancelled.size(), moment == Cancel ? 1 : 0);
     QCOMPARE(dialog.get() == nullptr, disposal != Host && disposal != ListOfTheStore);
-}
-
-void DialogReentrantTest::duringAddRecord()
-{
-    QFETCH(int, disposal);
-    OpenDialog dialog;
-    dialog.fill(1, "Mail", "");
-    const Disposer disposer(dialog, disposal);
-    dialog->m_okBtn->click();
-    QCOMPARE(dialog.added.size(), 1);
-    QCOMPARE(dialog.get() == nullptr, disposal != Host);
-    if (dialog.get())
+    if (disposal == Host)
         QVERIFY(!dialog->m_frameDialog);
 }
 
-void DialogReentrantTest::duringCancel()
+void DialogReentrantTest::disposalWhileTheFrameCloses_data()
 {
-    QFETCH(int, disposal);
-    OpenDialog dialog;
-    const Disposer disposer(dialog, disposal);
-    dialog->m_cancelBtn->click();
-    QCOMPARE(dialog.wasOpenWhenCancelled.size(), 1);
-    QCOMPARE(dialog.get() == nullptr, disposal != Host);
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("records");
+    QTest::newRow("OK") << "m_okBtn" << 1;
+    QTest::newRow("Cancel") << "m_cancelBtn" << 0;
 }
 
-void DialogReentrantTest::cancelWhileTheFrameCloses()
+void DialogReentrantTest::disposalWhileTheFrameCloses()
 {
+    QFETCH(QString, button);
     OpenDialog dialog;
-    CloseDisposer disposer(dialog);
-    dialog->m_cancelBtn->click();
+    dialog.fill(1, "Mail");
+    const CloseDisposer disposer(dialog);
+    dialog.find<QPushButton>(button)->click();
     QVERIFY(!dialog.get());
+    QTEST(int(dialog.added.size()), "records");
     // Nobody is left to say that the user cancelled.
     QCOMPARE(dialog.wasOpenWhenCancelled.size(), 0);
-}
-
-void DialogReentrantTest::okWhileTheFrameCloses()
-{
-    OpenDialog dialog;
-    dialog.fill(1, "Mail", "");
-    CloseDisposer disposer(dialog);
-    dialog->m_okBtn->click();
-    QVERIFY(!dialog.get());
-    QCOMPARE(dialog.added.size(), 1);
 }
 
 void DialogReentrantTest::okInsideTheMessage()
 {
     OpenDialog dialog(names("One"));
-    dialog.fill(1, "One", "");
+    dialog.fill(1, "One");
     FakeHost::instance().duringMessage = [&] {
         dialog->m_appNameEdit->setText("Two");
         dialog->onClickOkButton();
@@ -190,7 +162,7 @@ void DialogReentrantTest::okInsideTheMessage()
     // The outer OK ends where its name was refused; the record of the inner one is not touched by it.
     QCOMPARE(dialog.added.size(), 1);
     QCOMPARE(dialog->m_record, dialog.addedObjects.first());
-    QCOMPARE(difference(*dialog->m_record, makeRecord("Two", "email", "mailto:")), QString());
+    QCOMPARE(difference(*dialog->m_record, makeRecord("Two", "email", "mailto:")), "");
 }
 
 void DialogReentrantTest::pageGoesDuringTheMessage_data()
@@ -203,38 +175,28 @@ void DialogReentrantTest::pageGoesDuringTheMessage_data()
 void DialogReentrantTest::pageGoesDuringTheMessage()
 {
     QFETCH(bool, byDestroying);
-    FakeHost& fakeHost = FakeHost::instance();
-    fakeHost.reset();
-    QVERIFY(fakeHost.writeConfig(
-        configDocument("1", "1",
-                       QList<QuickLinkRecord>() << makeRecord("One", "internet", "http://example.org"))));
-    QuickLinkSettingPluginDlg page;
-    QWidget host;
-    host.show();
-    QRect area(0, 0, 400, 360);
-    page.Init();
-    page.ShowWindow(&host, area);
-    page.onNewBtnClick();
-    QVERIFY(page.m_newDlg);
-    const QPointer<QuickLinkSettingNewEditDlg> dialog = page.m_newDlg;
-    dialog->m_appTypeChoice->setCurrentIndex(1);
-    dialog->m_appNameEdit->setText("One");
+    ShownPage shown;
+    shown.begin(links("One"));
+    shown.click("m_newBtn");
+    shown.chooseType(1);
+    shown.enter("m_appNameEdit", "One");
+    const QPointer<QuickLinkSettingNewEditDlg> dialog = shown.page->m_newDlg;
+    QVERIFY(dialog);
     QuickLinkRecord* last = nullptr;
-    fakeHost.duringMessage = [&] {
+    FakeHost::instance().duringMessage = [&] {
         last = dialog->m_record;
         if (byDestroying)
-            page.OnDestroy();
+            shown.page->OnDestroy();
         else
-            page.onNewBtnClick();
+            shown.page->onNewBtnClick();
     };
-    dialog->m_okBtn->click();
-    QCOMPARE(fakeHost.messages.size(), 1);
-    QVERIFY(!dialog);
+    shown.pressOk();
     // The dialog never frees the last record that it built.
     const QScopedPointer<QuickLinkRecord> leftOver(last);
     QVERIFY(leftOver);
-    if (!byDestroying)
-        page.OnDestroy();
+    QCOMPARE(FakeHost::instance().messages.size(), 1);
+    QVERIFY(!dialog);
+    shown.end();
 }
 
 REGISTER_TEST(DialogReentrantTest)

@@ -3,14 +3,12 @@
 
 // Choosing a link type: panel, tab title, what is cleared, OK and the launch options.
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTabWidget>
 
-#include "OpenDialog.h"
+#include "DialogTexts.h"
 #include "FakeHost.h"
-#include "RecordingTrace.h"
+#include "OpenDialog.h"
 #include "Test.h"
 
 class DialogTypeChoiceTest : public QObject
@@ -18,34 +16,20 @@ class DialogTypeChoiceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void panelOfType_data();
-    void panelOfType();
-    void userChoosesAType_data();
-    void userChoosesAType();
+    void direct_data();
+    void direct();
+    void byTheUser_data();
+    void byTheUser();
     void okAfterChoice_data();
     void okAfterChoice();
-    void choiceClearsOptions_data();
-    void choiceClearsOptions();
     void choosingTheShownTypeAgain();
     void fieldsThroughARoundOfTypes();
     void applicationLeavesOkDisabledWhateverTheChoiceShows();
     void internetNeedsAnotherEdit();
     void emailWithNameCommitsAtOnce();
-    void choiceWithout_data();
-    void choiceWithout();
-
-private:
-    static QByteArray titleKey(int index);
 };
 
-QByteArray DialogTypeChoiceTest::titleKey(int index)
-{
-    if (index == 0)
-        return "IDS_LINK_TYPE_APPLICATION";
-    return index == 1 ? "IDS_LINK_TYPE_E-MAIL" : "IDS_LINK_TYPE_INTERNET";
-}
-
-void DialogTypeChoiceTest::panelOfType_data()
+void DialogTypeChoiceTest::direct_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("index");
@@ -59,7 +43,7 @@ void DialogTypeChoiceTest::panelOfType_data()
     }
 }
 
-void DialogTypeChoiceTest::panelOfType()
+void DialogTypeChoiceTest::direct()
 {
     QFETCH(int, before);
     QFETCH(int, index);
@@ -67,79 +51,61 @@ void DialogTypeChoiceTest::panelOfType()
     const OpenDialog dialog;
     dialog->OnSelectComboItem(before);
     dialog->OnSelectComboItem(index);
-    QCOMPARE(dialog->m_applicationPanel->isVisible(), panel == 0);
-    QCOMPARE(dialog->m_EmailTab->isVisible(), panel == 1);
-    QCOMPARE(dialog->m_InternetTab->isVisible(), panel == 2);
-    QCOMPARE(dialog->m_appTabWidget->tabText(0), shown(titleKey(index).constData()));
+    QCOMPARE(dialog.shownPanel(), panel);
+    QCOMPARE(dialog->m_appTabWidget->tabText(0), shown(typeKeys[panel]));
     QCOMPARE(dialog->m_appTabWidget->count(), 1);
     // A direct call tells the dialog, not the choice.
     QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
 }
 
-void DialogTypeChoiceTest::userChoosesAType_data()
+void DialogTypeChoiceTest::byTheUser_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("application") << 0;
-    QTest::newRow("e-mail") << 1;
-    QTest::newRow("Internet") << 2;
+    QTest::addColumn<int>("type");
+    for (int type = 0; type < 3; ++type)
+        QTest::newRow(typeKeys[type]) << type;
 }
 
-void DialogTypeChoiceTest::userChoosesAType()
+void DialogTypeChoiceTest::byTheUser()
 {
-    QFETCH(int, index);
+    QFETCH(int, type);
     OpenDialog dialog;
-    dialog.chooseType(index);
-    QCOMPARE(dialog->m_appTypeChoice->currentIndex(), index);
-    QCOMPARE(dialog->m_applicationPanel->isVisible(), index == 0);
-    QCOMPARE(dialog->m_EmailTab->isVisible(), index == 1);
-    QCOMPARE(dialog->m_InternetTab->isVisible(), index == 2);
-    QCOMPARE(dialog->m_appTabWidget->tabText(0), shown(titleKey(index).constData()));
+    dialog->onSelectLaunchOnConnect(true);
+    dialog->onSelectLaunchOnsoftware(true);
+    dialog.chooseType(type);
+    QCOMPARE(dialog->m_appTypeChoice->currentIndex(), type);
+    QCOMPARE(dialog.shownPanel(), type);
+    QCOMPARE(dialog->m_appTabWidget->tabText(0), shown(typeKeys[type]));
+    QCOMPARE(dialog.options(), "00");
 }
 
 void DialogTypeChoiceTest::okAfterChoice_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isEnabled");
-    for (int index = 0; index < 3; ++index) {
-        const char* const entries[] = {"", "Name", " "};
+    const char* const entries[] = {"", "Name", " "};
+    for (int type = 0; type < 3; ++type) {
         for (const char* name : entries) {
-            const QByteArray title = titleKey(index) + " with \"" + name + '"';
-            QTest::newRow(title.constData()) << index << QByteArray(name) << (index == 1 && *name != '\0');
+            const QByteArray title = typeKeys[type] + QByteArray(" with \"") + name + '"';
+            QTest::newRow(title.constData()) << type << name << (type == 1 && *name != '\0');
         }
     }
 }
 
 void DialogTypeChoiceTest::okAfterChoice()
 {
-    QFETCH(int, index);
-    QFETCH(QByteArray, name);
+    QFETCH(int, type);
+    QFETCH(QString, name);
     OpenDialog dialog;
     dialog->m_EditUrlName->setText("http://example.org");
     dialog.enter(dialog->m_appPathEdit, "/usr/bin/editor");
-    dialog.enter(dialog->m_appNameEdit, name.constData());
-    dialog.chooseType(index);
+    dialog.enter(dialog->m_appNameEdit, name);
+    dialog.chooseType(type);
     QTEST(dialog.isOkEnabled(), "isEnabled");
     // Whatever OK was before.
     dialog->m_okBtn->setEnabled(true);
-    dialog.chooseType(index);
+    dialog.chooseType(type);
     QTEST(dialog.isOkEnabled(), "isEnabled");
-}
-
-void DialogTypeChoiceTest::choiceClearsOptions_data()
-{
-    userChoosesAType_data();
-}
-
-void DialogTypeChoiceTest::choiceClearsOptions()
-{
-    QFETCH(int, index);
-    OpenDialog dialog;
-    dialog->onSelectLaunchOnConnect(true);
-    dialog->onSelectLaunchOnsoftware(true);
-    dialog.chooseType(index);
-    QCOMPARE(dialog->m_launchOnConnect, "0");
-    QCOMPARE(dialog->m_launchOnSoftware, "0");
 }
 
 void DialogTypeChoiceTest::choosingTheShownTypeAgain()
@@ -150,8 +116,8 @@ void DialogTypeChoiceTest::choosingTheShownTypeAgain()
     QVERIFY(dialog.isOkEnabled());
     dialog.chooseType(0);
     QCOMPARE(dialog->m_appTypeChoice->currentIndex(), 0);
-    QCOMPARE(dialog->m_appPathEdit->text(), QString());
-    QCOMPARE(dialog->m_appParamEdit->text(), QString());
+    QCOMPARE(dialog->m_appPathEdit->text(), "");
+    QCOMPARE(dialog->m_appParamEdit->text(), "");
     QCOMPARE(dialog->m_appNameEdit->text(), "Editor");
     QVERIFY(!dialog.isOkEnabled());
 }
@@ -162,16 +128,15 @@ void DialogTypeChoiceTest::fieldsThroughARoundOfTypes()
     dialog.fill(2, "Both", "www.example.org");
     dialog.fill(0, "Both", "/usr/bin/editor");
     dialog.enter(dialog->m_appParamEdit, "--new");
-    dialog.chooseType(1);
-    QCOMPARE(dialog->m_appPathEdit->text(), "/usr/bin/editor");
-    QCOMPARE(dialog->m_appParamEdit->text(), "--new");
-    QCOMPARE(dialog->m_EditUrlName->text(), "www.example.org");
-    dialog.chooseType(2);
-    QCOMPARE(dialog->m_appPathEdit->text(), "/usr/bin/editor");
-    QCOMPARE(dialog->m_EditUrlName->text(), "www.example.org");
+    for (int type = 1; type <= 2; ++type) {
+        dialog.chooseType(type);
+        QCOMPARE(dialog->m_appPathEdit->text(), "/usr/bin/editor");
+        QCOMPARE(dialog->m_appParamEdit->text(), "--new");
+        QCOMPARE(dialog->m_EditUrlName->text(), "www.example.org");
+    }
     dialog.chooseType(0);
-    QCOMPARE(dialog->m_appPathEdit->text(), QString());
-    QCOMPARE(dialog->m_appParamEdit->text(), QString());
+    QCOMPARE(dialog->m_appPathEdit->text(), "");
+    QCOMPARE(dialog->m_appParamEdit->text(), "");
     QCOMPARE(dialog->m_EditUrlName->text(), "www.example.org");
     QCOMPARE(dialog->m_appNameEdit->text(), "Both");
 }
@@ -185,7 +150,7 @@ void DialogTypeChoiceTest::applicationLeavesOkDisabledWhateverTheChoiceShows()
         dialog->m_appPathEdit->setText("/usr/bin/editor");
         dialog->m_appTypeChoice->setCurrentIndex(shownType);
         dialog->OnSelectComboItem(0);
-        QVERIFY2(!dialog.isOkEnabled(), QByteArray::number(shownType).constData());
+        QVERIFY2(!dialog.isOkEnabled(), typeKeys[shownType]);
     }
 }
 
@@ -215,38 +180,6 @@ void DialogTypeChoiceTest::emailWithNameCommitsAtOnce()
     dialog.pressOk();
     QCOMPARE(dialog.added.size(), 1);
     QVERIFY(!dialog.isOpen());
-}
-
-void DialogTypeChoiceTest::choiceWithout_data()
-{
-    addMemberRows(names("m_appTabWidget m_applicationPanel m_EmailTab m_InternetTab m_appPathEdit m_appParamEdit "
-                        "m_appNameEdit m_okBtn"));
-}
-
-void DialogTypeChoiceTest::choiceWithout()
-{
-    QFETCH(QString, member);
-    for (int index = 0; index < 3; ++index) {
-        const OpenDialog dialog;
-        dialog->OnSelectComboItem(index == 1 ? 2 : 1);
-        const QString title = dialog->m_appTabWidget->tabText(0);
-        dialog->m_appPathEdit->setText("/usr/bin/editor");
-        dialog->m_appNameEdit->setText("Name");
-        dialog->onSelectLaunchOnConnect(true);
-        dialog->m_okBtn->setEnabled(true);
-        const RecordingTrace trace;
-        {
-            const NullMember missing(memberOf(dialog.get(), member));
-            dialog->OnSelectComboItem(index);
-        }
-        QCOMPARE(trace.countDebug(nullTrace("OnSelectComboItem")), 1);
-        QVERIFY(dialog.isOkEnabled());
-        QCOMPARE(dialog->m_appTabWidget->tabText(0), title);
-        QCOMPARE(dialog->m_appPathEdit->text(), "/usr/bin/editor");
-        QCOMPARE(dialog->m_launchOnConnect, "1");
-        QCOMPARE(dialog->m_EmailTab->isVisible(), index != 1);
-        QCOMPARE(dialog->m_InternetTab->isVisible(), index == 1);
-    }
 }
 
 REGISTER_TEST(DialogTypeChoiceTest)

@@ -39,6 +39,16 @@ QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog)
 #undef MEMBER
 }
 
+QStringList memberNames()
+{
+    QuickLinkSettingNewEditDlg dialog;
+    QStringList all;
+    const QList<PointerMember> members = membersOf(&dialog);
+    for (const PointerMember& member : members)
+        all.append(QLatin1String(member.name));
+    return all;
+}
+
 PointerMember memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name)
 {
     return memberNamed(membersOf(dialog), name);
@@ -98,14 +108,14 @@ void OpenDialog::chooseType(int index)
     QTest::keyClick(choice->view(), Qt::Key_Return);
 }
 
-void OpenDialog::enter(QLineEdit* edit, const char* text)
+void OpenDialog::enter(QLineEdit* edit, const QString& text)
 {
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, QString::fromUtf8(text));
+    QTest::keyClicks(edit, text);
 }
 
-void OpenDialog::fill(int type, const char* name, const char* target)
+void OpenDialog::fill(int type, const QString& name, const QString& target)
 {
     chooseType(type);
     enter(m_dialog->m_appNameEdit, name);
@@ -133,6 +143,37 @@ bool OpenDialog::isOpen() const
 bool OpenDialog::isOkEnabled() const
 {
     return m_dialog->m_okBtn->isEnabled();
+}
+
+int OpenDialog::shownPanel() const
+{
+    const QWidget* const panels[] = {m_dialog->m_applicationPanel, m_dialog->m_EmailTab, m_dialog->m_InternetTab};
+    int shown = -1;
+    for (int i = 0; i < 3; ++i) {
+        if (panels[i]->isVisible() && shown != -1)
+            return -1;
+        if (panels[i]->isVisible())
+            shown = i;
+    }
+    return shown;
+}
+
+QString OpenDialog::options() const
+{
+    return m_dialog->m_launchOnSoftware + m_dialog->m_launchOnConnect;
+}
+
+QStringList OpenDialog::messageKeys()
+{
+    QStringList keys;
+    for (const ShownMessage& message : FakeHost::instance().messages)
+        keys.append(message.text.section(':', 1));
+    return keys;
+}
+
+QWidget* OpenDialog::frame() const
+{
+    return m_dialog->m_frameDialog;
 }
 
 void OpenDialog::onAddRecord(QuickLinkRecord* record)

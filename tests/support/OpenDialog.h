@@ -3,9 +3,6 @@
 
 #pragma once
 
-#include <cstddef>
-#include <vector>
-
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -18,6 +15,9 @@
 
 /** The widget and layout members in the order in which the class declares them. */
 QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog);
+
+/** The names of all of them. */
+QStringList memberNames();
 
 /** The one of that name. */
 PointerMember memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name);
@@ -41,19 +41,30 @@ public:
     QWidget* host() const { return m_host; }
     QuickLinkRecordList& stored() const;
 
+    /** The widget of that object name, which must be there. */
+    template <class T>
+    T* find(const QString& name) const
+    {
+        return frame()->findChild<T*>(name);
+    }
+
     /** What the host and the page may do at any time: the dialog's frame goes with its parent, but its object stays. */
     void deleteHost();
     void deleteDialogObject();
 
     // What the user does.
     void chooseType(int index);
-    void enter(QLineEdit* edit, const char* text);
-    void fill(int type, const char* name, const char* target);
+    void enter(QLineEdit* edit, const QString& text);
+    void fill(int type, const QString& name, const QString& target = QString());
     void pressOk();
     void pressCancel();
 
+    // What is seen.
     bool isOpen() const;
     bool isOkEnabled() const;
+    int shownPanel() const;           ///< 0 application, 1 e-mail, 2 Internet; -1 unless exactly one is visible
+    QString options() const;          ///< "1" or "0" for the host's start, then for a connection
+    static QStringList messageKeys(); ///< of each message that was shown, less the language before it
 
     /** Takes every record from now on, as a row of the page does; the test frees what it took. */
     void takeRecords() { m_takesRecords = true; }
@@ -68,6 +79,8 @@ private Q_SLOTS:
     void onCancelNewButton();
 
 private:
+    QWidget* frame() const;
+
     QPointer<QWidget> m_host;
     QPointer<QuickLinkSettingNewEditDlg> m_dialog;
     bool m_takesRecords;

@@ -7,6 +7,9 @@
 
 // What tests use of QtTest and Qt 4.8 lacks, in the words of Qt 5.
 
+/** Whether an object tells its name to others; a name that another follows at once is seen by nobody else. */
+const bool isNameTold = QT_VERSION >= 0x050000;
+
 #if QT_VERSION < 0x050000
 #include <QWidget>
 

@@ -93,6 +93,9 @@ inline QByteArray returnTypeOf(const QMetaMethod& method)
 /** Whether a widget says that it goes before its children go. */
 const bool saysParentGoneFirst = false;
 
+/** What the meta-object says of the access of every signal. */
+const QMetaMethod::Access signalAccess = QMetaMethod::Protected;
+
 /** Removes a folder with all that is in it, links unfollowed; false when something stays. */
 inline bool removeFolder(const QString& path)
 {
@@ -177,6 +180,8 @@ inline QByteArray returnTypeOf(const QMetaMethod& method)
 }
 
 const bool saysParentGoneFirst = true;
+
+const QMetaMethod::Access signalAccess = QMetaMethod::Public;
 
 inline bool removeFolder(const QString& path)
 {
