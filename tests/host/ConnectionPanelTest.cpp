@@ -12,8 +12,8 @@
 
 #include "ConnectionMonitor.h"
 #include "ConnectionPanel.h"
-#include "FakeTranslator.h"
 #include "FakeSource.h"
+#include "FakeTranslator.h"
 #include "Test.h"
 
 using Reach = ConnectionState::Reach;
@@ -133,8 +133,7 @@ void ConnectionPanelTest::saysWhatItWaitsFor_data()
     QTest::addColumn<QString>("hint");
     QTest::newRow("mobile") << int(ConnectionKind::Mobile) << false << "Waiting for mobile broadband.";
     QTest::newRow("any") << int(ConnectionKind::Any) << false << "Waiting for a connection.";
-    QTest::newRow("manual") << int(ConnectionKind::Manual) << true
-                            << "Press Connect when your connection is up.";
+    QTest::newRow("manual") << int(ConnectionKind::Manual) << true << "Press Connect when your connection is up.";
     QTest::newRow("no service for mobile")
         << int(ConnectionKind::Mobile) << true << "Press Connect when your connection is up.";
 }
@@ -154,12 +153,9 @@ void ConnectionPanelTest::hasARowForAllThatIsKnown_data()
     QTest::addColumn<QStringList>("expected");
     const QString name = "Home", device = "wwan0", mobile = "Example";
     QTest::newRow("all") << QStringList{name, device, mobile}
-                         << QStringList{"Connection:", name,   "Device:", device,
-                                        "Operator:",   mobile, "Since:"};
-    QTest::newRow("name") << QStringList{name, QString(), QString()}
-                          << QStringList{"Connection:", name, "Since:"};
-    QTest::newRow("device") << QStringList{QString(), device, QString()}
-                            << QStringList{"Device:", device, "Since:"};
+                         << QStringList{"Connection:", name, "Device:", device, "Operator:", mobile, "Since:"};
+    QTest::newRow("name") << QStringList{name, QString(), QString()} << QStringList{"Connection:", name, "Since:"};
+    QTest::newRow("device") << QStringList{QString(), device, QString()} << QStringList{"Device:", device, "Since:"};
     QTest::newRow("operator") << QStringList{QString(), QString(), mobile}
                               << QStringList{"Operator:", mobile, "Since:"};
 }
@@ -199,8 +195,7 @@ void ConnectionPanelTest::saysSinceWhen()
     m_source->become("a");
     const QTime time = m_monitor->upSince().time();
     QVERIFY(time.isValid());
-    QCOMPARE(texts(), QStringList({"Connected", "Since:",
-                                   QLocale().toString(time, QLocale::ShortFormat)}));
+    QCOMPARE(texts(), QStringList({"Connected", "Since:", QLocale().toString(time, QLocale::ShortFormat)}));
 }
 
 void ConnectionPanelTest::showsANameAsItStands()
@@ -261,7 +256,8 @@ void ConnectionPanelTest::summaryIsOneLine_data()
     QTest::addColumn<bool>("isUp");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("summary");
-    QTest::newRow("up with name") << true << "Home" << "Connected: Home";
+    QTest::newRow("up with name") << true << "Home"
+                                  << "Connected: Home";
     QTest::newRow("up without name") << true << QString() << "Connected";
     QTest::newRow("down") << false << QString() << "Not connected";
 }
@@ -310,8 +306,7 @@ void ConnectionPanelTest::followsTheLanguage()
 {
     show(true);
     const FakeTranslator other;
-    QTRY_COMPARE(texts(), QStringList({"*Not connected",
-                                       "*Press Connect when your connection is up."}));
+    QTRY_COMPARE(texts(), QStringList({"*Not connected", "*Press Connect when your connection is up."}));
     QCOMPARE(button()->text(), "*Co&nnect");
 }
 

@@ -50,8 +50,7 @@ static QString reasonOfRun(const QString& target)
     QObject::connect(opener.data(), &DesktopOpener::failed, QCoreApplication::instance(),
                      [&reasons](const QString& reason) { reasons.append(reason); });
     opener->start();
-    return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join('\n')
-                                                           : "it does not delete itself";
+    return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join('\n') : "it does not delete itself";
 }
 
 void DesktopOpenerTest::handsOverTheTarget_data()
@@ -102,8 +101,7 @@ void DesktopOpenerTest::saysThatItWasEndedFromOutside()
 void DesktopOpenerTest::saysWhatIsMissing()
 {
     const OnlyPath path;
-    QCOMPARE(reasonOfRun("/x"),
-             "Opening this needs the program \"xdg-open\", which could not be started:");
+    QCOMPARE(reasonOfRun("/x"), "Opening this needs the program \"xdg-open\", which could not be started:");
 }
 
 void DesktopOpenerTest::runsCutOff()
@@ -112,12 +110,11 @@ void DesktopOpenerTest::runsCutOff()
     const QByteArray tools = qgetenv("PATH");
     const OnlyPath path;
     const QString record = path.file("record");
-    writeScript(path.file("xdg-open"),
-                "PATH='" + tools +
-                    "'\nfiles=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
-                    "session=$(cut -d' ' -f6 /proc/$$/stat)\n"
-                    "printf '%s\\n' \"$files\" $((session - $$)) >'" +
-                    QFile::encodeName(record) + "'\n");
+    writeScript(path.file("xdg-open"), "PATH='" + tools +
+                                           "'\nfiles=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
+                                           "session=$(cut -d' ' -f6 /proc/$$/stat)\n"
+                                           "printf '%s\\n' \"$files\" $((session - $$)) >'" +
+                                           QFile::encodeName(record) + "'\n");
     QCOMPARE(reasonOfRun("/x"), QString());
     QFile file(record);
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -68,8 +68,7 @@ void FirstStartTest::copiesMissingDefaults()
     QCOMPARE(read("user" + QLatin1String(configFile)), "default");
     QCOMPARE(read("user/plugins/Other/deep/file"), "other");
     // No temporary file is left beside it.
-    QCOMPARE(QDir(user() + "/plugins/Some").entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
-             1);
+    QCOMPARE(QDir(user() + "/plugins/Some").entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
 
 void FirstStartTest::neverOverwrites()

@@ -3,7 +3,6 @@
 
 // What is made of an address that a user typed.
 
-
 #include "InternetAddress.h"
 #include "Test.h"
 
@@ -59,8 +58,8 @@ void InternetAddressTest::completes_data()
     };
     for (const char* const* row : rows)
         QTest::newRow(row[0]) << QString::fromLatin1(row[0]) << QString::fromLatin1(row[1]);
-    QTest::newRow("letters beyond ASCII") << QString::fromUtf8("www.m\303\274ller.example/\303\244")
-                                          << "http://www.xn--mller-kva.example/%C3%A4";
+    QTest::newRow("letters beyond ASCII")
+        << QString::fromUtf8("www.m\303\274ller.example/\303\244") << "http://www.xn--mller-kva.example/%C3%A4";
 }
 
 void InternetAddressTest::completes()

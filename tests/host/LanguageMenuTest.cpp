@@ -5,8 +5,8 @@
 
 #include <QSignalSpy>
 
-#include "LanguageMenu.h"
 #include "FakeTranslator.h"
+#include "LanguageMenu.h"
 #include "Test.h"
 
 class LanguageMenuTest : public QObject
@@ -56,14 +56,15 @@ void LanguageMenuTest::namesEachInItsOwnLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("name");
-    QTest::newRow("de") << "de" << "Deutsch";
-    QTest::newRow("en") << "en" << "English";
+    QTest::newRow("de") << "de"
+                        << "Deutsch";
+    QTest::newRow("en") << "en"
+                        << "English";
     QTest::newRow("fr") << "fr"
                         << QString::fromUtf8("Fran\xc3\xa7"
                                              "ais");
     QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Portugu\xc3\xaas");
-    QTest::newRow("ru") << "ru"
-                        << QString::fromUtf8("\xd0\xa0\xd1\x83\xd1\x81\xd1\x81\xd0\xba\xd0\xb8\xd0\xb9");
+    QTest::newRow("ru") << "ru" << QString::fromUtf8("\xd0\xa0\xd1\x83\xd1\x81\xd1\x81\xd0\xba\xd0\xb8\xd0\xb9");
 }
 
 void LanguageMenuTest::namesEachInItsOwnLanguage()

@@ -3,7 +3,6 @@
 
 // The place of a settings page, and how a page stands in it.
 
-
 #include "PageArea.h"
 #include "Test.h"
 

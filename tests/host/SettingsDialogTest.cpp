@@ -8,9 +8,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "FakePlugin.h"
 #include "FakeTranslator.h"
 #include "PageArea.h"
-#include "PlayedPlugin.h"
 #include "SettingsDialog.h"
 #include "Test.h"
 
@@ -50,18 +50,18 @@ private:
     QStringList captions() const;
     QString shownPage() const;
 
-    std::unique_ptr<PlayedPlugin> m_mail, m_links, m_silent;
+    std::unique_ptr<FakePlugin> m_mail, m_links, m_silent;
     std::unique_ptr<SettingsDialog> m_dialog;
 };
 
 void SettingsDialogTest::init()
 {
-    m_mail = std::make_unique<PlayedPlugin>("Mail");
+    m_mail = std::make_unique<FakePlugin>("Mail");
     m_mail->setProperty("caption", "My Mail");
-    m_links = std::make_unique<PlayedPlugin>("Links");
+    m_links = std::make_unique<FakePlugin>("Links");
     m_links->setProperty("caption", "My Links");
-    m_silent = std::make_unique<PlayedPlugin>("Silent");
-    PlayedPlugin::takeEvents();
+    m_silent = std::make_unique<FakePlugin>("Silent");
+    takeEvents();
 }
 
 void SettingsDialogTest::cleanup()
@@ -86,7 +86,7 @@ void SettingsDialogTest::open()
     make(m_mail.get(), m_links.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-    PlayedPlugin::takeEvents();
+    takeEvents();
 }
 
 void SettingsDialogTest::press(QDialogButtonBox::StandardButton button)
@@ -122,7 +122,7 @@ void SettingsDialogTest::listsPluginsWithACaption()
     QCOMPARE(m_dialog->windowTitle(), "Settings");
     QCOMPARE(list()->accessibleName(), "Pages");
     // Pages are built when they are seen.
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void SettingsDialogTest::leavesOutInactivePages()
@@ -132,7 +132,7 @@ void SettingsDialogTest::leavesOutInactivePages()
     QCOMPARE(captions(), QStringList(QStringLiteral("My Links")));
     m_dialog->show();
     press(QDialogButtonBox::Ok);
-    QCOMPARE(PlayedPlugin::takeEvents(),
+    QCOMPARE(takeEvents(),
              QStringList({QStringLiteral("Links shown"), QStringLiteral("Links OK"), QStringLiteral("Links hidden")}));
 }
 
@@ -152,14 +152,14 @@ void SettingsDialogTest::saysThatThereAreNoPages()
     QCOMPARE(texts, QStringList("None of the loaded plug-ins has settings."));
     press(QDialogButtonBox::Ok);
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void SettingsDialogTest::showsTheFirstPage()
 {
     make(m_mail.get(), m_links.get());
     m_dialog->show();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("Mail shown"));
+    QCOMPARE(takeEvents(), QStringList("Mail shown"));
     QCOMPARE(list()->currentRow(), 0);
     QCOMPARE(shownPage(), "Mail");
     for (const QLabel* label : m_dialog->findChildren<QLabel*>())
@@ -170,10 +170,10 @@ void SettingsDialogTest::leavesAPageForAnother()
 {
     open();
     list()->setCurrentRow(1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Links shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Links shown"}));
     QCOMPARE(shownPage(), "Links");
     list()->setCurrentRow(0);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Links hidden", "Mail shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Links hidden", "Mail shown"}));
     QCOMPARE(shownPage(), "Mail");
 }
 
@@ -206,8 +206,7 @@ void SettingsDialogTest::closesWhenAllAgree()
 {
     open();
     press(QDialogButtonBox::Ok);
-    QCOMPARE(PlayedPlugin::takeEvents(),
-             QStringList({"Mail OK", "Links OK", "Mail hidden"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail OK", "Links OK", "Mail hidden"}));
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
 }
@@ -220,8 +219,7 @@ void SettingsDialogTest::staysForOneThatDoesNot()
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail OK", "Links OK",
-                                                      "Mail hidden", "Links shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail OK", "Links OK", "Mail hidden", "Links shown"}));
     m_links->setProperty("refuses", false);
     press(QDialogButtonBox::Ok);
     QVERIFY(!m_dialog->isVisible());
@@ -251,7 +249,7 @@ void SettingsDialogTest::cancels()
     cancel(by);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
 }
 
 void SettingsDialogTest::staysForOneThatDoesNotCancel()
@@ -263,8 +261,8 @@ void SettingsDialogTest::staysForOneThatDoesNotCancel()
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(shownPage(), QStringLiteral("Links"));
     QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
-                                                      QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
+    QCOMPARE(takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
+                                        QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
     m_links->setProperty("refuses", false);
     cancel(by);
     QVERIFY(!m_dialog->isVisible());
@@ -289,7 +287,7 @@ void SettingsDialogTest::asksNothingOfAPluginThatIsGone()
     QCOMPARE(shownPage(), QString());
     press(QDialogButtonBox::Ok);
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
 }
 
 void SettingsDialogTest::followsTheLanguage()

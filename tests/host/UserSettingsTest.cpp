@@ -6,11 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "ProcessLimits.h"
 #include "RecordingTrace.h"
+#include "Test.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
-#include "ProcessLimits.h"
-#include "Test.h"
 
 class UserSettingsTest : public QObject
 {
