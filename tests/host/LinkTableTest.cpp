@@ -15,8 +15,8 @@ private Q_SLOTS:
     void showsRowsInColumns();
     void saysThatThereAreNone_data();
     void saysThatThereAreNone();
+    void keepsARowOnItsLine_data();
     void keepsARowOnItsLine();
-    void passesOverMissingActions();
     void nameMayBeOfAPluginThatTellsNone();
 };
 
@@ -70,22 +70,21 @@ void LinkTableTest::saysThatThereAreNone()
     QCOMPARE(count > -2 ? tableOf(&plugin) : tableOf(), "No quick links\n");
 }
 
+void LinkTableTest::keepsARowOnItsLine_data()
+{
+    QTest::addColumn<QStringList>("links");
+    QTest::newRow("control characters") << QStringList{"a\tb", "c\nd"};
+    QTest::newRow("missing actions") << QStringList{QString(), "a b", QString(), "c d"};
+}
+
 void LinkTableTest::keepsARowOnItsLine()
 {
+    QFETCH(QStringList, links);
     FakePlugin plugin("Links");
-    plugin.setProperty("links", QStringList{"a\tb", "c\nd"});
+    plugin.setProperty("links", links);
     QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
                                "1  a b   Links\n"
                                "2  c d   Links\n");
-}
-
-void LinkTableTest::passesOverMissingActions()
-{
-    FakePlugin plugin("Links");
-    plugin.setProperty("links", QStringList{QString(), "b", QString(), "d"});
-    QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
-                               "1  b     Links\n"
-                               "2  d     Links\n");
 }
 
 void LinkTableTest::nameMayBeOfAPluginThatTellsNone()

@@ -29,12 +29,10 @@ private Q_SLOTS:
     void leavesAPageForAnother();
     void growsToThePage();
     void givesThePageTheWholeArea();
+    void closesWhenAllAgree_data() { addWaysToClose(); }
     void closesWhenAllAgree();
+    void staysForOneThatDoesNot_data() { addWaysToClose(); }
     void staysForOneThatDoesNot();
-    void cancels_data() { addWaysToCancel(); }
-    void cancels();
-    void staysForOneThatDoesNotCancel_data() { addWaysToCancel(); }
-    void staysForOneThatDoesNotCancel();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
     void followsTheLanguage();
@@ -44,8 +42,8 @@ private:
     void make(Plugin*... plugin);
     void open();
     void press(QDialogButtonBox::StandardButton button);
-    static void addWaysToCancel();
-    void cancel(const QString& by);
+    static void addWaysToClose();
+    void closeBy(const QString& way);
     QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
     QStringList captions() const;
     QString shownPage() const;
@@ -129,11 +127,10 @@ void SettingsDialogTest::leavesOutInactivePages()
 {
     m_mail->setProperty("isInactive", true);
     make(m_mail.get(), m_links.get());
-    QCOMPARE(captions(), QStringList(QStringLiteral("My Links")));
+    QCOMPARE(captions(), QStringList("My Links"));
     m_dialog->show();
     press(QDialogButtonBox::Ok);
-    QCOMPARE(takeEvents(),
-             QStringList({QStringLiteral("Links shown"), QStringLiteral("Links OK"), QStringLiteral("Links hidden")}));
+    QCOMPARE(takeEvents(), QStringList({"Links shown", "Links OK", "Links hidden"}));
 }
 
 void SettingsDialogTest::saysThatThereAreNoPages()
@@ -202,71 +199,50 @@ void SettingsDialogTest::givesThePageTheWholeArea()
     QVERIFY(page->width() >= 400 + 60);
 }
 
+void SettingsDialogTest::addWaysToClose()
+{
+    QTest::addColumn<QString>("event");
+    QTest::newRow("OK") << "OK";
+    for (const char* way : {"Cancel", "Escape", "close button"})
+        QTest::newRow(way) << "Cancel";
+}
+
+void SettingsDialogTest::closeBy(const QString& way)
+{
+    if (way == "Escape")
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    else if (way == "close button")
+        m_dialog->close();
+    else
+        press(way == "OK" ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+}
+
 void SettingsDialogTest::closesWhenAllAgree()
 {
+    QFETCH(QString, event);
+    const bool isOk = event == "OK";
     open();
-    press(QDialogButtonBox::Ok);
-    QCOMPARE(takeEvents(), QStringList({"Mail OK", "Links OK", "Mail hidden"}));
+    closeBy(QTest::currentDataTag());
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(m_dialog->result(), int(isOk ? QDialog::Accepted : QDialog::Rejected));
+    QCOMPARE(takeEvents(),
+             QStringList({"Mail " + event, "Links " + event}) + (isOk ? QStringList("Mail hidden") : QStringList()));
 }
 
 void SettingsDialogTest::staysForOneThatDoesNot()
 {
+    QFETCH(QString, event);
     open();
     m_links->setProperty("refuses", true);
-    press(QDialogButtonBox::Ok);
+    closeBy(QTest::currentDataTag());
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(takeEvents(), QStringList({"Mail OK", "Links OK", "Mail hidden", "Links shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail " + event, "Links " + event, "Mail hidden", "Links shown"}));
     m_links->setProperty("refuses", false);
-    press(QDialogButtonBox::Ok);
+    closeBy(QTest::currentDataTag());
     QVERIFY(!m_dialog->isVisible());
-}
-
-void SettingsDialogTest::addWaysToCancel()
-{
-    QTest::addColumn<QString>("by");
-    for (const char* way : {"button", "Escape", "close button"})
-        QTest::newRow(way) << QString::fromLatin1(way);
-}
-
-void SettingsDialogTest::cancel(const QString& by)
-{
-    if (by == "Escape")
-        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    else if (by == "close button")
-        m_dialog->close();
-    else
-        press(QDialogButtonBox::Cancel);
-}
-
-void SettingsDialogTest::cancels()
-{
-    QFETCH(QString, by);
-    open();
-    cancel(by);
-    QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
-    QCOMPARE(takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
-}
-
-void SettingsDialogTest::staysForOneThatDoesNotCancel()
-{
-    QFETCH(QString, by);
-    open();
-    m_links->setProperty("refuses", true);
-    cancel(by);
-    QVERIFY(m_dialog->isVisible());
-    QCOMPARE(shownPage(), QStringLiteral("Links"));
-    QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
-                                        QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
-    m_links->setProperty("refuses", false);
-    cancel(by);
-    QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    QCOMPARE(m_dialog->result(), int(event == "OK" ? QDialog::Accepted : QDialog::Rejected));
 }
 
 void SettingsDialogTest::showsNoPageOfAPluginWithout()
