@@ -113,7 +113,7 @@ void CommandLineTest::helpNamesEveryOption_data()
     QTest::addColumn<QString>("option");
     for (const char* option :
          {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--list-links"})
-        QTest::newRow(option) << QString::fromLatin1(option);
+        QTest::newRow(option) << option;
 }
 
 void CommandLineTest::helpNamesEveryOption()

@@ -19,7 +19,7 @@ class OpenUrlTest : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void open(const QUrl& url) { m_opened << QString::fromLatin1(url.toEncoded()); }
+    void open(const QUrl& url) { m_opened << QString(url.toEncoded()); }
     void giveUp() { QCoreApplication::exit(1); }
 
 private Q_SLOTS:
@@ -52,13 +52,13 @@ void OpenUrlTest::init()
 {
     m_opened.clear();
     for (const char* scheme : schemes)
-        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
+        QDesktopServices::setUrlHandler(scheme, this, "open");
 }
 
 void OpenUrlTest::cleanup()
 {
     for (const char* scheme : schemes)
-        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+        QDesktopServices::unsetUrlHandler(scheme);
     while (QMessageBox* const box = notice())
         delete box;
 }
