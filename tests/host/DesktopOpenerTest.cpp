@@ -24,6 +24,8 @@ private Q_SLOTS:
     void runsCutOff();
 };
 
+namespace
+{
 /** While it lives, PATH is this one folder, which is empty at first. */
 class OnlyPath
 {
@@ -41,6 +43,7 @@ private:
     QTemporaryDir m_folder;
     const QByteArray m_path;
 };
+} // namespace
 
 /** Runs xdg-open to its end. The reason why it failed; empty where it did not. */
 static QString reasonOfRun(const QString& target)

@@ -34,8 +34,8 @@ private Q_SLOTS:
     void letsGoOfEverything();
 
 private:
-    void build(const char* namesOfFirst, const char* namesOfSecond = "");
-    QAction* action(const char* name) const;
+    void build(const QString& namesOfFirst, const QString& namesOfSecond = QString());
+    QAction* action(const QString& name) const;
     QStringList shownNames() const;
 
     std::unique_ptr<FakePlugins> m_plugins;
@@ -65,18 +65,18 @@ void MenuManagerTest::cleanup()
 }
 
 /** Rebuilds with plug-ins that have links of these names, which blanks separate, and forgets that they were asked. */
-void MenuManagerTest::build(const char* namesOfFirst, const char* namesOfSecond)
+void MenuManagerTest::build(const QString& namesOfFirst, const QString& namesOfSecond)
 {
-    m_plugins->first()->setProperty("links", QString::fromUtf8(namesOfFirst).split(' '));
-    m_plugins->second()->setProperty("links", QString::fromUtf8(namesOfSecond).split(' '));
+    m_plugins->first()->setProperty("links", namesOfFirst.split(' '));
+    m_plugins->second()->setProperty("links", namesOfSecond.split(' '));
     m_manager->rebuild();
     takeEvents();
 }
 
-QAction* MenuManagerTest::action(const char* name) const
+QAction* MenuManagerTest::action(const QString& name) const
 {
     for (QAction* action : m_actions) {
-        if (action->data().toString() == QString::fromUtf8(name))
+        if (action->data().toString() == name)
             return action;
     }
     return nullptr;

@@ -32,6 +32,8 @@ private:
     int m_answer;
 };
 
+namespace
+{
 /** The plug-ins RecordingFirst and RecordingSecond, loaded; their start is forgotten. */
 class TwoPlugins : public PluginFixture
 {
@@ -45,6 +47,7 @@ public:
         takeEvents();
     }
 };
+} // namespace
 
 class PluginContainerTest : public QObject
 {

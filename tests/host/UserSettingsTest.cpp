@@ -24,6 +24,8 @@ private Q_SLOTS:
     void warnsWhenItCannotBeKept();
 };
 
+namespace
+{
 /** A folder of the user that goes with it. */
 class OwnFolder
 {
@@ -36,6 +38,7 @@ public:
 private:
     QTemporaryDir m_folder;
 };
+} // namespace
 
 void UserSettingsTest::keepsTheLanguage_data()
 {
