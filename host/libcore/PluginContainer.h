@@ -80,6 +80,7 @@ private:
         IBasePlugin* base;     ///< null for a component
     };
 
+    bool isLoaded(const QString& file) const;
     void load(const QFileInfo& file);
     QString take(Entry& plugin);
     void refuse(const QString& file, const QString& reason);

@@ -36,6 +36,15 @@ void PluginContainer::loadFolder(const QString& folder)
     }
 }
 
+bool PluginContainer::isLoaded(const QString& file) const
+{
+    for (const Entry& plugin : m_plugins) {
+        if (plugin.loader->fileName() == file)
+            return true;
+    }
+    return false;
+}
+
 void PluginContainer::load(const QFileInfo& file)
 {
     // A pipe or device would make the loader wait for ever.
@@ -47,10 +56,17 @@ void PluginContainer::load(const QFileInfo& file)
         refuse(file.filePath(), QLatin1String("it is not a regular file"));
         return;
     }
+    // A second loader of the same file would keep it loaded in Qt 4.
+    if (isLoaded(file.canonicalFilePath())) {
+        refuse(file.filePath(), QLatin1String("this file is loaded already"));
+        return;
+    }
     Entry plugin = {QString(), 0, QString(), nullptr, new QPluginLoader(file.canonicalFilePath()), nullptr};
     // By default a library stays mapped for good.
     plugin.loader->setLoadHints(QLibrary::LoadHints());
-    if (plugins().contains(plugin.loader->instance())) {
+    // Asked once: Qt 4 gives a reason for the first failure only.
+    plugin.object = plugin.loader->instance();
+    if (plugins().contains(plugin.object)) {
         // Another name of a loaded file: the object is the other's, and unloading would delete it.
         delete plugin.loader;
         refuse(file.filePath(), QLatin1String("this file is loaded already"));
@@ -65,10 +81,9 @@ void PluginContainer::load(const QFileInfo& file)
     refuse(file.filePath(), reason);
 }
 
-/** Asks a library for its plug-in and starts it. Empty when it runs, else why it does not. */
+/** Starts the plug-in that a library gave, if any. Empty when it runs, else why it does not. */
 QString PluginContainer::take(Entry& plugin)
 {
-    plugin.object = plugin.loader->instance();
     if (!plugin.object)
         return QLatin1String("it is not a plug-in that can be loaded: ") + plugin.loader->errorString().simplified();
     plugin.base = qobject_cast<IBasePlugin*>(plugin.object);

@@ -34,7 +34,7 @@ static bool beginsWithPort(const QString& text)
         ++end;
     if (end < text.size() && !QString::fromLatin1("/?#").contains(text.at(end)))
         return false;
-    return text.left(end).toInt() > 0;
+    return text.left(end).toUShort() > 0;
 }
 
 static bool isOpenedScheme(const QString& scheme)
@@ -55,6 +55,9 @@ QUrl InternetAddress::completed(const QString& address)
             text.prepend(QLatin1String("ftp://"));
         else
             text.prepend(QLatin1String("http://"));
+    } else {
+        // Qt 4 leaves it as it was typed, and then finds no one who opens it.
+        text.replace(0, scheme.size(), scheme);
     }
     const QUrl url(text);
     return url.isValid() && !url.host().isEmpty() ? url : QUrl();

@@ -3,22 +3,9 @@
 
 // The text behind a key, and what stands there when there is none.
 
-#include <QTranslator>
-
 #include "Change.h"
+#include "FakeTranslator.h"
 #include "Test.h"
-
-/** Knows one key in one context, both with letters beyond ASCII. */
-class OneText : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* key, const char*, int) const override
-    {
-        const bool isKnown = QByteArray(context) == "Kontext\303\244" && QByteArray(key) == "IDS_\303\226K";
-        return isKnown ? QString::fromUtf8("In Ordnung \342\234\223") : QString();
-    }
-};
 
 class ChangeTest : public QObject
 {
@@ -48,8 +35,10 @@ void ChangeTest::translates()
     QFETCH(QString, key);
     QFETCH(QString, context);
     QFETCH(QString, expected);
-    OneText translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const FakeTranslator translator([](const QByteArray& inContext, const QByteArray& source) {
+        const bool isKnown = inContext == "Kontext\303\244" && source == "IDS_\303\226K";
+        return isKnown ? QString::fromUtf8("In Ordnung \342\234\223") : QString();
+    });
     QCOMPARE(Change::tr(key, context), expected);
 }
 

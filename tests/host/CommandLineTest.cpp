@@ -3,7 +3,6 @@
 
 // What the program is asked for on its command line.
 
-
 #include "CommandLine.h"
 #include "Test.h"
 
@@ -46,8 +45,7 @@ void CommandLineTest::readsTheAction_data()
     QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::ShowVersion);
     QTest::newRow("v") << QStringList{"-v"} << int(CommandLine::ShowVersion);
     QTest::newRow("help before the others")
-        << QStringList{"--list-links", "--version", "--help"}
-        << int(CommandLine::ShowHelp);
+        << QStringList{"--list-links", "--version", "--help"} << int(CommandLine::ShowHelp);
 }
 
 void CommandLineTest::readsTheAction()
@@ -60,9 +58,7 @@ void CommandLineTest::readsTheAction()
 
 void CommandLineTest::readsValues()
 {
-    const CommandLine line =
-        parsed({"--data-dir", "my data", "--plugin-dir=/p",
-                "--language", "pt_BR"});
+    const CommandLine line = parsed({"--data-dir", "my data", "--plugin-dir=/p", "--language", "pt_BR"});
     QCOMPARE(line.dataFolder, "my data");
     QCOMPARE(line.pluginFolder, "/p");
     QCOMPARE(line.language, "pt_BR");
@@ -93,15 +89,13 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("named");
     QTest::newRow("unknown") << QStringList{"--sing"} << "sing";
-    QTest::newRow("two unknown") << QStringList{"--sing", "--dance"}
-                                 << "dance";
+    QTest::newRow("two unknown") << QStringList{"--sing", "--dance"} << "dance";
     QTest::newRow("argument") << QStringList{"a\nb"} << "\"a b\"";
     QTest::newRow("no value") << QStringList{"--language"} << "--language";
     QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
     QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";
     QTest::newRow("value too much") << QStringList{"--list-links=1"} << "--list-links";
-    QTest::newRow("error beside help") << QStringList{"--help", "--sing"}
-                                       << "sing";
+    QTest::newRow("error beside help") << QStringList{"--help", "--sing"} << "sing";
 }
 
 void CommandLineTest::refusesInOneLine()
@@ -119,7 +113,7 @@ void CommandLineTest::helpNamesEveryOption_data()
     QTest::addColumn<QString>("option");
     for (const char* option :
          {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--list-links"})
-        QTest::newRow(option) << QString::fromLatin1(option);
+        QTest::newRow(option) << option;
 }
 
 void CommandLineTest::helpNamesEveryOption()

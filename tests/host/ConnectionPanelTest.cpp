@@ -12,11 +12,31 @@
 
 #include "ConnectionMonitor.h"
 #include "ConnectionPanel.h"
-#include "FakeTranslator.h"
 #include "FakeSource.h"
+#include "FakeTranslator.h"
 #include "Test.h"
 
 using Reach = ConnectionState::Reach;
+
+static const QStringList waiting = {"Not connected", "Waiting for a connection."};
+
+static ConnectionState up(Reach reach = Reach::Full, const QString& name = QString())
+{
+    ConnectionState state;
+    state.isUp = true;
+    state.id = "a";
+    state.reach = reach;
+    state.name = name;
+    return state;
+}
+
+static ConnectionState comingUp()
+{
+    ConnectionState state;
+    state.isComingUp = true;
+    return state;
+}
+Q_DECLARE_METATYPE(ConnectionState)
 
 class ConnectionPanelTest : public QObject
 {
@@ -93,34 +113,21 @@ QStringList ConnectionPanelTest::texts() const
 
 void ConnectionPanelTest::saysHowItIs_data()
 {
-    QTest::addColumn<bool>("isUp");
-    QTest::addColumn<bool>("isComingUp");
-    QTest::addColumn<int>("reach");
+    QTest::addColumn<ConnectionState>("state");
     QTest::addColumn<QStringList>("expected");
-    const QString connected = "Connected";
-    const QStringList since{"Since:", "before this program started"};
-    QTest::newRow("down") << false << false << int(Reach::Unknown)
-                          << QStringList{"Not connected", "Waiting for a connection."};
-    QTest::newRow("coming up") << false << true << int(Reach::Unknown)
-                               << QStringList(QString::fromUtf8("Connecting\xe2\x80\xa6"));
-    QTest::newRow("up") << true << false << int(Reach::Full) << QStringList(connected) + since;
-    QTest::newRow("nobody looked") << true << false << int(Reach::Unknown) << QStringList(connected) + since;
-    QTest::newRow("portal") << true << false << int(Reach::Portal)
-                            << QStringList{connected, "This network asks for a login first."} + since;
-    QTest::newRow("limited") << true << false << int(Reach::Limited)
-                             << QStringList{connected, "The Internet is out of reach."} + since;
+    const QStringList connected("Connected"), since{"Since:", "before this program started"};
+    const QString login = "This network asks for a login first.", away = "The Internet is out of reach.";
+    QTest::newRow("down") << ConnectionState() << waiting;
+    QTest::newRow("coming up") << comingUp() << QStringList(QString::fromUtf8("Connecting\xe2\x80\xa6"));
+    QTest::newRow("up") << up() << connected + since;
+    QTest::newRow("nobody looked") << up(Reach::Unknown) << connected + since;
+    QTest::newRow("portal") << up(Reach::Portal) << (QStringList(connected) << login) + since;
+    QTest::newRow("limited") << up(Reach::Limited) << (QStringList(connected) << away) + since;
 }
 
 void ConnectionPanelTest::saysHowItIs()
 {
-    QFETCH(bool, isUp);
-    QFETCH(bool, isComingUp);
-    QFETCH(int, reach);
-    ConnectionState state;
-    state.isUp = isUp;
-    state.isComingUp = isComingUp;
-    state.reach = Reach(reach);
-    state.id = isUp ? "a" : QString();
+    QFETCH(ConnectionState, state);
     m_source->become(state);
     show(false);
     QTEST(texts(), "expected");
@@ -131,12 +138,11 @@ void ConnectionPanelTest::saysWhatItWaitsFor_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<bool>("isManual");
     QTest::addColumn<QString>("hint");
+    const QString press = "Press Connect when your connection is up.";
     QTest::newRow("mobile") << int(ConnectionKind::Mobile) << false << "Waiting for mobile broadband.";
-    QTest::newRow("any") << int(ConnectionKind::Any) << false << "Waiting for a connection.";
-    QTest::newRow("manual") << int(ConnectionKind::Manual) << true
-                            << "Press Connect when your connection is up.";
-    QTest::newRow("no service for mobile")
-        << int(ConnectionKind::Mobile) << true << "Press Connect when your connection is up.";
+    QTest::newRow("any") << int(ConnectionKind::Any) << false << waiting.last();
+    QTest::newRow("manual") << int(ConnectionKind::Manual) << true << press;
+    QTest::newRow("no service for mobile") << int(ConnectionKind::Mobile) << true << press;
 }
 
 void ConnectionPanelTest::saysWhatItWaitsFor()
@@ -152,45 +158,33 @@ void ConnectionPanelTest::hasARowForAllThatIsKnown_data()
 {
     QTest::addColumn<QStringList>("known"); // name, device, operator
     QTest::addColumn<QStringList>("expected");
-    const QString name = "Home", device = "wwan0", mobile = "Example";
+    const QString none, name = "Home", device = "wwan0", mobile = "Example";
     QTest::newRow("all") << QStringList{name, device, mobile}
-                         << QStringList{"Connection:", name,   "Device:", device,
-                                        "Operator:",   mobile, "Since:"};
-    QTest::newRow("name") << QStringList{name, QString(), QString()}
-                          << QStringList{"Connection:", name, "Since:"};
-    QTest::newRow("device") << QStringList{QString(), device, QString()}
-                            << QStringList{"Device:", device, "Since:"};
-    QTest::newRow("operator") << QStringList{QString(), QString(), mobile}
-                              << QStringList{"Operator:", mobile, "Since:"};
+                         << QStringList{"Connection:", name, "Device:", device, "Operator:", mobile};
+    QTest::newRow("name") << QStringList{name, none, none} << QStringList{"Connection:", name};
+    QTest::newRow("device") << QStringList{none, device, none} << QStringList{"Device:", device};
+    QTest::newRow("operator") << QStringList{none, none, mobile} << QStringList{"Operator:", mobile};
 }
 
 void ConnectionPanelTest::hasARowForAllThatIsKnown()
 {
     QFETCH(QStringList, known);
     QFETCH(QStringList, expected);
-    ConnectionState state;
-    state.isUp = true;
-    state.id = "a";
-    state.reach = Reach::Full;
-    state.name = known.at(0);
+    ConnectionState state = up(Reach::Full, known.at(0));
     state.device = known.at(1);
     state.operatorName = known.at(2);
     show(false);
     m_source->become(state);
-    QStringList rows = texts().mid(1);
-    QVERIFY(!rows.isEmpty());
-    rows.removeLast();
-    QCOMPARE(rows, expected);
+    const QStringList rows = texts();
+    QCOMPARE(rows.mid(0, rows.size() - 1), QStringList("Connected") + expected + QStringList("Since:"));
+    QStringList spoken;
+    for (const QLabel* label : m_panel->findChildren<QLabel*>())
+        spoken.append(label->accessibleName());
     // A screen reader says the caption with the value.
-    for (int i = 0; i + 1 < rows.size(); i += 2) {
-        QStringList spoken;
-        const QList<QLabel*> labels = m_panel->findChildren<QLabel*>();
-        for (const QLabel* label : labels)
-            spoken.append(label->accessibleName());
+    for (int i = 1; i < rows.size(); i += 2)
         QVERIFY2(spoken.contains(rows.at(i) + ' ' + rows.at(i + 1)), qPrintable(rows.at(i)));
-    }
     m_source->become(QString());
-    QCOMPARE(texts(), QStringList({"Not connected", "Waiting for a connection."}));
+    QCOMPARE(texts(), waiting);
 }
 
 void ConnectionPanelTest::saysSinceWhen()
@@ -199,22 +193,17 @@ void ConnectionPanelTest::saysSinceWhen()
     m_source->become("a");
     const QTime time = m_monitor->upSince().time();
     QVERIFY(time.isValid());
-    QCOMPARE(texts(), QStringList({"Connected", "Since:",
-                                   QLocale().toString(time, QLocale::ShortFormat)}));
+    QCOMPARE(texts(), QStringList({"Connected", "Since:", QLocale().toString(time, QLocale::ShortFormat)}));
 }
 
 void ConnectionPanelTest::showsANameAsItStands()
 {
     show(false);
-    ConnectionState state;
-    state.isUp = true;
-    state.id = "a";
-    state.name = "<b>Home</b>";
-    m_source->become(state);
-    const QList<QLabel*> labels = m_panel->findChildren<QLabel*>();
+    const QString name = "<b>Home</b>";
+    m_source->become(up(Reach::Full, name));
     int found = 0;
-    for (const QLabel* label : labels) {
-        if (label->text() != state.name)
+    for (const QLabel* label : m_panel->findChildren<QLabel*>()) {
+        if (label->text() != name)
             continue;
         ++found;
         QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -258,26 +247,19 @@ void ConnectionPanelTest::buttonTellsTheMonitor()
 
 void ConnectionPanelTest::summaryIsOneLine_data()
 {
-    QTest::addColumn<bool>("isUp");
-    QTest::addColumn<QString>("name");
+    QTest::addColumn<ConnectionState>("state");
     QTest::addColumn<QString>("summary");
-    QTest::newRow("up with name") << true << "Home" << "Connected: Home";
-    QTest::newRow("up without name") << true << QString() << "Connected";
-    QTest::newRow("down") << false << QString() << "Not connected";
+    QTest::newRow("up with name") << up(Reach::Full, "Home") << "Connected: Home";
+    QTest::newRow("up without name") << up() << "Connected";
+    QTest::newRow("down") << ConnectionState() << "Not connected";
 }
 
 void ConnectionPanelTest::summaryIsOneLine()
 {
-    QFETCH(bool, isUp);
-    QFETCH(QString, name);
-    QFETCH(QString, summary);
-    ConnectionState state;
-    state.isUp = isUp;
-    state.id = isUp ? "a" : QString();
-    state.name = name;
+    QFETCH(ConnectionState, state);
     m_source->become(state);
     show(false);
-    QCOMPARE(ConnectionTexts(*m_monitor, ConnectionKind::Any).summary(), summary);
+    QTEST(ConnectionTexts(*m_monitor, ConnectionKind::Any).summary(), "summary");
 }
 
 void ConnectionPanelTest::saysThatAServiceIsMissing_data()
@@ -287,10 +269,8 @@ void ConnectionPanelTest::saysThatAServiceIsMissing_data()
     QTest::addColumn<bool>("isAvailable");
     QTest::addColumn<QString>("text");
     QTest::newRow("there") << int(ConnectionKind::Any) << true << true << QString();
-    QTest::newRow("gone") << int(ConnectionKind::Any) << true << false
-                          << QStringLiteral("NetworkManager is not running");
-    QTest::newRow("not built in") << int(ConnectionKind::Mobile) << false << false
-                                  << QStringLiteral("Built without NetworkManager");
+    QTest::newRow("gone") << int(ConnectionKind::Any) << true << false << "NetworkManager is not running";
+    QTest::newRow("not built in") << int(ConnectionKind::Mobile) << false << false << "Built without NetworkManager";
     QTest::newRow("not asked for") << int(ConnectionKind::Manual) << false << false << QString();
 }
 
@@ -310,8 +290,7 @@ void ConnectionPanelTest::followsTheLanguage()
 {
     show(true);
     const FakeTranslator other;
-    QTRY_COMPARE(texts(), QStringList({"*Not connected",
-                                       "*Press Connect when your connection is up."}));
+    QTRY_COMPARE(texts(), QStringList({"*Not connected", "*Press Connect when your connection is up."}));
     QCOMPARE(button()->text(), "*Co&nnect");
 }
 

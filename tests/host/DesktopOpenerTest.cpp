@@ -24,6 +24,8 @@ private Q_SLOTS:
     void runsCutOff();
 };
 
+namespace
+{
 /** While it lives, PATH is this one folder, which is empty at first. */
 class OnlyPath
 {
@@ -41,6 +43,7 @@ private:
     QTemporaryDir m_folder;
     const QByteArray m_path;
 };
+} // namespace
 
 /** Runs xdg-open to its end. The reason why it failed; empty where it did not. */
 static QString reasonOfRun(const QString& target)
@@ -50,8 +53,7 @@ static QString reasonOfRun(const QString& target)
     QObject::connect(opener.data(), &DesktopOpener::failed, QCoreApplication::instance(),
                      [&reasons](const QString& reason) { reasons.append(reason); });
     opener->start();
-    return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join('\n')
-                                                           : "it does not delete itself";
+    return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join('\n') : "it does not delete itself";
 }
 
 void DesktopOpenerTest::handsOverTheTarget_data()
@@ -102,8 +104,7 @@ void DesktopOpenerTest::saysThatItWasEndedFromOutside()
 void DesktopOpenerTest::saysWhatIsMissing()
 {
     const OnlyPath path;
-    QCOMPARE(reasonOfRun("/x"),
-             "Opening this needs the program \"xdg-open\", which could not be started:");
+    QCOMPARE(reasonOfRun("/x"), "Opening this needs the program \"xdg-open\", which could not be started:");
 }
 
 void DesktopOpenerTest::runsCutOff()
@@ -112,12 +113,11 @@ void DesktopOpenerTest::runsCutOff()
     const QByteArray tools = qgetenv("PATH");
     const OnlyPath path;
     const QString record = path.file("record");
-    writeScript(path.file("xdg-open"),
-                "PATH='" + tools +
-                    "'\nfiles=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
-                    "session=$(cut -d' ' -f6 /proc/$$/stat)\n"
-                    "printf '%s\\n' \"$files\" $((session - $$)) >'" +
-                    QFile::encodeName(record) + "'\n");
+    writeScript(path.file("xdg-open"), "PATH='" + tools +
+                                           "'\nfiles=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
+                                           "session=$(cut -d' ' -f6 /proc/$$/stat)\n"
+                                           "printf '%s\\n' \"$files\" $((session - $$)) >'" +
+                                           QFile::encodeName(record) + "'\n");
     QCOMPARE(reasonOfRun("/x"), QString());
     QFile file(record);
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -3,14 +3,13 @@
 
 // The service that plug-ins ask whether a connection is up, and how they find it.
 
-
-#include "ConnectionMonitor.h"
 #include "DialupService.h"
-#include "Host.h"
+#include "ConnectionMonitor.h"
 #include "FakeSource.h"
+#include "Host.h"
 #include "Startup.h"
-#include "Translator.h"
 #include "Test.h"
+#include "Translator.h"
 
 class DialupServiceTest : public QObject
 {

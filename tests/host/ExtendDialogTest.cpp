@@ -5,7 +5,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ExtendDialog.h"
@@ -113,8 +112,7 @@ void ExtendDialogTest::standsInTheMiddleOfItsParent_data()
 static void compareCentres(const QWidget* frame, const QWidget* window)
 {
     const QPoint distance = frame->frameGeometry().center() - window->frameGeometry().center();
-    QVERIFY2(distance.manhattanLength() <= 2,
-             qPrintable(QString("off by %1, %2").arg(distance.x()).arg(distance.y())));
+    QVERIFY2(distance.manhattanLength() <= 2, qPrintable(QString("off by %1, %2").arg(distance.x()).arg(distance.y())));
 }
 
 void ExtendDialogTest::standsInTheMiddleOfItsParent()
@@ -142,7 +140,7 @@ void ExtendDialogTest::isCentredAtEveryShow()
     compareCentres(m_frame, m_window);
     // Over the edge of the screen it would hide its buttons.
     m_frame->hide();
-    const QRect screen = m_window->screen()->availableGeometry();
+    const QRect screen = screenArea(m_window);
     m_window->move(screen.bottomRight() - QPoint(30, 30));
     m_frame->show();
     QCOMPARE(m_frame->frameGeometry().bottomRight(), screen.bottomRight());

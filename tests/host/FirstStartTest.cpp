@@ -33,7 +33,7 @@ private:
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
-static const char configFile[] = "/plugins/Some/config.xml";
+static const QString configFile = "/plugins/Some/config.xml";
 
 void FirstStartTest::init()
 {
@@ -62,28 +62,27 @@ QByteArray FirstStartTest::read(const QString& name) const
 
 void FirstStartTest::copiesMissingDefaults()
 {
-    write("defaults" + QLatin1String(configFile), "default");
+    write("defaults" + configFile, "default");
     write("defaults/plugins/Other/deep/file", "other");
     FirstStart::copyDefaults(defaults(), user());
-    QCOMPARE(read("user" + QLatin1String(configFile)), "default");
+    QCOMPARE(read("user" + configFile), "default");
     QCOMPARE(read("user/plugins/Other/deep/file"), "other");
     // No temporary file is left beside it.
-    QCOMPARE(QDir(user() + "/plugins/Some").entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
-             1);
+    QCOMPARE(QDir(user() + "/plugins/Some").entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
 
 void FirstStartTest::neverOverwrites()
 {
-    write("defaults" + QLatin1String(configFile), "default");
-    write("user" + QLatin1String(configFile), "own");
+    write("defaults" + configFile, "default");
+    write("user" + configFile, "own");
     FirstStart::copyDefaults(defaults(), user());
-    QCOMPARE(read("user" + QLatin1String(configFile)), "own");
+    QCOMPARE(read("user" + configFile), "own");
 }
 
 void FirstStartTest::neverReplacesADeadLink()
 {
-    write("defaults" + QLatin1String(configFile), "default");
-    const QString target = user() + QLatin1String(configFile);
+    write("defaults" + configFile, "default");
+    const QString target = user() + configFile;
     QVERIFY(QDir().mkpath(QFileInfo(target).path()));
     QVERIFY(QFile::link("/no/such/file", target));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be copied to .*config\\.xml"));

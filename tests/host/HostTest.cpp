@@ -9,19 +9,17 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include "ConnectionPanel.h"
+#include "FakePlugin.h"
 #include "Host.h"
 #include "IDialupUIService.h"
 #include "INotifyService.h"
-#include "PlayedPlugin.h"
-#include "SampleFolder.h"
+#include "PluginFixture.h"
 #include "Startup.h"
+#include "Test.h"
 #include "Translator.h"
 #include "UserFolder.h"
-#include "Test.h"
 
 class HostTest : public QObject
 {
@@ -39,17 +37,18 @@ private Q_SLOTS:
     void tellsTheLanguage();
     void servesPluginsThatNotifyTheMenu();
     void namesWhatWasNotLoaded();
-    void takesTheWindowDownBeforeThePlugins();
-    void takesPluginsDownOnceWithoutAWindow();
+    void takesPluginsDownOnceAndAfterTheWindow_data();
+    void takesPluginsDownOnceAndAfterTheWindow();
 
 private:
     bool eventFilter(QObject* object, QEvent* event) override;
     void showWindow();
     static QMainWindow* window();
     static QStringList menuTexts();
+    void setLinks(int plugin, const QStringList& names) const;
     static QMenu* linkMenu() { return window()->menuBar()->actions().at(1)->menu(); }
 
-    SampleFolder m_plugins;
+    std::unique_ptr<PluginFolder> m_folder;
     std::unique_ptr<QTemporaryDir> m_userFolder;
     std::unique_ptr<Translator> m_translator;
     std::unique_ptr<Host> m_host;
@@ -58,15 +57,16 @@ private:
 
 void HostTest::init()
 {
-    QVERIFY(m_plugins.add("PlayedFirst"));
-    QVERIFY(m_plugins.add("PlayedSecond"));
+    m_folder = std::make_unique<PluginFolder>();
+    m_folder->add("FakeFirst");
+    m_folder->add("FakeSecond");
     m_userFolder = std::make_unique<QTemporaryDir>();
     UserFolder::setPath(m_userFolder->path());
     m_translator = std::make_unique<Translator>();
     m_host = std::make_unique<Host>(*m_translator);
-    m_host->loadPlugins(m_plugins.path());
+    m_host->loadPlugins(m_folder->path());
     QCOMPARE(m_host->container().plugins().size(), 2);
-    PlayedPlugin::takeEvents();
+    takeEvents();
 }
 
 void HostTest::cleanup()
@@ -74,8 +74,6 @@ void HostTest::cleanup()
     qApp->removeEventFilter(this);
     m_isUnpainted = false;
     m_host.reset();
-    for (const char* name : {"PlayedFirst", "PlayedSecond"})
-        QFile::remove(m_plugins.file(QString::fromLatin1(name)));
 }
 
 /** Tells among the events of the plug-ins when the window is painted. */
@@ -84,7 +82,7 @@ bool HostTest::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::Paint || object != window())
         return false;
     if (!m_isUnpainted)
-        qApp->setProperty("events", qApp->property("events").toStringList() << "painted");
+        recordEvent("painted");
     return m_isUnpainted;
 }
 
@@ -93,7 +91,12 @@ void HostTest::showWindow()
     m_host->showWindow(ConnectionKind::Manual);
     QVERIFY(window());
     QVERIFY(QTest::qWaitForWindowExposed(window()));
-    QTRY_VERIFY(qApp->property("events").toStringList().contains("PlayedSecond Notify 258 0 0"));
+    QTRY_VERIFY(recordedEvents().contains("FakeSecond Notify 258 0 0"));
+}
+
+void HostTest::setLinks(int plugin, const QStringList& names) const
+{
+    m_host->container().plugins().at(plugin)->setProperty("links", names);
 }
 
 QMainWindow* HostTest::window()
@@ -118,19 +121,18 @@ QStringList HostTest::menuTexts()
 void HostTest::preparesThePluginsFolders()
 {
     const QDir folder(m_userFolder->path() + "/plugins");
-    QCOMPARE(folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList({"PlayedFirst", "PlayedSecond"}));
+    QCOMPARE(folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList({"FakeFirst", "FakeSecond"}));
 }
 
 void HostTest::showsLinksInTheMenu()
 {
-    m_host->container().plugins().at(0)->setProperty("links", QStringList{"a", "b"});
-    m_host->container().plugins().at(1)->setProperty("links", QStringList{"c"});
+    setLinks(0, {"a", "b"});
+    setLinks(1, {"c"});
     showWindow();
     QCOMPARE(menuTexts(), QStringList({"a", "b", "c"}));
-    PlayedPlugin::takeEvents();
+    takeEvents();
     linkMenu()->actions().at(2)->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("PlayedSecond launched c"));
+    QCOMPARE(takeEvents(), QStringList("FakeSecond launched c"));
 }
 
 void HostTest::tellsTheStartOnceAndAfterTheFirstPaint()
@@ -142,41 +144,41 @@ void HostTest::tellsTheStartOnceAndAfterTheFirstPaint()
     window()->hide();
     window()->show();
     QVERIFY(QTest::qWaitForWindowExposed(window()));
-    QStringList events = PlayedPlugin::takeEvents();
+    QStringList events = takeEvents();
     window()->repaint();
-    QTRY_VERIFY(qApp->property("events").toStringList().contains("painted"));
+    QTRY_VERIFY(recordedEvents().contains("painted"));
     QCoreApplication::processEvents();
-    events += PlayedPlugin::takeEvents();
+    events += takeEvents();
     const int painted = int(events.indexOf("painted"));
-    const int told = int(events.indexOf("PlayedFirst Notify 258 0 0"));
+    const int told = int(events.indexOf("FakeFirst Notify 258 0 0"));
     QVERIFY(painted >= 0);
     QVERIFY2(painted < told, qPrintable(events.join('\n')));
-    QCOMPARE(int(events.count("PlayedFirst Notify 258 0 0")), 1);
-    QCOMPARE(int(events.count("PlayedSecond Notify 258 0 0")), 1);
+    QCOMPARE(int(events.count("FakeFirst Notify 258 0 0")), 1);
+    QCOMPARE(int(events.count("FakeSecond Notify 258 0 0")), 1);
 }
 
 void HostTest::tellsTheStartOfAWindowThatIsPutAway()
 {
-    const QString told = "PlayedFirst Notify 258 0 0";
+    const QString told = "FakeFirst Notify 258 0 0";
     m_isUnpainted = true;
     qApp->installEventFilter(this);
     m_host->showWindow(ConnectionKind::Manual);
     QVERIFY(QTest::qWaitForWindowExposed(window()));
-    QCOMPARE(int(PlayedPlugin::takeEvents().count(told)), 0);
+    QCOMPARE(int(takeEvents().count(told)), 0);
     window()->showMinimized();
-    QTRY_VERIFY(qApp->property("events").toStringList().contains(told));
+    QTRY_VERIFY(recordedEvents().contains(told));
     m_isUnpainted = false;
     window()->showNormal();
     window()->repaint();
-    QTRY_VERIFY(qApp->property("events").toStringList().contains("painted"));
+    QTRY_VERIFY(recordedEvents().contains("painted"));
     QCoreApplication::processEvents();
-    QCOMPARE(int(PlayedPlugin::takeEvents().count(told)), 1);
+    QCOMPARE(int(takeEvents().count(told)), 1);
 }
 
 void HostTest::tellsWhatTheUserSaysOfTheConnection()
 {
     showWindow();
-    PlayedPlugin::takeEvents();
+    takeEvents();
     QPushButton* const button = window()->findChild<ConnectionPanel*>()->findChild<QPushButton*>();
     QVERIFY(button->isVisible());
     IDialupUIService* const service = qobject_cast<IDialupUIService*>(
@@ -184,8 +186,7 @@ void HostTest::tellsWhatTheUserSaysOfTheConnection()
     QVERIFY(service);
     QCOMPARE(service->IsConnected(), 0);
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"PlayedFirst Notify 1536 0 0",
-                                                      "PlayedSecond Notify 1536 0 0"}));
+    QCOMPARE(takeEvents(), QStringList({"FakeFirst Notify 1536 0 0", "FakeSecond Notify 1536 0 0"}));
     QCOMPARE(service->IsConnected(), 1);
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(service->IsConnected(), 0);
@@ -194,21 +195,19 @@ void HostTest::tellsWhatTheUserSaysOfTheConnection()
 void HostTest::tellsTheLanguage()
 {
     showWindow();
-    PlayedPlugin::takeEvents();
+    takeEvents();
     // There are no catalogues beside this program, so every language ends as English.
     QTest::ignoreMessage(QtWarningMsg, "There are no texts in the language \"de\"; they are shown in English");
     m_host->setLanguage("de");
-    QCOMPARE(
-        PlayedPlugin::takeEvents(),
-        QStringList({"PlayedFirst ChangeLang en", "PlayedSecond ChangeLang en",
-                     "PlayedFirst Notify 1024 0 0", "PlayedSecond Notify 1024 0 0"}));
+    QCOMPARE(takeEvents(), QStringList({"FakeFirst ChangeLang en", "FakeSecond ChangeLang en",
+                                        "FakeFirst Notify 1024 0 0", "FakeSecond Notify 1024 0 0"}));
 }
 
 void HostTest::servesPluginsThatNotifyTheMenu()
 {
     showWindow();
     QCOMPARE(menuTexts(), QStringList("No quick links"));
-    m_host->container().plugins().at(0)->setProperty("links", QStringList{"new"});
+    setLinks(0, {"new"});
     INotifyService* const service = qobject_cast<INotifyService*>(
         Startup::GetPluginContainer()->GetPlugin("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412", 0x2011));
     QVERIFY(service);
@@ -218,32 +217,33 @@ void HostTest::servesPluginsThatNotifyTheMenu()
 
 void HostTest::namesWhatWasNotLoaded()
 {
-    const SampleFolder broken;
-    for (const char* name : {"BrokenOne", "BrokenTwo"})
-        QVERIFY(broken.write(QString::fromLatin1(name), "no library"));
-    for (int i = 0; i < 2; ++i)
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Plug-in refused: ")));
+    const PluginFolder broken;
+    for (const char* name : {"BrokenOne", "BrokenTwo"}) {
+        broken.write(name, "no library");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Plug-in refused: "));
+    }
     m_host->loadPlugins(broken.path());
     showWindow();
-    QCOMPARE(window()->statusBar()->currentMessage(), QStringLiteral("Not loaded: libBrokenOne.so, libBrokenTwo.so"));
+    QCOMPARE(window()->statusBar()->currentMessage(), "Not loaded: libBrokenOne.so, libBrokenTwo.so");
 }
 
-void HostTest::takesTheWindowDownBeforeThePlugins()
+void HostTest::takesPluginsDownOnceAndAfterTheWindow_data()
 {
-    m_host->container().plugins().at(0)->setProperty("links", QStringList{"a"});
-    showWindow();
-    PlayedPlugin::takeEvents();
+    QTest::addColumn<bool>("hasWindow");
+    QTest::newRow("window") << true;
+    QTest::newRow("no window") << false;
+}
+
+void HostTest::takesPluginsDownOnceAndAfterTheWindow()
+{
+    QFETCH(bool, hasWindow);
+    setLinks(0, {"a"});
+    if (hasWindow)
+        showWindow();
+    takeEvents();
     m_host.reset();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"PlayedSecond OnDestroy, 0 windows",
-                                                      "PlayedFirst OnDestroy, 0 windows"}));
+    QCOMPARE(takeEvents(), QStringList({"FakeSecond OnDestroy, 0 windows", "FakeFirst OnDestroy, 0 windows"}));
     QVERIFY(!Startup::GetPluginContainer());
-}
-
-void HostTest::takesPluginsDownOnceWithoutAWindow()
-{
-    m_host.reset();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"PlayedSecond OnDestroy, 0 windows",
-                                                      "PlayedFirst OnDestroy, 0 windows"}));
 }
 
 REGISTER_TEST(HostTest)

@@ -3,10 +3,13 @@
 
 // The languages in the View menu.
 
+#include <algorithm>
+#include <functional>
+
 #include <QSignalSpy>
 
-#include "LanguageMenu.h"
 #include "FakeTranslator.h"
+#include "LanguageMenu.h"
 #include "Test.h"
 
 class LanguageMenuTest : public QObject
@@ -24,19 +27,12 @@ private Q_SLOTS:
     void followsTheLanguage();
 };
 
-static QStringList offered()
-{
-    return {"de", "en", "pt_BR"};
-}
+static const QStringList offered = {"de", "en", "pt_BR"};
 
 static QList<QAction*> choices(const QMenu& menu)
 {
-    QList<QAction*> choices;
-    const QList<QAction*> actions = menu.actions();
-    for (QAction* action : actions) {
-        if (!action->isSeparator())
-            choices.append(action);
-    }
+    QList<QAction*> choices = menu.actions();
+    choices.erase(std::remove_if(choices.begin(), choices.end(), std::mem_fn(&QAction::isSeparator)), choices.end());
     return choices;
 }
 
@@ -44,8 +40,7 @@ static QList<QAction*> choices(const QMenu& menu)
 static QStringList marked(const QMenu& menu)
 {
     QStringList languages;
-    const QList<QAction*> all = choices(menu);
-    for (const QAction* action : all) {
+    for (const QAction* action : choices(menu)) {
         if (action->isChecked())
             languages.append(action->data().toString());
     }
@@ -56,14 +51,13 @@ void LanguageMenuTest::namesEachInItsOwnLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("name");
-    QTest::newRow("de") << "de" << "Deutsch";
-    QTest::newRow("en") << "en" << "English";
-    QTest::newRow("fr") << "fr"
-                        << QString::fromUtf8("Fran\xc3\xa7"
-                                             "ais");
-    QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Portugu\xc3\xaas");
-    QTest::newRow("ru") << "ru"
-                        << QString::fromUtf8("\xd0\xa0\xd1\x83\xd1\x81\xd1\x81\xd0\xba\xd0\xb8\xd0\xb9");
+    QTest::newRow("de") << "de"
+                        << "Deutsch";
+    QTest::newRow("en") << "en"
+                        << "English";
+    QTest::newRow("fr") << "fr" << QString::fromUtf8("Français");
+    QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Português");
+    QTest::newRow("ru") << "ru" << QString::fromUtf8("Русский");
 }
 
 void LanguageMenuTest::namesEachInItsOwnLanguage()
@@ -76,16 +70,15 @@ void LanguageMenuTest::namesEachInItsOwnLanguage()
 
 void LanguageMenuTest::offersTheSystemsFirst()
 {
-    const LanguageMenu menu(offered(), QString());
+    const LanguageMenu menu(offered, QString());
     QCOMPARE(menu.title(), "&Language");
     QCOMPARE(choices(menu).size(), 4);
     QCOMPARE(choices(menu).constFirst()->text(), "&System Language");
     QVERIFY(menu.actions().at(1)->isSeparator());
     QStringList order;
-    const QList<QAction*> all = choices(menu);
-    for (const QAction* action : all)
+    for (const QAction* action : choices(menu))
         order.append(action->data().toString());
-    QCOMPARE(order, QStringList(QString()) + offered());
+    QCOMPARE(order, QStringList(QString()) + offered);
 }
 
 void LanguageMenuTest::marksTheCurrentOne_data()
@@ -101,7 +94,7 @@ void LanguageMenuTest::marksTheCurrentOne_data()
 void LanguageMenuTest::marksTheCurrentOne()
 {
     QFETCH(QString, current);
-    const LanguageMenu menu(offered(), current);
+    const LanguageMenu menu(offered, current);
     QTEST(marked(menu), "expected");
 }
 
@@ -118,7 +111,7 @@ void LanguageMenuTest::tellsWhatIsChosen()
 {
     QFETCH(int, index);
     QFETCH(QString, language);
-    const LanguageMenu menu(offered(), "en");
+    const LanguageMenu menu(offered, "en");
     QSignalSpy told(&menu, &LanguageMenu::languageChosen);
     choices(menu).at(index)->trigger();
     QCOMPARE(told.size(), 1);
@@ -128,7 +121,7 @@ void LanguageMenuTest::tellsWhatIsChosen()
 
 void LanguageMenuTest::followsTheLanguage()
 {
-    const LanguageMenu menu(offered(), QString());
+    const LanguageMenu menu(offered, QString());
     const FakeTranslator other;
     QTRY_COMPARE(menu.title(), "*&Language");
     QCOMPARE(choices(menu).constFirst()->text(), "*&System Language");

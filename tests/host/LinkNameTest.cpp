@@ -3,7 +3,6 @@
 
 // Names of links, made fit to be shown.
 
-
 #include "LinkName.h"
 #include "Test.h"
 
@@ -22,14 +21,20 @@ void LinkNameTest::standsOnOneLine_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("usual") << "My Web Mail" << "My Web Mail";
+    QTest::newRow("usual") << "My Web Mail"
+                           << "My Web Mail";
     QTest::newRow("empty") << QString() << QString();
-    QTest::newRow("line feed") << "a\nb" << "a b";
-    QTest::newRow("both ends of a line") << "a\r\nb" << "a  b";
-    QTest::newRow("tab") << "a\tb" << "a b";
-    QTest::newRow("escape") << "\033[31mred" << " [31mred";
+    QTest::newRow("line feed") << "a\nb"
+                               << "a b";
+    QTest::newRow("both ends of a line") << "a\r\nb"
+                                         << "a  b";
+    QTest::newRow("tab") << "a\tb"
+                         << "a b";
+    QTest::newRow("escape") << "\033[31mred"
+                            << " [31mred";
     QTest::newRow("zero") << QString(QChar(0)) << " ";
-    QTest::newRow("delete") << "a\177" << "a ";
+    QTest::newRow("delete") << "a\177"
+                            << "a ";
     QTest::newRow("next line") << QString(QChar(0x85)) << " ";
     QTest::newRow("line separator") << QString(QChar(0x2028)) << " ";
     QTest::newRow("paragraph separator") << QString(QChar(0x2029)) << " ";
@@ -48,10 +53,14 @@ void LinkNameTest::showsAmpersands_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("none") << "News" << "News";
-    QTest::newRow("one") << "R&D" << "R&&D";
-    QTest::newRow("at both ends") << "&a&" << "&&a&&";
-    QTest::newRow("doubled before") << "a && b" << "a &&&& b";
+    QTest::newRow("none") << "News"
+                          << "News";
+    QTest::newRow("one") << "R&D"
+                         << "R&&D";
+    QTest::newRow("at both ends") << "&a&"
+                                  << "&&a&&";
+    QTest::newRow("doubled before") << "a && b"
+                                    << "a &&&& b";
 }
 
 void LinkNameTest::showsAmpersands()

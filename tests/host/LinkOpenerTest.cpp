@@ -10,9 +10,9 @@
 #include <QUrl>
 
 #include "LinkOpener.h"
-#include "NoticeOnScreen.h"
-#include "RecordingDesktop.h"
+#include "MessageOnScreen.h"
 #include "ProcessLimits.h"
+#include "RecordingDesktop.h"
 #include "Test.h"
 
 class LinkOpenerTest : public QObject
@@ -135,7 +135,8 @@ void LinkOpenerTest::tellsWhatCannotBeOpened_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("missing") << "nothing"
                              << "There is no such file or folder, or you are not allowed to see it:";
-    QTest::newRow("locked") << "a locked file" << "You are not allowed to open this:";
+    QTest::newRow("locked") << "a locked file"
+                            << "You are not allowed to open this:";
     QTest::newRow("broken") << "a broken program"
                             << "This program could not be started:";
 }
@@ -186,7 +187,7 @@ void LinkOpenerTest::givesTheSchemesBack()
     }
     for (const char* address : {"/", "file:///", "mailto:", "http://a", "https://a", "ftp://a"}) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
-        QVERIFY2(!QDesktopServices::openUrl(QUrl(QString::fromLatin1(address))), address);
+        QVERIFY2(!QDesktopServices::openUrl(QUrl(address)), address);
     }
 }
 

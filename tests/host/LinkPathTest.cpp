@@ -45,17 +45,27 @@ void LinkPathTest::namesTheFile_data()
 {
     QTest::addColumn<QString>("address");
     QTest::addColumn<QString>("path");
-    QTest::newRow("plain") << "/no/such/file" << "/no/such/file";
-    QTest::newRow("blank") << "/no such/a b" << "/no such/a b";
-    QTest::newRow("fragment") << "/no/C#/1" << "/no/C#/1";
-    QTest::newRow("query") << "/no/who?/1" << "/no/who?/1";
-    QTest::newRow("query and fragment") << "/no/a?b#c d" << "/no/a?b#c d";
-    QTest::newRow("two slashes") << "//no/such" << "/no/such";
-    QTest::newRow("per cent") << "/no/100% sure" << "/no/100% sure";
+    QTest::newRow("plain") << "/no/such/file"
+                           << "/no/such/file";
+    QTest::newRow("blank") << "/no such/a b"
+                           << "/no such/a b";
+    QTest::newRow("fragment") << "/no/C#/1"
+                              << "/no/C#/1";
+    QTest::newRow("query") << "/no/who?/1"
+                           << "/no/who?/1";
+    QTest::newRow("query and fragment") << "/no/a?b#c d"
+                                        << "/no/a?b#c d";
+    QTest::newRow("two slashes") << "//no/such"
+                                 << "/no/such";
+    QTest::newRow("per cent") << "/no/100% sure"
+                              << "/no/100% sure";
     QTest::newRow("letters") << QString::fromUtf8("/no/Größe") << QString::fromUtf8("/no/Größe");
-    QTest::newRow("file") << "file:///no/a%20b" << "/no/a b";
-    QTest::newRow("file with fragment") << "file:///no/a.html#part" << "/no/a.html";
-    QTest::newRow("file with sign") << "file:///no/C%23" << "/no/C#";
+    QTest::newRow("file") << "file:///no/a%20b"
+                          << "/no/a b";
+    QTest::newRow("file with fragment") << "file:///no/a.html#part"
+                                        << "/no/a.html";
+    QTest::newRow("file with sign") << "file:///no/C%23"
+                                    << "/no/C#";
 }
 
 void LinkPathTest::namesTheFile()

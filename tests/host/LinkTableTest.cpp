@@ -3,9 +3,8 @@
 
 // The table of links on a terminal.
 
-
 #include "LinkTable.h"
-#include "PlayedPlugin.h"
+#include "FakePlugin.h"
 #include "Test.h"
 
 class LinkTableTest : public QObject
@@ -16,8 +15,8 @@ private Q_SLOTS:
     void showsRowsInColumns();
     void saysThatThereAreNone_data();
     void saysThatThereAreNone();
+    void keepsARowOnItsLine_data();
     void keepsARowOnItsLine();
-    void passesOverMissingActions();
     void nameMayBeOfAPluginThatTellsNone();
 };
 
@@ -42,16 +41,15 @@ static QString tableOf(Plugin*... plugin)
 
 void LinkTableTest::showsRowsInColumns()
 {
-    PlayedPlugin first("Links");
-    first.setProperty("links", QString(10, 'A').split(QString(), Qt::SkipEmptyParts)
-                                   << "A long name");
-    PlayedPlugin second("More");
+    FakePlugin first("Links");
+    first.setProperty("links", QString(10, 'A').split(QString(), Qt::SkipEmptyParts) << "A long name");
+    FakePlugin second("More");
     second.setProperty("links", QStringList{"B & C"});
     QString expected = " #  Name         Plug-in\n";
     for (int i = 1; i <= 10; ++i)
         expected += QString("%1  A            Links\n").arg(i, 2);
     expected += "11  A long name  Links\n"
-                               "12  B & C        More\n";
+                "12  B & C        More\n";
     QCOMPARE(tableOf(&first, &second), expected);
 }
 
@@ -66,35 +64,34 @@ void LinkTableTest::saysThatThereAreNone_data()
 void LinkTableTest::saysThatThereAreNone()
 {
     QFETCH(int, count);
-    PlayedPlugin plugin("Links");
+    FakePlugin plugin("Links");
     plugin.setProperty("links", QStringList{"A"});
     plugin.setProperty("linkCount", count);
     QCOMPARE(count > -2 ? tableOf(&plugin) : tableOf(), "No quick links\n");
 }
 
-void LinkTableTest::keepsARowOnItsLine()
+void LinkTableTest::keepsARowOnItsLine_data()
 {
-    PlayedPlugin plugin("Links");
-    plugin.setProperty("links", QStringList{"a\tb", "c\nd"});
-    QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
-                                              "1  a b   Links\n"
-                                              "2  c d   Links\n");
+    QTest::addColumn<QStringList>("links");
+    QTest::newRow("control characters") << QStringList{"a\tb", "c\nd"};
+    QTest::newRow("missing actions") << QStringList{QString(), "a b", QString(), "c d"};
 }
 
-void LinkTableTest::passesOverMissingActions()
+void LinkTableTest::keepsARowOnItsLine()
 {
-    PlayedPlugin plugin("Links");
-    plugin.setProperty("links", QStringList{QString(), "b", QString(), "d"});
+    QFETCH(QStringList, links);
+    FakePlugin plugin("Links");
+    plugin.setProperty("links", links);
     QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
-                                              "1  b     Links\n"
-                                              "2  d     Links\n");
+                               "1  a b   Links\n"
+                               "2  c d   Links\n");
 }
 
 void LinkTableTest::nameMayBeOfAPluginThatTellsNone()
 {
     NamelessPlugin plugin;
     QCOMPARE(tableOf(&plugin), "#  Name  Plug-in\n"
-                                              "1  Lost  \n");
+                               "1  Lost  \n");
 }
 
 REGISTER_TEST(LinkTableTest)

@@ -5,9 +5,9 @@
 
 #include <QSignalSpy>
 
+#include "FakePlugins.h"
 #include "FakeTranslator.h"
 #include "MenuManager.h"
-#include "PlayedContainer.h"
 #include "Test.h"
 
 class MenuManagerTest : public QObject
@@ -34,11 +34,11 @@ private Q_SLOTS:
     void letsGoOfEverything();
 
 private:
-    void build(const char* namesOfFirst, const char* namesOfSecond = "");
-    QAction* action(const char* name) const;
+    void build(const QString& namesOfFirst, const QString& namesOfSecond = QString());
+    QAction* action(const QString& name) const;
     QStringList shownNames() const;
 
-    std::unique_ptr<PlayedContainer> m_plugins;
+    std::unique_ptr<FakePlugins> m_plugins;
     std::unique_ptr<MenuManager> m_manager;
     QList<QAction*> m_actions; ///< as told last
     int m_rebuilt = 0;
@@ -47,8 +47,8 @@ private:
 
 void MenuManagerTest::init()
 {
-    m_plugins = std::make_unique<PlayedContainer>();
-    m_manager = std::make_unique<MenuManager>(m_plugins->container());
+    m_plugins = std::make_unique<FakePlugins>();
+    m_manager = std::make_unique<MenuManager>(m_plugins->container);
     m_actions.clear();
     m_rebuilt = 0;
     connect(m_manager.get(), &MenuManager::rebuilt, this, [this](const QList<QAction*>& actions) {
@@ -65,18 +65,18 @@ void MenuManagerTest::cleanup()
 }
 
 /** Rebuilds with plug-ins that have links of these names, which blanks separate, and forgets that they were asked. */
-void MenuManagerTest::build(const char* namesOfFirst, const char* namesOfSecond)
+void MenuManagerTest::build(const QString& namesOfFirst, const QString& namesOfSecond)
 {
-    m_plugins->first()->setProperty("links", QString::fromUtf8(namesOfFirst).split(' '));
-    m_plugins->second()->setProperty("links", QString::fromUtf8(namesOfSecond).split(' '));
+    m_plugins->first()->setProperty("links", namesOfFirst.split(' '));
+    m_plugins->second()->setProperty("links", namesOfSecond.split(' '));
     m_manager->rebuild();
-    PlayedPlugin::takeEvents();
+    takeEvents();
 }
 
-QAction* MenuManagerTest::action(const char* name) const
+QAction* MenuManagerTest::action(const QString& name) const
 {
     for (QAction* action : m_actions) {
-        if (action->data().toString() == QString::fromUtf8(name))
+        if (action->data().toString() == name)
             return action;
     }
     return nullptr;
@@ -96,10 +96,8 @@ void MenuManagerTest::hasOneActionALinkInOrder()
     m_plugins->second()->setProperty("links", QStringList{"c", "a"});
     m_manager->rebuild();
     QCOMPARE(m_rebuilt, 1);
-    QCOMPARE(shownNames(),
-             QStringList({"b", "a", "c", "a"}));
-    QCOMPARE(PlayedPlugin::takeEvents(),
-             QStringList({"PlayedFirst asked", "PlayedSecond asked"}));
+    QCOMPARE(shownNames(), QStringList({"b", "a", "c", "a"}));
+    QCOMPARE(takeEvents(), QStringList({"FakeFirst asked", "FakeSecond asked"}));
 }
 
 void MenuManagerTest::rebuildsWhenLinksChanged_data()
@@ -122,7 +120,7 @@ void MenuManagerTest::rebuildsWhenLinksChanged()
     m_plugins->first()->setProperty("links", QStringList{"a"});
     QCOMPARE(m_manager->Notify(code, 0, 0), 0);
     QCOMPARE(m_rebuilt, rebuilt);
-    QCOMPARE(PlayedPlugin::takeEvents().size(), 2 * rebuilt);
+    QCOMPARE(takeEvents().size(), 2 * rebuilt);
     QCOMPARE(m_actions.size(), rebuilt);
     QCOMPARE(m_manager->Notify(code, 1, 2), 0);
     QCOMPARE(m_rebuilt, 2 * rebuilt);
@@ -135,8 +133,7 @@ void MenuManagerTest::passesOverWhatIsNotThere_data()
     QTest::newRow("none loaded") << -1 << QStringList{"c"};
     QTest::newRow("no links") << 0 << QStringList{"c"};
     QTest::newRow("null between") << 3 << QStringList{"a", "b", "c"};
-    QTest::newRow("fewer than claimed") << 5
-                                        << QStringList{"a", "b", "c"};
+    QTest::newRow("fewer than claimed") << 5 << QStringList{"a", "b", "c"};
 }
 
 void MenuManagerTest::passesOverWhatIsNotThere()
@@ -153,15 +150,25 @@ void MenuManagerTest::showsTheNameAsItStands_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("tip");
     QTest::addColumn<QString>("toolTip");
-    QTest::newRow("usual") << "News" << "News" << "Open News"
+    QTest::newRow("usual") << "News"
+                           << "News"
+                           << "Open News"
                            << "Open News";
-    QTest::newRow("ampersand") << "R&D" << "R&&D" << "Open R&D"
+    QTest::newRow("ampersand") << "R&D"
+                               << "R&&D"
+                               << "Open R&D"
                                << "Open R&amp;D";
-    QTest::newRow("markup") << "<b>x" << "<b>x" << "Open <b>x"
+    QTest::newRow("markup") << "<b>x"
+                            << "<b>x"
+                            << "Open <b>x"
                             << "Open &lt;b&gt;x";
-    QTest::newRow("lines") << "a\nb" << "a b" << "Open a b"
+    QTest::newRow("lines") << "a\nb"
+                           << "a b"
+                           << "Open a b"
                            << "Open a b";
-    QTest::newRow("place marker") << "%1" << "%1" << "Open %1"
+    QTest::newRow("place marker") << "%1"
+                                  << "%1"
+                                  << "Open %1"
                                   << "Open %1";
 }
 
@@ -184,8 +191,7 @@ void MenuManagerTest::handsBackThePluginsOwnAction()
         QVERIFY(shown->parent() == m_manager.get());
     action("c")->trigger();
     action("b")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(),
-             QStringList({"PlayedSecond launched c", "PlayedFirst launched b"}));
+    QCOMPARE(takeEvents(), QStringList({"FakeSecond launched c", "FakeFirst launched b"}));
 }
 
 void MenuManagerTest::launchesTheActionAskedForLast()
@@ -193,7 +199,7 @@ void MenuManagerTest::launchesTheActionAskedForLast()
     build("a");
     build("x y");
     action("y")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("PlayedFirst launched y"));
+    QCOMPARE(takeEvents(), QStringList("FakeFirst launched y"));
 }
 
 void MenuManagerTest::doesNothingWithoutThePlugin()
@@ -203,9 +209,9 @@ void MenuManagerTest::doesNothingWithoutThePlugin()
     m_plugins->first()->findChild<QAction*>()->setParent(m_manager.get());
     delete m_plugins->first();
     action("a")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
     action("c")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents().size(), 1);
+    QCOMPARE(takeEvents().size(), 1);
 }
 
 void MenuManagerTest::doesNothingWithoutThePluginsAction()
@@ -215,9 +221,9 @@ void MenuManagerTest::doesNothingWithoutThePluginsAction()
     QCOMPARE(theirs.size(), 2);
     delete theirs.first();
     action("a")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
     action("b")->trigger();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("PlayedFirst launched b"));
+    QCOMPARE(takeEvents(), QStringList("FakeFirst launched b"));
 }
 
 void MenuManagerTest::keepsATriggeredActionUntilLater()
@@ -247,7 +253,7 @@ void MenuManagerTest::retranslatesWithoutAsking()
     QCOMPARE(m_actions.first()->statusTip(), "*Open a");
     QVERIFY(m_actions.last()->toolTip().contains("*Open c"));
     QCOMPARE(m_actions.first()->text(), "a");
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void MenuManagerTest::letsGoOfEverything()
@@ -259,7 +265,7 @@ void MenuManagerTest::letsGoOfEverything()
     QCOMPARE(m_keptWhenTold, 2);
     QCOMPARE(m_actions, QList<QAction*>());
     QVERIFY(!before.first() && !before.last());
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
     m_manager->clear();
     m_manager->retranslate();
     QCOMPARE(m_actions, QList<QAction*>());

@@ -3,16 +3,15 @@
 
 // What reaches the browser, and what the user is told about the rest.
 
+#include <QAbstractButton>
 #include <QDesktopServices>
 #include <QPointer>
-#include <QPushButton>
-#include <QRegularExpression>
+#include <QTimer>
 #include <QUrl>
-#include <QWindow>
 
 #include "CommonUtils.h"
 #include "MessageOnScreen.h"
-#include "NoticeOnScreen.h"
+#include "RecordingTrace.h"
 #include "Test.h"
 
 class OpenUrlTest : public QObject
@@ -20,7 +19,8 @@ class OpenUrlTest : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void open(const QUrl& url) { m_opened << QString::fromLatin1(url.toEncoded()); }
+    void open(const QUrl& url) { m_opened << QString(url.toEncoded()); }
+    void giveUp() { QCoreApplication::exit(1); }
 
 private Q_SLOTS:
     void init();
@@ -42,25 +42,23 @@ private:
 
 static const char* const schemes[] = {"http", "https", "ftp", "file", "javascript", "mailto"};
 
-/** Clicks as the window system would, which does not reach a window blocked by a modal one. */
 static void clickOk(QMessageBox* box)
 {
-    const QAbstractButton* const button = box->button(QMessageBox::Ok);
     QVERIFY(QTest::qWaitForWindowExposed(box));
-    QTest::mouseClick(box->windowHandle(), Qt::LeftButton, Qt::NoModifier, button->mapTo(box, button->rect().center()));
+    clickThroughWindow(box->button(QMessageBox::Ok));
 }
 
 void OpenUrlTest::init()
 {
     m_opened.clear();
     for (const char* scheme : schemes)
-        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
+        QDesktopServices::setUrlHandler(scheme, this, "open");
 }
 
 void OpenUrlTest::cleanup()
 {
     for (const char* scheme : schemes)
-        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+        QDesktopServices::unsetUrlHandler(scheme);
     while (QMessageBox* const box = notice())
         delete box;
 }
@@ -71,18 +69,21 @@ void OpenUrlTest::handsOn_data()
     QTest::addColumn<QString>("opened");
     QTest::newRow("complete") << "https://example.com/a?b=c&d"
                               << "https://example.com/a?b=c&d";
-    QTest::newRow("www") << "www.example.com" << "http://www.example.com";
-    QTest::newRow("ftp") << "ftp.example.com" << "ftp://ftp.example.com";
-    QTest::newRow("other") << "example.com" << "http://example.com";
-    QTest::newRow("upper case") << "HTTP://example.com" << "http://example.com";
+    QTest::newRow("www") << "www.example.com"
+                         << "http://www.example.com";
+    QTest::newRow("ftp") << "ftp.example.com"
+                         << "ftp://ftp.example.com";
+    QTest::newRow("other") << "example.com"
+                           << "http://example.com";
+    QTest::newRow("upper case") << "HTTP://example.com"
+                                << "http://example.com";
 }
 
 void OpenUrlTest::handsOn()
 {
     QFETCH(QString, address);
-    QFETCH(QString, opened);
     CommonUtils::OpenUrl(address);
-    QCOMPARE(m_opened, QStringList() << opened);
+    QTEST(m_opened.join(" "), "opened");
     QVERIFY(!notice());
 }
 
@@ -114,8 +115,11 @@ void OpenUrlTest::refuses()
 void OpenUrlTest::tellsWhenNothingOpens()
 {
     QDesktopServices::unsetUrlHandler("http");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", "/nonexistent"); // where a toolkit may look for a browser
+    const RecordingTrace trace;      // where another says that it looks for none
     CommonUtils::OpenUrl("www.example.com");
+    qputenv("PATH", path);
     QMessageBox* const box = notice();
     QVERIFY(box);
     QVERIFY(box->text().contains("www.example.com"));
@@ -157,8 +161,8 @@ void OpenUrlTest::noticeCanBeClosedOverAModalMessage()
         isGone = QTest::qWaitFor([&] { return !box; });
         modal->close();
     });
-    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), QString(), "A", QString(),
-                             QString(), false, Qt::WindowFlags(), nullptr, QString(), true);
+    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), QString(), "A", QString(), QString(), false,
+                             Qt::WindowFlags(), nullptr, QString(), true);
     QVERIFY(wasShown);
     QVERIFY(isGone);
 }
@@ -171,7 +175,9 @@ void OpenUrlTest::noticeDoesNotKeepTheProgramAlive()
     CommonUtils::OpenUrl("x:y");
     QVERIFY(notice());
     QTimer::singleShot(0, &window, SLOT(close()));
-    QTimer::singleShot(10000, &window, [] { QCoreApplication::exit(1); });
+    QTimer limit;
+    connect(&limit, SIGNAL(timeout()), SLOT(giveUp()));
+    limit.start(10000);
     QCOMPARE(QApplication::exec(), 0);
 }
 
@@ -180,7 +186,7 @@ void OpenUrlTest::noticeGoesWithTheProgram()
     CommonUtils::OpenUrl("x:y");
     const QPointer<QMessageBox> box = notice();
     QVERIFY(box);
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    QTimer::singleShot(0, qApp, SLOT(quit()));
     QApplication::exec();
     QVERIFY(!box);
 }

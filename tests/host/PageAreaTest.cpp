@@ -3,7 +3,6 @@
 
 // The place of a settings page, and how a page stands in it.
 
-
 #include "PageArea.h"
 #include "Test.h"
 
@@ -21,6 +20,8 @@ private Q_SLOTS:
     void doesWithoutAPageThatIsGone();
 };
 
+namespace
+{
 /** A page that wants and needs these sizes. */
 class SizedPage : public QWidget
 {
@@ -37,6 +38,15 @@ public:
 private:
     const QSize m_wanted, m_least;
 };
+
+std::unique_ptr<PageArea> shownArea()
+{
+    auto area = std::make_unique<PageArea>();
+    area->resize(600, 500);
+    area->show();
+    return area;
+}
+} // namespace
 
 void PageAreaTest::wantsToShowTheWholePage_data()
 {
@@ -86,15 +96,13 @@ void PageAreaTest::keepsThePageAsLargeAsItself()
 {
     QFETCH(QSize, size);
     QFETCH(QSize, pageSize); // 0 stands for what a scroll bar leaves of the area
-    PageArea area;
-    area.resize(600, 500);
-    area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const page = new SizedPage(area.pageParent(), QSize(500, 400), QSize(10, 10));
-    area.setPage(page);
+    const std::unique_ptr<PageArea> area = shownArea();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+    QWidget* const page = new SizedPage(area->pageParent(), QSize(500, 400), QSize(10, 10));
+    area->setPage(page);
     QCOMPARE(page->geometry(), QRect(0, 0, 600, 500));
-    area.resize(size);
-    const QSize viewport = area.viewport()->size();
+    area->resize(size);
+    const QSize viewport = area->viewport()->size();
     QCOMPARE(page->pos(), QPoint(0, 0));
     QTRY_COMPARE(page->width(), pageSize.width() ? pageSize.width() : viewport.width());
     QTRY_COMPARE(page->height(), pageSize.height() ? pageSize.height() : viewport.height());
@@ -102,29 +110,26 @@ void PageAreaTest::keepsThePageAsLargeAsItself()
 
 void PageAreaTest::doesNotKeepAFormerPage()
 {
-    PageArea area;
-    area.resize(600, 500);
-    area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const former = new SizedPage(area.pageParent(), QSize(100, 100), QSize(10, 10));
-    QWidget* const page = new SizedPage(area.pageParent(), QSize(100, 100), QSize(10, 10));
-    area.setPage(former);
-    area.setPage(page);
-    area.resize(700, 550);
+    const std::unique_ptr<PageArea> area = shownArea();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+    QWidget* const former = new SizedPage(area->pageParent(), QSize(100, 100), QSize(10, 10));
+    QWidget* const page = new SizedPage(area->pageParent(), QSize(100, 100), QSize(10, 10));
+    area->setPage(former);
+    area->setPage(page);
+    area->resize(700, 550);
     QTRY_COMPARE(page->size(), QSize(700, 550));
     QCOMPARE(former->size(), QSize(600, 500));
 }
 
 void PageAreaTest::doesWithoutAPageThatIsGone()
 {
-    PageArea area;
-    area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QWidget* const page = new SizedPage(area.pageParent(), QSize(500, 400), QSize(10, 10));
-    area.setPage(page);
+    const std::unique_ptr<PageArea> area = shownArea();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+    QWidget* const page = new SizedPage(area->pageParent(), QSize(500, 400), QSize(10, 10));
+    area->setPage(page);
     delete page;
-    area.resize(700, 650);
-    QTRY_COMPARE(area.pageParent()->size(), QSize(700, 650));
+    area->resize(700, 650);
+    QTRY_COMPARE(area->pageParent()->size(), QSize(700, 650));
 }
 
 REGISTER_TEST(PageAreaTest)

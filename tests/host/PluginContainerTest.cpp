@@ -3,21 +3,21 @@
 
 // Finding and notifying what is there, and taking it down.
 
-
 #include "IBasePlugin.h"
 #include "INotify.h"
-#include "SampleFolder.h"
+#include "PluginFixture.h"
+#include "RecordedEvents.h"
 #include "Startup.h"
 #include "StartupContainer.h"
 #include "Test.h"
 
-class Listener : public QObject, public INotify
+class RecordingComponent : public QObject, public INotify
 {
     Q_OBJECT
     Q_INTERFACES(INotify)
 
 public:
-    explicit Listener(int answer)
+    explicit RecordingComponent(int answer)
         : m_answer(answer)
     {
     }
@@ -32,12 +32,28 @@ private:
     int m_answer;
 };
 
+namespace
+{
+/** The plug-ins RecordingFirst and RecordingSecond, loaded; their start is forgotten. */
+class TwoPlugins : public PluginFixture
+{
+public:
+    TwoPlugins()
+        : PluginFixture(QStringList() << "RecordingFirst"
+                                      << "RecordingSecond")
+    {
+        if (load().size() != 2)
+            qFatal("Not every plug-in was loaded");
+        takeEvents();
+    }
+};
+} // namespace
+
 class PluginContainerTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void isKnownToStartupWhileInstalled();
     void uninstallsItselfOnly();
     void findsPlugins_data();
@@ -48,32 +64,15 @@ private Q_SLOTS:
     void notifiesPlugins();
     void notifiesComponents();
     void notifiesTheComponentFirst();
+    void notifiesNobody_data();
     void notifiesNobody();
+    void destroysAllBeforeAnyIsUnloaded_data();
     void destroysAllBeforeAnyIsUnloaded();
-    void shutsDownOnce();
-    void destructorShutsDown();
-
-private:
-    bool load(RecordingContainer& host);
-
-    QScopedPointer<SampleFolder> m_folder;
+    void findsOnlyComponentsAfterShutdown();
 };
 
 static const char firstId[] = "00000000-0000-0000-0000-00000000000A";
 static const char secondId[] = "00000000-0000-0000-0000-00000000000B";
-
-void PluginContainerTest::init()
-{
-    m_folder.reset(new SampleFolder);
-    QVERIFY(m_folder->add("SampleFirst"));
-    QVERIFY(m_folder->add("SampleSecond"));
-}
-
-bool PluginContainerTest::load(RecordingContainer& host)
-{
-    host.container.loadFolder(m_folder->path());
-    return host.container.plugins().size() == 2;
-}
 
 void PluginContainerTest::isKnownToStartupWhileInstalled()
 {
@@ -105,13 +104,13 @@ void PluginContainerTest::findsPlugins_data()
     QTest::addColumn<QString>("clsid");
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("position");
-    QTest::newRow("first") << QString::fromLatin1(firstId) << 0 << 0;
-    QTest::newRow("second") << QString::fromLatin1(secondId) << 16401 << 1;
-    QTest::newRow("first, of another kind") << QString::fromLatin1(firstId) << 16401 << -1;
-    QTest::newRow("second, of another kind") << QString::fromLatin1(secondId) << 0 << -1;
+    QTest::newRow("first") << firstId << 0 << 0;
+    QTest::newRow("second") << secondId << 16401 << 1;
+    QTest::newRow("first, of another kind") << firstId << 16401 << -1;
+    QTest::newRow("second, of another kind") << secondId << 0 << -1;
     QTest::newRow("unknown") << "00000000-0000-0000-0000-00000000000F" << 0 << -1;
     QTest::newRow("empty") << QString() << 0 << -1;
-    QTest::newRow("lower case") << QString::fromLatin1(firstId).toLower() << 0 << -1;
+    QTest::newRow("lower case") << QString(firstId).toLower() << 0 << -1;
 }
 
 void PluginContainerTest::findsPlugins()
@@ -119,8 +118,7 @@ void PluginContainerTest::findsPlugins()
     QFETCH(QString, clsid);
     QFETCH(int, kind);
     QFETCH(int, position);
-    RecordingContainer host;
-    QVERIFY(load(host));
+    TwoPlugins host;
     QCOMPARE(host.container.GetPlugin(clsid, kind), host.container.plugins().value(position));
 }
 
@@ -141,19 +139,23 @@ void PluginContainerTest::findsComponentsByKind()
 
 void PluginContainerTest::listsPluginsWithAnInterface()
 {
-    QVERIFY(m_folder->add(QStringLiteral("SampleQuiet")));
-    RecordingContainer host;
-    Listener component(0);
-    host.container.registerComponent(QStringLiteral("a"), 1, QStringLiteral("a"), &component);
-    host.container.loadFolder(m_folder->path());
+    PluginFixture host(QStringList() << "RecordingFirst"
+                                     << "FakeSilent"
+                                     << "RecordingSecond");
+    RecordingComponent component(0);
+    host.container.registerComponent("a", 1, "a", &component);
+    QCOMPARE(host.load(), QStringList() << "FakeSilent"
+                                        << "RecordingFirst"
+                                        << "RecordingSecond");
     QStringList names;
     for (const PluginWith<IBasePlugin>& plugin : host.container.all<IBasePlugin>())
         names << plugin.name;
-    QCOMPARE(names, QStringList() << QStringLiteral("SampleFirst") << QStringLiteral("SampleQuiet")
-                                  << QStringLiteral("SampleSecond"));
+    QCOMPARE(names, QStringList() << "FakeSilent"
+                                  << "RecordingFirst"
+                                  << "RecordingSecond");
     const QList<PluginWith<INotify>> listeners = host.container.all<INotify>();
     QCOMPARE(listeners.size(), 2);
-    QCOMPARE(listeners.at(1).name, QStringLiteral("SampleSecond"));
+    QCOMPARE(listeners.at(1).name, "RecordingSecond");
     QCOMPARE(listeners.at(1).object.data(), host.container.plugins().at(2));
     QCOMPARE(listeners.at(1).interface->Notify(1, 2, 3), 7);
     host.container.shutdown();
@@ -166,13 +168,13 @@ void PluginContainerTest::forgetsDeletedComponents()
     PluginContainer container;
     const QString name = "Listener";
     {
-        Listener listener(3);
+        RecordingComponent listener(3);
         container.registerComponent(name, 1, name, &listener);
         QCOMPARE(container.notify(name, 1, 2, 3), 3);
     }
     QVERIFY(!container.GetPlugin(name, 1));
     QCOMPARE(container.notify(name, 1, 2, 3), -1);
-    Listener successor(4);
+    RecordingComponent successor(4);
     container.registerComponent(name, 1, name, &successor);
     QCOMPARE(container.GetPlugin(name, 1), static_cast<QObject*>(&successor));
     QCOMPARE(container.notify(name, 1, 2, 3), 4);
@@ -180,16 +182,15 @@ void PluginContainerTest::forgetsDeletedComponents()
 
 void PluginContainerTest::notifiesPlugins()
 {
-    RecordingContainer host;
-    QVERIFY(load(host));
-    QCOMPARE(host.container.notify("SampleSecond", 2309, 4294967295U, 5), 7);
-    QCOMPARE(host.events().mid(2), QStringList() << "SampleSecond 2309 4294967295 5");
+    TwoPlugins host;
+    QCOMPARE(host.container.notify("RecordingSecond", 2309, 4294967295U, 5), 7);
+    QCOMPARE(takeEvents(), QStringList() << "RecordingSecond Notify 2309 4294967295 5");
 }
 
 void PluginContainerTest::notifiesComponents()
 {
     PluginContainer container;
-    Listener listener(0);
+    RecordingComponent listener(0);
     QObject deaf;
     const QString name = "MenuMgrPlugin";
     container.registerComponent("a", 1, name, &deaf);
@@ -201,64 +202,75 @@ void PluginContainerTest::notifiesComponents()
 void PluginContainerTest::notifiesTheComponentFirst()
 {
     // A plug-in that takes the name of a part of the host gets none of its notifications.
-    RecordingContainer host;
-    QVERIFY(load(host));
-    Listener listener(0);
-    host.container.registerComponent("a", 1, "SampleFirst", &listener);
-    QCOMPARE(host.container.notify("SampleFirst", 1, 2, 3), 0);
+    TwoPlugins host;
+    RecordingComponent listener(0);
+    host.container.registerComponent("a", 1, "RecordingFirst", &listener);
+    QCOMPARE(host.container.notify("RecordingFirst", 1, 2, 3), 0);
     QCOMPARE(listener.received.size(), 1);
-    QCOMPARE(host.events().size(), 2);
+    QCOMPARE(takeEvents(), QStringList());
+}
+
+void PluginContainerTest::notifiesNobody_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("lower case") << "recordingfirst";
+    QTest::newRow("component without INotify") << "Deaf";
+    QTest::newRow("empty") << QString();
 }
 
 void PluginContainerTest::notifiesNobody()
 {
-    RecordingContainer host;
-    QVERIFY(load(host));
-    QCOMPARE(host.container.notify("samplefirst", 1, 2, 3), -1);
-    QCOMPARE(host.container.notify("Recorder", 1, 2, 3), -1); // it has no INotify
-    QCOMPARE(host.container.notify(QString(), 1, 2, 3), -1);
-    QCOMPARE(host.events().size(), 2);
+    QFETCH(QString, name);
+    TwoPlugins host;
+    QObject deaf;
+    host.container.registerComponent("deaf", 1, "Deaf", &deaf);
+    QCOMPARE(host.container.notify(name, 1, 2, 3), -1);
+    QCOMPARE(takeEvents(), QStringList());
+}
+
+void PluginContainerTest::destroysAllBeforeAnyIsUnloaded_data()
+{
+    QTest::addColumn<int>("shutdowns");
+    QTest::newRow("by its destructor") << 0;
+    QTest::newRow("once") << 1;
+    QTest::newRow("asked twice") << 2;
 }
 
 void PluginContainerTest::destroysAllBeforeAnyIsUnloaded()
 {
-    RecordingContainer host;
-    QVERIFY(load(host));
-    host.container.shutdown();
-    QCOMPARE(host.events().mid(2),
-             QStringList() << "SampleSecond OnDestroy" << "SampleFirst OnDestroy"
-                           << "SampleSecond late" << "SampleFirst late"
-                           << "SampleSecond gone" << "SampleFirst gone");
-    QVERIFY(!isMapped(m_folder->file("SampleFirst")));
-    QVERIFY(!isMapped(m_folder->file("SampleSecond")));
-}
-
-void PluginContainerTest::shutsDownOnce()
-{
-    RecordingContainer host;
-    QVERIFY(load(host));
-    host.container.shutdown();
-    const QStringList events = host.events();
-    host.container.shutdown();
-    QCOMPARE(host.events(), events);
-    QCOMPARE(host.container.plugins().size(), 0);
-    QVERIFY(!host.container.GetPlugin(QLatin1String(firstId), 0));
-    QCOMPARE(host.container.notify("SampleFirst", 1, 2, 3), -1);
-    QCOMPARE(host.container.GetPlugin("recorder", 1) != nullptr, true);
-}
-
-void PluginContainerTest::destructorShutsDown()
-{
-    QObject recorder;
+    QFETCH(int, shutdowns);
+    const PluginFolder folder;
+    folder.add("RecordingFirst");
+    folder.add("RecordingSecond");
     {
         PluginContainer container;
         installPluginContainer(&container);
-        container.registerComponent("recorder", 1, QString(), &recorder);
-        container.loadFolder(m_folder->path());
+        container.loadFolder(folder.path());
+        takeEvents();
+        QVERIFY(isMapped(folder.file("RecordingFirst")));
+        for (int i = 0; i < shutdowns; ++i)
+            container.shutdown();
+        QCOMPARE(container.plugins().size(), shutdowns ? 0 : 2);
     }
-    const QStringList events = recorder.property("events").toStringList();
-    QCOMPARE(events.size(), 8);
-    QCOMPARE(events.last(), "SampleFirst gone");
+    QCOMPARE(takeEvents(), QStringList() << "RecordingSecond OnDestroy"
+                                         << "RecordingFirst OnDestroy"
+                                         << "RecordingSecond late"
+                                         << "RecordingFirst late"
+                                         << "RecordingSecond gone"
+                                         << "RecordingFirst gone");
+    QVERIFY(!isMapped(folder.file("RecordingFirst")));
+    QVERIFY(!isMapped(folder.file("RecordingSecond")));
+}
+
+void PluginContainerTest::findsOnlyComponentsAfterShutdown()
+{
+    TwoPlugins host;
+    QObject component;
+    host.container.registerComponent("component", 1, "Component", &component);
+    host.container.shutdown();
+    QVERIFY(!host.container.GetPlugin(firstId, 0));
+    QCOMPARE(host.container.notify("RecordingFirst", 1, 2, 3), -1);
+    QCOMPARE(host.container.GetPlugin("component", 1), &component);
 }
 
 REGISTER_TEST(PluginContainerTest)

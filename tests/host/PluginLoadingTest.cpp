@@ -7,10 +7,11 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QRegularExpression>
 
-#include "SampleFolder.h"
+#include "PluginFixture.h"
 #include "ProcessLimits.h"
+#include "RecordedEvents.h"
+#include "RecordingTrace.h"
 #include "Test.h"
 
 class PluginLoadingTest : public QObject
@@ -18,11 +19,13 @@ class PluginLoadingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+    void cleanup();
     void loadsInTheOrderOfNames();
     void refuses_data();
     void refuses();
     void refusesAPluginOfAnotherToolkit();
-    void refusesAnUnreadableFile();
+    void refusesWhatCannotBeRead();
     void refusesWhatHasAnIdentifierOfTheHost();
     void refusesAnotherNameOfALoadedFile_data();
     void refusesAnotherNameOfALoadedFile();
@@ -31,137 +34,148 @@ private Q_SLOTS:
     void refusesToWaitForAPipe();
     void passesOverOtherFolders();
     void destroysWhatCouldNotInit();
+
+private:
+    void compareRefusals(const QStringList& files, const QString& reason) const;
+    void compareRefusal(const QString& plugin, const QString& reason) const;
+    QByteArray makeFolder(const QString& plugin) const;
+
+    QScopedPointer<PluginFixture> m_host;
+    QScopedPointer<RecordingTrace> m_trace;
 };
 
 static const char firstId[] = "00000000-0000-0000-0000-00000000000A";
 
-/** Expects exactly one refusal, of this plug-in's file, and its line on the warning channel. */
-static void expectWarning(const SampleFolder& folder, const QString& name, const QString& reason)
+void PluginLoadingTest::init()
 {
-    const QString line = QString("Plug-in refused: %1: %2").arg(folder.file(name), reason);
-    const QString pattern = '^' + QRegularExpression::escape(line) + "[^\\n]*$";
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(pattern));
+    m_trace.reset(new RecordingTrace);
+    m_host.reset(new PluginFixture);
+}
+
+void PluginLoadingTest::cleanup()
+{
+    m_host.reset();
+    m_trace.reset();
+}
+
+/** Exactly these files were refused, in this order, each for a reason that begins so, with a line of warning each. */
+void PluginLoadingTest::compareRefusals(const QStringList& files, const QString& reason) const
+{
+    const QList<PluginContainer::Refusal> refusals = m_host->container.refusals();
+    QCOMPARE(refusals.size(), files.size());
+    QCOMPARE(m_trace->warningLines.size(), files.size());
+    for (int i = 0; i < files.size(); ++i) {
+        QCOMPARE(refusals.at(i).file, files.at(i));
+        QCOMPARE(refusals.at(i).reason.left(reason.size()), reason);
+        QVERIFY(!refusals.at(i).reason.contains('\n'));
+        QCOMPARE(m_trace->warningLines.at(i), "Plug-in refused: " + files.at(i) + ": " + refusals.at(i).reason);
+    }
+}
+
+void PluginLoadingTest::compareRefusal(const QString& plugin, const QString& reason) const
+{
+    compareRefusals(QStringList() << m_host->folder.file(plugin), reason);
+}
+
+/** Makes the folder of a plug-in, and answers where its library belongs. */
+QByteArray PluginLoadingTest::makeFolder(const QString& plugin) const
+{
+    QDir(m_host->folder.path()).mkdir(plugin);
+    return QFile::encodeName(m_host->folder.file(plugin));
 }
 
 void PluginLoadingTest::loadsInTheOrderOfNames()
 {
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleSecond"));
-    QVERIFY(folder.add("SampleFirst"));
-    RecordingContainer host;
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.loaded(), QStringList() << "SampleFirst" << "SampleSecond");
-    QCOMPARE(host.events(), QStringList() << "SampleFirst Init" << "SampleSecond Init");
-    QCOMPARE(host.container.refusals().size(), 0);
+    m_host->folder.add("RecordingSecond");
+    m_host->folder.add("RecordingFirst");
+    QCOMPARE(m_host->load(), QStringList() << "RecordingFirst"
+                                           << "RecordingSecond");
+    QCOMPARE(takeEvents(), QStringList() << "RecordingFirst Init"
+                                         << "RecordingSecond Init");
+    compareRefusals(QStringList(), QString());
 }
 
 void PluginLoadingTest::refuses_data()
 {
-    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
+    const QByteArray none;
     const QString notLoadable = "it is not a plug-in that can be loaded: ";
+    const QString used = "its class identifier is in use already: ";
     QTest::newRow("text file") << QString() << QByteArray("not a library\n") << notLoadable;
-    QTest::newRow("empty file") << QString() << QByteArray() << notLoadable;
-    QTest::newRow("library that is no plug-in") << "SamplePlain" << QByteArray() << notLoadable;
-    QTest::newRow("no IBasePlugin") << "SampleBare" << QByteArray()
-                                    << "the plug-in has no IBasePlugin";
-    QTest::newRow("identifier seen before")
-        << "SampleTwin" << QByteArray()
-        << "its class identifier is in use already: " + QLatin1String(firstId);
-    QTest::newRow("Init fails") << "SampleFailing" << QByteArray() << "its Init failed";
+    QTest::newRow("empty file") << QString() << none << notLoadable;
+    QTest::newRow("library that is no plug-in") << "FakeLibrary" << none << notLoadable;
+    QTest::newRow("no IBasePlugin") << "FakeForeign" << none << "the plug-in has no IBasePlugin";
+    QTest::newRow("identifier seen before") << "RecordingTwin" << none << used + firstId;
+    QTest::newRow("Init fails") << "RecordingFailing" << none << "its Init failed";
 }
 
 void PluginLoadingTest::refuses()
 {
-    QFETCH(QString, sample);
+    QFETCH(QString, plugin);
     QFETCH(QByteArray, bytes);
     QFETCH(QString, reason);
-    const SampleFolder folder;
-    const QString name = "SampleMiddle";
-    QVERIFY(folder.add("SampleFirst"));
-    QVERIFY(sample.isEmpty() ? folder.write(name, bytes) : folder.add(sample, name));
-    QVERIFY(folder.add("SampleSecond"));
+    const PluginFolder& folder = m_host->folder;
+    const QString name = "RecordingMiddle";
+    folder.add("RecordingFirst");
+    if (plugin.isEmpty())
+        folder.write(name, bytes);
+    else
+        folder.add(plugin, name);
+    folder.add("RecordingSecond");
 
-    RecordingContainer host;
-    expectWarning(folder, name, reason);
-    host.container.loadFolder(folder.path());
-
-    QCOMPARE(host.loaded(), QStringList() << "SampleFirst" << "SampleSecond");
-    const QList<PluginContainer::Refusal> refusals = host.container.refusals();
-    QCOMPARE(refusals.size(), 1);
-    QCOMPARE(refusals.first().file, folder.file(name));
-    QCOMPARE(refusals.first().reason.left(reason.size()), reason);
-    QVERIFY(!refusals.first().reason.contains('\n'));
+    QCOMPARE(m_host->load(), QStringList() << "RecordingFirst"
+                                           << "RecordingSecond");
+    compareRefusal(name, reason);
     QVERIFY(!isMapped(folder.file(name)));
-    QVERIFY(isMapped(folder.file("SampleFirst")));
+    QVERIFY(isMapped(folder.file("RecordingFirst")));
 }
 
 void PluginLoadingTest::refusesAPluginOfAnotherToolkit()
 {
-    // The metadata says for which major version the plug-in was built.
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleFirst"));
-    QFile library(folder.file("SampleFirst"));
-    QVERIFY(library.open(QIODevice::ReadWrite));
-    QByteArray bytes = library.readAll();
-#if QT_VERSION >= 0x060300
-    const QByteArray mark("qt-project!", 12);
-#else
-    const QByteArray mark("QTMETADATA !");
-#endif
-    const int major = bytes.indexOf(mark) + mark.size() + 1;
-    QCOMPARE(int(bytes.at(major)), QT_VERSION_MAJOR);
-    bytes[major] = QT_VERSION_MAJOR == 5 ? 6 : 5;
-    library.seek(0);
-    library.write(bytes);
-    library.close();
+    m_host->folder.add("RecordingFirst");
+    QFile library(m_host->folder.file("RecordingFirst"));
+    QVERIFY(library.open(QIODevice::ReadOnly));
+    const QByteArray later = builtForLaterToolkit(library.readAll());
+    QVERIFY(!later.isEmpty());
+    m_host->folder.write("RecordingFirst", later);
 
-    RecordingContainer host;
-    expectWarning(folder, "SampleFirst", "it is not a plug-in that can be loaded: ");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.container.plugins().size(), 0);
-    QCOMPARE(host.container.refusals().size(), 1);
-    QVERIFY2(host.container.refusals().first().reason.contains("incompatible Qt library"),
-             qPrintable(host.container.refusals().first().reason));
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusal("RecordingFirst", "it is not a plug-in that can be loaded: ");
+    const QString reason = m_host->container.refusals().first().reason;
+    QVERIFY2(reason.contains("incompatible Qt library"), qPrintable(reason));
 }
 
-void PluginLoadingTest::refusesAnUnreadableFile()
+void PluginLoadingTest::refusesWhatCannotBeRead()
 {
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleFirst"));
-    QVERIFY(folder.add("SampleSecond"));
-    QVERIFY(folder.write("SampleLocked", QByteArray()));
-    QVERIFY(QFile::setPermissions(folder.file("SampleFirst"), QFile::Permissions()));
-    const QString locked = folder.path() + "/SampleLocked";
-    QVERIFY(QFile::setPermissions(locked, QFile::Permissions()));
-
-    RecordingContainer host;
-    const QString reason = "the file cannot be read";
-    expectWarning(folder, "SampleFirst", reason);
-    expectWarning(folder, "SampleLocked", reason);
+    const PluginFolder& folder = m_host->folder;
+    folder.add("RecordingFirst");
+    folder.write("RecordingLocked", QByteArray());
+    folder.add("RecordingSecond");
+    const QString locked = QFileInfo(folder.file("RecordingLocked")).path();
+    QVERIFY(setMode(folder.file("RecordingFirst"), 0));
+    QVERIFY(setMode(locked, 0));
+    QStringList loaded;
     {
         const WithoutPrivileges user;
         QVERIFY(user.isBound());
-        host.container.loadFolder(folder.path());
+        loaded = m_host->load();
     }
-    QFile::setPermissions(locked, QFile::Permissions(0x7700)); // so that it can be cleared away
-    QCOMPARE(host.loaded(), QStringList() << "SampleSecond");
-    QCOMPARE(host.container.refusals().size(), 2);
-    QCOMPARE(host.container.refusals().first().reason, reason);
+    QVERIFY(setMode(locked, 0700)); // so that it can be cleared away
+    QCOMPARE(loaded, QStringList() << "RecordingSecond");
+    compareRefusals(QStringList() << folder.file("RecordingFirst") << folder.file("RecordingLocked"),
+                    "the file cannot be read");
 }
 
 void PluginLoadingTest::refusesWhatHasAnIdentifierOfTheHost()
 {
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleFirst"));
-    RecordingContainer host;
+    m_host->folder.add("RecordingFirst");
     QObject component;
-    host.container.registerComponent(QLatin1String(firstId), 8209, "Service", &component);
-    expectWarning(folder, "SampleFirst", "its class identifier is in use already: ");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.container.plugins().size(), 0);
-    QCOMPARE(host.events(), QStringList() << "SampleFirst gone");
+    m_host->container.registerComponent(firstId, 8209, "Service", &component);
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusal("RecordingFirst", "its class identifier is in use already: ");
+    QCOMPARE(takeEvents(), QStringList() << "RecordingFirst gone");
 }
 
 void PluginLoadingTest::refusesAnotherNameOfALoadedFile_data()
@@ -174,81 +188,61 @@ void PluginLoadingTest::refusesAnotherNameOfALoadedFile_data()
 void PluginLoadingTest::refusesAnotherNameOfALoadedFile()
 {
     QFETCH(bool, isHardLink);
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleFirst"));
-    QVERIFY(QDir(folder.path()).mkdir("SampleLink"));
-    const QByteArray from = folder.file("SampleFirst").toLocal8Bit();
-    const QByteArray to = folder.file("SampleLink").toLocal8Bit();
+    m_host->folder.add("RecordingFirst");
+    const QString first = m_host->folder.file("RecordingFirst");
+    const QByteArray from = QFile::encodeName(first);
+    const QByteArray to = makeFolder("RecordingLink");
     QCOMPARE(isHardLink ? link(from.constData(), to.constData()) : symlink(from.constData(), to.constData()), 0);
-    RecordingContainer host;
-    expectWarning(folder, "SampleLink", "this file is loaded already");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.loaded(), QStringList() << "SampleFirst");
-    host.container.shutdown();
-    QCOMPARE(host.events().last(), "SampleFirst gone");
-    QVERIFY(isHardLink || !isMapped(folder.file("SampleFirst")));
+    QCOMPARE(m_host->load(), QStringList() << "RecordingFirst");
+    compareRefusal("RecordingLink", "this file is loaded already");
+    m_host->container.shutdown();
+    QCOMPARE(takeEvents().last(), "RecordingFirst gone");
+    QVERIFY(isHardLink || !isMapped(first));
 }
 
 void PluginLoadingTest::refusesAFolderThatIsNotThere()
 {
-    RecordingContainer host;
     const QString folder = "/nonexistent/plugins";
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Plug-in refused: /nonexistent/plugins: "));
-    host.container.loadFolder(folder);
-    QCOMPARE(host.container.refusals().size(), 1);
-    QCOMPARE(host.container.refusals().first().file, folder);
+    m_host->container.loadFolder(folder);
+    compareRefusals(QStringList() << folder, QString());
 }
 
 void PluginLoadingTest::refusesALinkThatLeadsNowhere()
 {
-    const SampleFolder folder;
-    const QString name = "SampleLink";
-    QVERIFY(QDir(folder.path()).mkdir(name));
-    QCOMPARE(symlink("nonexistent", folder.file(name).toLocal8Bit().constData()), 0);
-    RecordingContainer host;
-    expectWarning(folder, name, "the file cannot be read");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.container.refusals().size(), 1);
+    QCOMPARE(symlink("nonexistent", makeFolder("RecordingLink").constData()), 0);
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusal("RecordingLink", "the file cannot be read");
 }
 
 void PluginLoadingTest::refusesToWaitForAPipe()
 {
-    const SampleFolder folder;
-    const QString name = "SamplePipe";
-    QVERIFY(QDir(folder.path()).mkdir(name));
-    QCOMPARE(mkfifo(folder.file(name).toLocal8Bit().constData(), 0600), 0);
-    RecordingContainer host;
-    expectWarning(folder, name, "it is not a regular file");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.container.refusals().size(), 1);
+    QCOMPARE(mkfifo(makeFolder("RecordingPipe").constData(), 0600), 0);
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusal("RecordingPipe", "it is not a regular file");
 }
 
 void PluginLoadingTest::passesOverOtherFolders()
 {
     // Neither a folder without a library of its name nor a library outside such a folder is a plug-in.
-    const SampleFolder folder;
-    QVERIFY(QDir(folder.path()).mkdir("Pictures"));
-    QVERIFY(folder.add("SampleFirst"));
-    QVERIFY(
-        QFile::copy(folder.file("SampleFirst"), folder.path() + "/libSampleOne.so"));
-    QVERIFY(QFile::rename(folder.file("SampleFirst"),
-                          folder.path() + "/SampleFirst/libOther.so"));
-    RecordingContainer host;
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.container.plugins().size(), 0);
-    QCOMPARE(host.container.refusals().size(), 0);
+    const PluginFolder& folder = m_host->folder;
+    makeFolder("Pictures");
+    folder.add("RecordingFirst");
+    const QString first = folder.file("RecordingFirst");
+    QVERIFY(QFile::copy(first, folder.path() + "/libRecordingOne.so"));
+    QVERIFY(QFile::rename(first, folder.path() + "/RecordingFirst/libOther.so"));
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusals(QStringList(), QString());
 }
 
 void PluginLoadingTest::destroysWhatCouldNotInit()
 {
-    const SampleFolder folder;
-    QVERIFY(folder.add("SampleFailing"));
-    RecordingContainer host;
-    expectWarning(folder, "SampleFailing", "its Init failed");
-    host.container.loadFolder(folder.path());
-    QCOMPARE(host.events(), QStringList()
-                                << "SampleFailing Init" << "SampleFailing OnDestroy"
-                                << "SampleFailing late" << "SampleFailing gone");
+    m_host->folder.add("RecordingFailing");
+    QCOMPARE(m_host->load(), QStringList());
+    compareRefusal("RecordingFailing", "its Init failed");
+    QCOMPARE(takeEvents(), QStringList() << "RecordingFailing Init"
+                                         << "RecordingFailing OnDestroy"
+                                         << "RecordingFailing late"
+                                         << "RecordingFailing gone");
 }
 
 REGISTER_TEST(PluginLoadingTest)

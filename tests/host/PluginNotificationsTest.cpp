@@ -5,7 +5,7 @@
 
 #include <QLoggingCategory>
 
-#include "PlayedContainer.h"
+#include "FakePlugins.h"
 #include "PluginNotifications.h"
 #include "RecordingTrace.h"
 #include "Test.h"
@@ -17,9 +17,6 @@ class PluginNotificationsTest : public QObject
 private Q_SLOTS:
     void tells_data();
     void tells();
-    void tellsTheLanguageFirst();
-    void writesOneLine_data();
-    void writesOneLine();
     void writesALineWithoutPlugins();
     void keepsTheConnectionsLogToTheConnection();
 };
@@ -36,58 +33,37 @@ static void tell(const QString& what, const PluginContainer& container)
 
 void PluginNotificationsTest::tells_data()
 {
-    QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("code");
-    QTest::newRow("started") << "started" << "258 0 0";
-    QTest::newRow("up") << "up" << "1536 0 0";
-    QTest::newRow("down") << "down" << "1536 0 0";
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("started") << "258"
+                             << "the program has started";
+    QTest::newRow("up") << "1536"
+                        << "connection up: because";
+    QTest::newRow("down") << "1536"
+                          << "connection down: because";
+    QTest::newRow("language") << "1024"
+                              << "language pt_BR";
 }
 
+/** Everyone in order, the language before its notification, and one line that says so. */
 void PluginNotificationsTest::tells()
 {
-    QFETCH(QString, what);
     QFETCH(QString, code);
-    PlayedContainer plugins;
-    tell(what, plugins.container());
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"PlayedFirst Notify " + code,
-                                                      "PlayedSecond Notify " + code}));
-    QCOMPARE(plugins.eventsOfThird().constLast(), "SampleFirst " + code);
-}
-
-void PluginNotificationsTest::tellsTheLanguageFirst()
-{
-    PlayedContainer plugins;
-    tell("language", plugins.container());
-    QCOMPARE(
-        PlayedPlugin::takeEvents(),
-        QStringList({"PlayedFirst ChangeLang pt_BR", "PlayedSecond ChangeLang pt_BR",
-                     "PlayedFirst Notify 1024 0 0", "PlayedSecond Notify 1024 0 0"}));
-    QCOMPARE(plugins.eventsOfThird().constLast(), "SampleFirst 1024 0 0");
-}
-
-void PluginNotificationsTest::writesOneLine_data()
-{
-    QTest::addColumn<QString>("what");
-    QTest::addColumn<QString>("beginning");
-    QTest::newRow("started") << "started"
-                             << "notification 258 sent (the program has started)";
-    QTest::newRow("up") << "up" << "notification 1536 sent (connection up: because)";
-    QTest::newRow("down") << "down"
-                          << "notification 1536 sent (connection down: because)";
-    QTest::newRow("language") << "language"
-                              << "notification 1024 sent (language pt_BR)";
-}
-
-void PluginNotificationsTest::writesOneLine()
-{
-    QFETCH(QString, what);
-    QFETCH(QString, beginning);
-    PlayedContainer plugins;
+    QFETCH(QString, reason);
+    const QString what = QTest::currentDataTag();
+    FakePlugins plugins;
     plugins.first()->setProperty("answer", -1);
     const RecordingTrace trace;
-    tell(what, plugins.container());
-    QCOMPARE(trace.infoLines,
-             QStringList(beginning + "; answers: PlayedFirst -1, PlayedSecond 0, SampleFirst 7"));
+    tell(what, plugins.container);
+    QStringList events;
+    if (what == "language")
+        events << "FakeFirst ChangeLang pt_BR"
+               << "FakeSecond ChangeLang pt_BR";
+    for (const char* plugin : {"FakeFirst", "FakeSecond", "RecordingFirst"})
+        events << QString("%1 Notify %2 0 0").arg(plugin, code);
+    QCOMPARE(takeEvents(), events);
+    QCOMPARE(trace.infoLines, QStringList("notification " + code + " sent (" + reason +
+                                          "); answers: FakeFirst -1, FakeSecond 0, RecordingFirst 7"));
 }
 
 void PluginNotificationsTest::writesALineWithoutPlugins()
@@ -95,8 +71,7 @@ void PluginNotificationsTest::writesALineWithoutPlugins()
     const PluginContainer none;
     const RecordingTrace trace;
     PluginNotifications::tellStarted(none);
-    QCOMPARE(trace.infoLines,
-             QStringList("notification 258 sent (the program has started); answers: none"));
+    QCOMPARE(trace.infoLines, QStringList("notification 258 sent (the program has started); answers: none"));
 }
 
 void PluginNotificationsTest::keepsTheConnectionsLogToTheConnection()
@@ -104,9 +79,9 @@ void PluginNotificationsTest::keepsTheConnectionsLogToTheConnection()
     const PluginContainer none;
     const RecordingTrace trace;
     for (const char* const log : {"connection", "plugins"}) {
-        QLoggingCategory::setFilterRules(QString("vellum.*=false\nvellum.%1=true").arg(QLatin1String(log)));
+        QLoggingCategory::setFilterRules(QString("vellum.*=false\nvellum.%1=true").arg(log));
         for (const char* const what : {"started", "language", "up"})
-            tell(QLatin1String(what), none);
+            tell(what, none);
     }
     QLoggingCategory::setFilterRules(QString());
     QStringList codes;

@@ -8,9 +8,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "FakePlugin.h"
 #include "FakeTranslator.h"
 #include "PageArea.h"
-#include "PlayedPlugin.h"
 #include "SettingsDialog.h"
 #include "Test.h"
 
@@ -29,12 +29,10 @@ private Q_SLOTS:
     void leavesAPageForAnother();
     void growsToThePage();
     void givesThePageTheWholeArea();
+    void closesWhenAllAgree_data() { addWaysToClose(); }
     void closesWhenAllAgree();
+    void staysForOneThatDoesNot_data() { addWaysToClose(); }
     void staysForOneThatDoesNot();
-    void cancels_data() { addWaysToCancel(); }
-    void cancels();
-    void staysForOneThatDoesNotCancel_data() { addWaysToCancel(); }
-    void staysForOneThatDoesNotCancel();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
     void followsTheLanguage();
@@ -44,24 +42,24 @@ private:
     void make(Plugin*... plugin);
     void open();
     void press(QDialogButtonBox::StandardButton button);
-    static void addWaysToCancel();
-    void cancel(const QString& by);
+    static void addWaysToClose();
+    void closeBy(const QString& way);
     QListWidget* list() const { return m_dialog->findChild<QListWidget*>(); }
     QStringList captions() const;
     QString shownPage() const;
 
-    std::unique_ptr<PlayedPlugin> m_mail, m_links, m_silent;
+    std::unique_ptr<FakePlugin> m_mail, m_links, m_silent;
     std::unique_ptr<SettingsDialog> m_dialog;
 };
 
 void SettingsDialogTest::init()
 {
-    m_mail = std::make_unique<PlayedPlugin>("Mail");
+    m_mail = std::make_unique<FakePlugin>("Mail");
     m_mail->setProperty("caption", "My Mail");
-    m_links = std::make_unique<PlayedPlugin>("Links");
+    m_links = std::make_unique<FakePlugin>("Links");
     m_links->setProperty("caption", "My Links");
-    m_silent = std::make_unique<PlayedPlugin>("Silent");
-    PlayedPlugin::takeEvents();
+    m_silent = std::make_unique<FakePlugin>("Silent");
+    takeEvents();
 }
 
 void SettingsDialogTest::cleanup()
@@ -86,7 +84,7 @@ void SettingsDialogTest::open()
     make(m_mail.get(), m_links.get());
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-    PlayedPlugin::takeEvents();
+    takeEvents();
 }
 
 void SettingsDialogTest::press(QDialogButtonBox::StandardButton button)
@@ -122,18 +120,17 @@ void SettingsDialogTest::listsPluginsWithACaption()
     QCOMPARE(m_dialog->windowTitle(), "Settings");
     QCOMPARE(list()->accessibleName(), "Pages");
     // Pages are built when they are seen.
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void SettingsDialogTest::leavesOutInactivePages()
 {
     m_mail->setProperty("isInactive", true);
     make(m_mail.get(), m_links.get());
-    QCOMPARE(captions(), QStringList(QStringLiteral("My Links")));
+    QCOMPARE(captions(), QStringList("My Links"));
     m_dialog->show();
     press(QDialogButtonBox::Ok);
-    QCOMPARE(PlayedPlugin::takeEvents(),
-             QStringList({QStringLiteral("Links shown"), QStringLiteral("Links OK"), QStringLiteral("Links hidden")}));
+    QCOMPARE(takeEvents(), QStringList({"Links shown", "Links OK", "Links hidden"}));
 }
 
 void SettingsDialogTest::saysThatThereAreNoPages()
@@ -152,14 +149,14 @@ void SettingsDialogTest::saysThatThereAreNoPages()
     QCOMPARE(texts, QStringList("None of the loaded plug-ins has settings."));
     press(QDialogButtonBox::Ok);
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList());
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void SettingsDialogTest::showsTheFirstPage()
 {
     make(m_mail.get(), m_links.get());
     m_dialog->show();
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList("Mail shown"));
+    QCOMPARE(takeEvents(), QStringList("Mail shown"));
     QCOMPARE(list()->currentRow(), 0);
     QCOMPARE(shownPage(), "Mail");
     for (const QLabel* label : m_dialog->findChildren<QLabel*>())
@@ -170,10 +167,10 @@ void SettingsDialogTest::leavesAPageForAnother()
 {
     open();
     list()->setCurrentRow(1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Links shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Links shown"}));
     QCOMPARE(shownPage(), "Links");
     list()->setCurrentRow(0);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Links hidden", "Mail shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Links hidden", "Mail shown"}));
     QCOMPARE(shownPage(), "Mail");
 }
 
@@ -202,73 +199,50 @@ void SettingsDialogTest::givesThePageTheWholeArea()
     QVERIFY(page->width() >= 400 + 60);
 }
 
+void SettingsDialogTest::addWaysToClose()
+{
+    QTest::addColumn<QString>("event");
+    QTest::newRow("OK") << "OK";
+    for (const char* way : {"Cancel", "Escape", "close button"})
+        QTest::newRow(way) << "Cancel";
+}
+
+void SettingsDialogTest::closeBy(const QString& way)
+{
+    if (way == "Escape")
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    else if (way == "close button")
+        m_dialog->close();
+    else
+        press(way == "OK" ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+}
+
 void SettingsDialogTest::closesWhenAllAgree()
 {
+    QFETCH(QString, event);
+    const bool isOk = event == "OK";
     open();
-    press(QDialogButtonBox::Ok);
-    QCOMPARE(PlayedPlugin::takeEvents(),
-             QStringList({"Mail OK", "Links OK", "Mail hidden"}));
+    closeBy(QTest::currentDataTag());
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(m_dialog->result(), int(isOk ? QDialog::Accepted : QDialog::Rejected));
+    QCOMPARE(takeEvents(),
+             QStringList({"Mail " + event, "Links " + event}) + (isOk ? QStringList("Mail hidden") : QStringList()));
 }
 
 void SettingsDialogTest::staysForOneThatDoesNot()
 {
+    QFETCH(QString, event);
     open();
     m_links->setProperty("refuses", true);
-    press(QDialogButtonBox::Ok);
+    closeBy(QTest::currentDataTag());
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail OK", "Links OK",
-                                                      "Mail hidden", "Links shown"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail " + event, "Links " + event, "Mail hidden", "Links shown"}));
     m_links->setProperty("refuses", false);
-    press(QDialogButtonBox::Ok);
+    closeBy(QTest::currentDataTag());
     QVERIFY(!m_dialog->isVisible());
-}
-
-void SettingsDialogTest::addWaysToCancel()
-{
-    QTest::addColumn<QString>("by");
-    for (const char* way : {"button", "Escape", "close button"})
-        QTest::newRow(way) << QString::fromLatin1(way);
-}
-
-void SettingsDialogTest::cancel(const QString& by)
-{
-    if (by == "Escape")
-        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    else if (by == "close button")
-        m_dialog->close();
-    else
-        press(QDialogButtonBox::Cancel);
-}
-
-void SettingsDialogTest::cancels()
-{
-    QFETCH(QString, by);
-    open();
-    cancel(by);
-    QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail Cancel", "Links Cancel"}));
-}
-
-void SettingsDialogTest::staysForOneThatDoesNotCancel()
-{
-    QFETCH(QString, by);
-    open();
-    m_links->setProperty("refuses", true);
-    cancel(by);
-    QVERIFY(m_dialog->isVisible());
-    QCOMPARE(shownPage(), QStringLiteral("Links"));
-    QCOMPARE(list()->currentRow(), 1);
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({QStringLiteral("Mail Cancel"), QStringLiteral("Links Cancel"),
-                                                      QStringLiteral("Mail hidden"), QStringLiteral("Links shown")}));
-    m_links->setProperty("refuses", false);
-    cancel(by);
-    QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    QCOMPARE(m_dialog->result(), int(event == "OK" ? QDialog::Accepted : QDialog::Rejected));
 }
 
 void SettingsDialogTest::showsNoPageOfAPluginWithout()
@@ -289,7 +263,7 @@ void SettingsDialogTest::asksNothingOfAPluginThatIsGone()
     QCOMPARE(shownPage(), QString());
     press(QDialogButtonBox::Ok);
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(PlayedPlugin::takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
+    QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
 }
 
 void SettingsDialogTest::followsTheLanguage()

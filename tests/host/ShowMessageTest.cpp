@@ -3,36 +3,15 @@
 
 // The modal message: what it shows, and what it answers however it ends.
 
-#include <QAccessible>
-#include <QAccessibleInterface>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
-#include <QTranslator>
 
 #include "CommonUtils.h"
+#include "FakeTranslator.h"
 #include "MessageOnScreen.h"
 #include "Test.h"
-
-/** Knows IDS_OK in some contexts. The text is the context's name. */
-class OkText : public QTranslator
-{
-public:
-    explicit OkText(const QStringList& contexts)
-        : m_contexts(contexts)
-    {
-    }
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* key, const char*, int) const override
-    {
-        const QString name = QString::fromLatin1(context);
-        return m_contexts.contains(name) && QByteArray(key) == "IDS_OK" ? name : QString();
-    }
-
-private:
-    QStringList m_contexts;
-};
 
 /** How the user, or somebody else, ends the message. */
 enum class Ending { First, Second, Third, Escape, Close, Return, Reject, ParentDeleted };
@@ -62,9 +41,8 @@ private Q_SLOTS:
 static int show(QWidget* parent, const QString& first, const QString& second, const QString& third,
                 QDialog** dialogOut = nullptr, const QString& details = QString(), bool closable = true)
 {
-    return CommonUtils::ShowMessage(QMessageBox::Question, parent, "Title", "Text",
-                                    first, second, third, false, Qt::WindowCloseButtonHint, dialogOut, details,
-                                    closable);
+    return CommonUtils::ShowMessage(QMessageBox::Question, parent, "Title", "Text", first, second, third, false,
+                                    Qt::WindowCloseButtonHint, dialogOut, details, closable);
 }
 
 static void end(QMessageBox* box, Ending ending, QWidget* parent)
@@ -95,26 +73,26 @@ void ShowMessageTest::answers_data()
     QTest::addColumn<int>("buttons");
     QTest::addColumn<Ending>("ending");
     QTest::addColumn<int>("expected");
-    const int ok = QMessageBox::Ok, cancel = QMessageBox::Cancel, ignore = QMessageBox::Ignore;
-    QTest::newRow("1: first") << 1 << Ending::First << ok;
-    QTest::newRow("1: Escape") << 1 << Ending::Escape << ok;
-    QTest::newRow("1: closed") << 1 << Ending::Close << ok;
-    QTest::newRow("1: Return") << 1 << Ending::Return << ok;
-    QTest::newRow("1: dismissed by the caller") << 1 << Ending::Reject << ok;
-    QTest::newRow("1: parent deleted") << 1 << Ending::ParentDeleted << ok;
-    QTest::newRow("2: first") << 2 << Ending::First << ok;
-    QTest::newRow("2: second") << 2 << Ending::Second << cancel;
-    QTest::newRow("2: Escape") << 2 << Ending::Escape << cancel;
-    QTest::newRow("2: closed") << 2 << Ending::Close << cancel;
-    QTest::newRow("2: Return") << 2 << Ending::Return << ok;
-    QTest::newRow("2: dismissed by the caller") << 2 << Ending::Reject << cancel;
-    QTest::newRow("2: parent deleted") << 2 << Ending::ParentDeleted << cancel;
-    QTest::newRow("3: first") << 3 << Ending::First << ok;
-    QTest::newRow("3: second") << 3 << Ending::Second << cancel;
-    QTest::newRow("3: third") << 3 << Ending::Third << ignore;
-    QTest::newRow("3: Escape") << 3 << Ending::Escape << cancel;
-    QTest::newRow("3: closed") << 3 << Ending::Close << cancel;
-    QTest::newRow("3: Return") << 3 << Ending::Return << ok;
+    struct {
+        const char* name;
+        Ending ending;
+        int buttons;                             ///< from this number on
+        QMessageBox::StandardButton alone, with; ///< answer of one button, of more
+    } const endings[] = {
+        {"first", Ending::First, 1, QMessageBox::Ok, QMessageBox::Ok},
+        {"second", Ending::Second, 2, QMessageBox::NoButton, QMessageBox::Cancel},
+        {"third", Ending::Third, 3, QMessageBox::NoButton, QMessageBox::Ignore},
+        {"Escape", Ending::Escape, 1, QMessageBox::Ok, QMessageBox::Cancel},
+        {"closed", Ending::Close, 1, QMessageBox::Ok, QMessageBox::Cancel},
+        {"Return", Ending::Return, 1, QMessageBox::Ok, QMessageBox::Ok},
+        {"dismissed by the caller", Ending::Reject, 1, QMessageBox::Ok, QMessageBox::Cancel},
+        {"parent deleted", Ending::ParentDeleted, 1, QMessageBox::Ok, QMessageBox::Cancel},
+    };
+    for (const auto& row : endings) {
+        for (int buttons = row.buttons; buttons <= 3; ++buttons)
+            QTest::newRow(qPrintable(QString("%1: %2").arg(buttons).arg(row.name)))
+                << buttons << row.ending << int(buttons == 1 ? row.alone : row.with);
+    }
 }
 
 void ShowMessageTest::answers()
@@ -134,9 +112,7 @@ void ShowMessageTest::answers()
         end(box, ending, parent);
     });
     const QString none;
-    QCOMPARE(show(parent, "A", buttons > 1 ? "B" : none,
-                  buttons > 2 ? "C" : none, &shown),
-             expected);
+    QCOMPARE(show(parent, "A", buttons > 1 ? "B" : none, buttons > 2 ? "C" : none, &shown), expected);
     QCOMPARE(count, buttons);
     QVERIFY(wasHandedOut);
     QVERIFY(!shown);
@@ -228,8 +204,8 @@ void ShowMessageTest::showsMarkupAsItStands()
         }
         box->close();
     });
-    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), text, "A", QString(),
-                             QString(), true, Qt::WindowFlags(), nullptr, QString(), true);
+    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, QString(), text, "A", QString(), QString(), true,
+                             Qt::WindowFlags(), nullptr, QString(), true);
     QCOMPARE(format, Qt::PlainText);
     QCOMPARE(shownText, text);
 }
@@ -237,33 +213,33 @@ void ShowMessageTest::showsMarkupAsItStands()
 void ShowMessageTest::showsDetails()
 {
     QString details;
-    int answer = 0;
     whenMessageShows([&](QMessageBox* box) {
         details = box->findChild<QTextEdit*>()->toPlainText();
         QTest::keyClick(box, Qt::Key_Escape);
     });
-    answer = show(nullptr, "A", QString(), QString(), nullptr, "<i>More</i>");
+    QCOMPARE(show(nullptr, "A", QString(), QString(), nullptr, "<i>More</i>"), int(QMessageBox::Ok));
     QCOMPARE(details, "<i>More</i>");
-    QCOMPARE(answer, int(QMessageBox::Ok));
 }
 
 void ShowMessageTest::translatesBareKeys_data()
 {
     QTest::addColumn<QStringList>("contexts");
     QTest::addColumn<QString>("text");
-    const QString host = QStringLiteral("CommonUtils"), plugin = QStringLiteral("QuickLinkUIPlugin");
-    QTest::newRow("the host's, for whichever plug-in asks") << QStringList{host} << host;
-    QTest::newRow("the quick links' own") << QStringList{plugin} << plugin;
-    QTest::newRow("both") << QStringList{plugin, host} << host;
-    QTest::newRow("nobody's") << QStringList() << QStringLiteral("IDS_OK");
+    const QString host = "CommonUtils", plugin = "QuickLinkUIPlugin";
+    QTest::newRow("the host's, for whichever plug-in asks") << QStringList(host) << host;
+    QTest::newRow("the quick links' own") << QStringList(plugin) << plugin;
+    QTest::newRow("both") << (QStringList(plugin) << host) << host;
+    QTest::newRow("nobody's") << QStringList() << "IDS_OK";
 }
 
 void ShowMessageTest::translatesBareKeys()
 {
     QFETCH(QStringList, contexts);
     QFETCH(QString, text);
-    OkText translator(contexts);
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    // Knows IDS_OK in these contexts, as the context's name.
+    const FakeTranslator translator([contexts](const QByteArray& context, const QByteArray& key) {
+        return contexts.contains(context) && key == "IDS_OK" ? QString(context) : QString();
+    });
     QStringList texts;
     whenMessageShows([&](QMessageBox* box) {
         texts << box->button(QMessageBox::Ok)->text() << box->button(QMessageBox::Cancel)->text();
@@ -277,9 +253,8 @@ void ShowMessageTest::isReadableByAScreenReader()
 {
     QString name, description;
     whenMessageShows([&](QMessageBox* box) {
-        QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(box);
-        name = accessible->text(QAccessible::Name);
-        description = accessible->text(QAccessible::Description);
+        name = accessibleText(box, QAccessible::Name);
+        description = accessibleText(box, QAccessible::Description);
         box->close();
     });
     show(nullptr, "A", QString(), QString());

@@ -6,8 +6,8 @@
 #include <QDir>
 
 #include "CommonUtils.h"
-#include "UserFolder.h"
 #include "Test.h"
+#include "UserFolder.h"
 
 class UserFolderTest : public QObject
 {
@@ -58,8 +58,10 @@ void UserFolderTest::keepsTheChosenPath_data()
 {
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("absolute") << "/srv/x" << "/srv/x";
-    QTest::newRow("slashes at the end") << "/srv/x//" << "/srv/x";
+    QTest::newRow("absolute") << "/srv/x"
+                              << "/srv/x";
+    QTest::newRow("slashes at the end") << "/srv/x//"
+                                        << "/srv/x";
     QTest::newRow("root") << "/" << QString();
     QTest::newRow("relative") << "x/" << QDir::current().absoluteFilePath("x");
     QTest::newRow("current folder") << "." << QDir::currentPath();

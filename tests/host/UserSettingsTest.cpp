@@ -6,11 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "ProcessLimits.h"
 #include "RecordingTrace.h"
+#include "Test.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
-#include "ProcessLimits.h"
-#include "Test.h"
 
 class UserSettingsTest : public QObject
 {
@@ -24,6 +24,8 @@ private Q_SLOTS:
     void warnsWhenItCannotBeKept();
 };
 
+namespace
+{
 /** A folder of the user that goes with it. */
 class OwnFolder
 {
@@ -36,6 +38,7 @@ public:
 private:
     QTemporaryDir m_folder;
 };
+} // namespace
 
 void UserSettingsTest::keepsTheLanguage_data()
 {

@@ -39,7 +39,7 @@ void ProgramLanguageTest::speaks_data()
                                      {"fr_CA", "fr"}, {"hi_IN", "hi"}, {"pt_BR", "pt"},        {"pt_PT", "pt"},
                                      {"zh", "zh_CN"}, {"ru_RU", "ru"}, {"zh_Hans_CN", "zh_CN"}};
     for (const char* const* other : others)
-        QTest::newRow(other[0]) << QString::fromLatin1(other[0]) << QString::fromLatin1(other[1]);
+        QTest::newRow(other[0]) << other[0] << other[1];
 }
 
 void ProgramLanguageTest::speaks()

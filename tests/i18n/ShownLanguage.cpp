@@ -10,8 +10,7 @@
 
 ShownLanguage::ShownLanguage(const QString& language)
 {
-    if (m_toolkit.load(QLocale(language), "qtbase", "_",
-                       Places::toolkitTranslationFolder()))
+    if (m_toolkit.load(QLocale(language), "qtbase", "_", Places::toolkitTranslationFolder()))
         QCoreApplication::installTranslator(&m_toolkit);
     m_isKnown = m_texts.load("vellumconnect_" + language, QString(TRANSLATIONS));
     if (m_isKnown)

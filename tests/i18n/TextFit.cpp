@@ -47,7 +47,7 @@ QString nameOf(const QWidget* widget)
         if (!name.isEmpty() && !name.startsWith("qt_"))
             return name;
     }
-    return QString::fromLatin1(widget->metaObject()->className());
+    return widget->metaObject()->className();
 }
 
 /** The rows of pixels in which an image has more ink than another one. */

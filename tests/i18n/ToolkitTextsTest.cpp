@@ -47,7 +47,7 @@ void ToolkitTextsTest::areTranslated()
     QVERIFY(shown.isKnown());
     for (const auto& text : distinctTexts) {
         const QString translation = QCoreApplication::translate(text.context, text.source);
-        const bool isEnglish = translation == QLatin1String(text.source);
+        const bool isEnglish = translation == text.source;
         QVERIFY2(isEnglish == (language == "en"), qPrintable(translation));
     }
 }
@@ -93,7 +93,7 @@ void ToolkitTextsTest::areCompleteWhereTheToolkitHasNone()
         QVERIFY2(!german.translate(context.constData(), source.constData()).isEmpty(), qPrintable(text.id()));
     }
     for (const auto& text : distinctTexts) {
-        const QString id = QLatin1String(text.context) + ": " + QLatin1String(text.source);
+        const QString id = QLatin1String(text.context) + ": " + text.source;
         QVERIFY2(ids.contains(id), qPrintable(id));
     }
 }

@@ -11,8 +11,8 @@
 #include "Catalogue.h"
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
-#include "TextFit.h"
 #include "Test.h"
+#include "TextFit.h"
 
 class WidthsTest : public QObject
 {
@@ -78,7 +78,7 @@ void WidthsTest::dialogShowsItsTexts_data()
     const QStringList languages = catalogueLanguages();
     for (const QString& language : languages) {
         for (int type = 0; type < 3; ++type)
-            QTest::newRow(qPrintable(language + ", " + QLatin1String(types[type]))) << language << type;
+            QTest::newRow(qPrintable(language + ", " + types[type])) << language << type;
     }
 }
 

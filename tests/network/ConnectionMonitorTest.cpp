@@ -43,9 +43,8 @@ void ConnectionMonitorTest::init()
     m_made = std::make_unique<FakeSource>();
     m_source = m_made.get();
     m_monitor = std::make_unique<ConnectionMonitor>();
-    connect(m_monitor.get(), &ConnectionMonitor::announced, this, [this](bool isUp, const QString& reason) {
-        m_told.append((isUp ? "UP " : "DOWN ") + reason);
-    });
+    connect(m_monitor.get(), &ConnectionMonitor::announced, this,
+            [this](bool isUp, const QString& reason) { m_told.append((isUp ? "UP " : "DOWN ") + reason); });
 }
 
 void ConnectionMonitorTest::cleanup()

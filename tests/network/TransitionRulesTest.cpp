@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-
 #include "TransitionRules.h"
 #include "Test.h"
 
@@ -19,6 +18,8 @@ private Q_SLOTS:
     void isSilentWhenNothingChanges();
 };
 
+namespace
+{
 /** Plays events against the rules, calling timePassed() exactly at each deadline; what was told, and when. */
 class Play
 {
@@ -85,14 +86,13 @@ private:
         if (decision.announcement == TransitionRules::Announcement::None)
             return;
         const bool isUp = decision.announcement == TransitionRules::Announcement::Up;
-        told.append(QString("%1 %2")
-                        .arg(double(m_now) / 1000, 0, 'g', 12)
-                        .arg(isUp ? "up" : "down"));
+        told.append(QString("%1 %2").arg(double(m_now) / 1000, 0, 'g', 12).arg(isUp ? "up" : "down"));
     }
 
     TransitionRules m_rules;
     qint64 m_now = 0;
 };
+} // namespace
 
 static Play play(const QString& events)
 {
@@ -136,23 +136,19 @@ void TransitionRulesTest::table()
 void TransitionRulesTest::saysWhyForEveryAnnouncement()
 {
     const Play all = play("0 down, 1 up a limited, 12 down, 30 up a portal, 40 up b, 50 down, "
-                                         "60 up b");
-    QCOMPARE(all.reasons, QStringList({"up, waiting to be in the Internet",
-                                       "up, but not in the Internet within 10 s",
-                                       "down, waiting whether it comes back", "down",
-                                       "up, and a portal wants a login",
-                                       "another connection took over",
-                                       "down, waiting whether it comes back", "down",
+                          "60 up b");
+    QCOMPARE(all.reasons, QStringList({"up, waiting to be in the Internet", "up, but not in the Internet within 10 s",
+                                       "down, waiting whether it comes back", "down", "up, and a portal wants a login",
+                                       "another connection took over", "down, waiting whether it comes back", "down",
                                        "up and in the Internet"}));
 }
 
 void TransitionRulesTest::isSilentWhenNothingChanges()
 {
     const Play all = play("0 down, 0.5 down, 1 up a limited, 1.1 up a limited, 1.2 up a unknown, "
-                                         "2 up a, 2.1 up a, 2.2 up a portal, 3 down, 3.1 down");
-    QCOMPARE(all.reasons,
-             QStringList({"up, waiting to be in the Internet", "up and in the Internet",
-                          "down, waiting whether it comes back"}));
+                          "2 up a, 2.1 up a, 2.2 up a portal, 3 down, 3.1 down");
+    QCOMPARE(all.reasons, QStringList({"up, waiting to be in the Internet", "up and in the Internet",
+                                       "down, waiting whether it comes back"}));
 }
 
 REGISTER_TEST(TransitionRulesTest)

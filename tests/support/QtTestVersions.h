@@ -13,6 +13,18 @@ const bool isNameTold = QT_VERSION >= 0x050000;
 #if QT_VERSION < 0x050000
 #include <QWidget>
 
+bool qt_tryModalHelper(QWidget* window, QWidget** top); // of the toolkit, which does not declare it
+
+namespace QTest
+{
+/** Qt 5 also deletes what is to be deleted later. */
+inline void waitShortly()
+{
+    qWait(20);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+} // namespace QTest
+
 #undef QSKIP
 #define QSKIP(reason)                                                                                                  \
     do {                                                                                                               \
@@ -23,14 +35,14 @@ const bool isNameTold = QT_VERSION >= 0x050000;
 #define QTRY_VERIFY(condition)                                                                                         \
     do {                                                                                                               \
         for (int waited = 0; waited < 5000 && !(condition); waited += 20)                                              \
-            QTest::qWait(20);                                                                                          \
+            QTest::waitShortly();                                                                                      \
         QVERIFY(condition);                                                                                            \
     } while (false)
 
 #define QTRY_COMPARE(actual, expected)                                                                                 \
     do {                                                                                                               \
         for (int waited = 0; waited < 5000 && !((actual) == (expected)); waited += 20)                                 \
-            QTest::qWait(20);                                                                                          \
+            QTest::waitShortly();                                                                                      \
         QCOMPARE(actual, expected);                                                                                    \
     } while (false)
 
@@ -52,5 +64,30 @@ inline bool qWaitForWindowExposed(QWidget* window)
 {
     return qWaitForWindowShown(window);
 }
+
+template <class Condition>
+bool qWaitFor(Condition condition, int limit = 5000)
+{
+    for (int waited = 0; waited < limit && !condition(); waited += 20)
+        waitShortly();
+    return condition();
+}
 } // namespace QTest
+
+/** Clicks as the window system would, which does not reach a window blocked by a modal one. */
+inline void clickThroughWindow(QWidget* widget)
+{
+    if (qt_tryModalHelper(widget->window(), nullptr))
+        QTest::mouseClick(widget, Qt::LeftButton);
+}
+#else
+#include <QWidget>
+#include <QWindow>
+
+inline void clickThroughWindow(QWidget* widget)
+{
+    QWidget* const window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget->mapTo(window, widget->rect().center()));
+}
 #endif

@@ -11,11 +11,15 @@
 #if QT_VERSION < 0x050000
 #include <cstdlib>
 
+#include <QAccessible>
+#include <QApplication>
 #include <QByteArray>
+#include <QDesktopWidget>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaMethod>
+#include <QScopedPointer>
 #include <QString>
 #include <QStyleOptionViewItemV4>
 #include <QtPlugin>
@@ -68,6 +72,9 @@ inline QString codePoint(uint code)
     return QString::fromUcs4(&code, 1);
 }
 
+/** The number with which a translator chooses the plural, where it is told. */
+#define TRANSLATED_NUMBER
+
 inline bool qunsetenv(const char* name)
 {
     return unsetenv(name) == 0;
@@ -95,6 +102,29 @@ const bool saysParentGoneFirst = false;
 
 /** What the meta-object says of the access of every signal. */
 const QMetaMethod::Access signalAccess = QMetaMethod::Protected;
+
+/** What a screen reader hears of a widget. */
+inline QString accessibleText(QWidget* widget, QAccessible::Text text)
+{
+    return QScopedPointer<QAccessibleInterface>(QAccessible::queryAccessibleInterface(widget))->text(text, 0);
+}
+
+/** What windows may cover of the widget's screen. */
+inline QRect screenArea(const QWidget* widget)
+{
+    return QApplication::desktop()->availableGeometry(widget);
+}
+
+/** A plug-in's library as a later toolkit would have built it; empty when it does not say for which it was built. */
+inline QByteArray builtForLaterToolkit(QByteArray library)
+{
+    const QByteArray mark = "\nversion=";
+    const int version = library.indexOf(QByteArray(mark) + QT_VERSION_STR);
+    if (version < 0)
+        return QByteArray();
+    library[version + mark.size()] = '5';
+    return library;
+}
 
 /** Removes a folder with all that is in it, links unfollowed; false when something stays. */
 inline bool removeFolder(const QString& path)
@@ -135,10 +165,14 @@ private:
     QString m_path;
 };
 #else
+#include <QAccessible>
+#include <QAccessibleInterface>
 #include <QDir>
 #include <QMetaMethod>
+#include <QScreen>
 #include <QStyleOptionViewItem>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #define EXPORT_FAKE_PLUGIN(Class)
 #define DECLARE_LIST_METATYPE(List)
@@ -169,6 +203,8 @@ inline QString codePoint(char32_t code)
     return QString::fromUcs4(&code, 1);
 }
 
+#define TRANSLATED_NUMBER , int
+
 inline QByteArray signatureOf(const QMetaMethod& method)
 {
     return method.methodSignature();
@@ -186,5 +222,29 @@ const QMetaMethod::Access signalAccess = QMetaMethod::Public;
 inline bool removeFolder(const QString& path)
 {
     return QDir(path).removeRecursively();
+}
+
+inline QString accessibleText(QWidget* widget, QAccessible::Text text)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(text);
+}
+
+inline QRect screenArea(const QWidget* widget)
+{
+    return widget->screen()->availableGeometry();
+}
+
+inline QByteArray builtForLaterToolkit(QByteArray library)
+{
+#if QT_VERSION >= 0x060300
+    const QByteArray mark("qt-project!", 12);
+#else
+    const QByteArray mark("QTMETADATA !");
+#endif
+    const int major = int(library.indexOf(mark) + mark.size()) + 1;
+    if (library.at(major) != QT_VERSION_MAJOR)
+        return QByteArray();
+    library[major] = QT_VERSION_MAJOR + 1;
+    return library;
 }
 #endif

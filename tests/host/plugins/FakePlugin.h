@@ -7,19 +7,17 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QPointer>
-#include <QStringList>
-#include <QVariant>
 #include <QWidget>
 
+#include "FakeAnswers.h"
 #include "INotify.h"
 #include "IQuickLinkPlugin.h"
 #include "ISettingUIPlugin.h"
 #include "IUIPlugin.h"
-#include "PlainAnswers.h"
+#include "RecordedEvents.h"
 
 /**
- * A plug-in that answers what a test sets as its properties, and tells in the application's property "events" what
- * happens to it, so that this outlives the plug-in.
+ * A plug-in that answers what a test sets as its properties, and records "<plug-in> <event>" for what happens to it.
  *
  *   links      names of its links; an empty one has no action
  *   linkCount  how many links it claims to have, where that is another number
@@ -30,25 +28,17 @@
  *   pageSize   smallest size of the page
  *   refuses    whether it does not let the settings dialog close
  */
-class PlayedPlugin : public QObject,
-                     public PlainAnswers<IUIPlugin>,
-                     public INotify,
-                     public IQuickLinkPlugin,
-                     public ISettingUIPlugin
+class FakePlugin : public QObject,
+                   public FakeAnswers<IUIPlugin>,
+                   public INotify,
+                   public IQuickLinkPlugin,
+                   public ISettingUIPlugin
 {
     Q_OBJECT
     Q_INTERFACES(IBasePlugin IUIPlugin INotify IQuickLinkPlugin ISettingUIPlugin)
 
 public:
-    explicit PlayedPlugin(const QString& name) { setObjectName(name); }
-
-    /** "<plug-in> <event>" of all these plug-ins in order, since the last call. */
-    static QStringList takeEvents()
-    {
-        QStringList events = qApp->property("events").toStringList();
-        qApp->setProperty("events", QVariant());
-        return events;
-    }
+    explicit FakePlugin(const QString& name) { setObjectName(name); }
 
     QString GetCLSID() override { return objectName(); }
     QString GetPluginName() override { return objectName(); }
@@ -130,10 +120,7 @@ public:
     int IsActiveSetting() override { return property("isInactive").toBool() ? 0 : 1; }
 
 private:
-    void record(const QString& event) const
-    {
-        qApp->setProperty("events", qApp->property("events").toStringList() << objectName() + ' ' + event);
-    }
+    void record(const QString& event) const { recordEvent(objectName() + ' ' + event); }
 
     QPointer<QWidget> m_page;
 };

@@ -7,7 +7,7 @@
 
 /** An Interface that is IBasePlugin or more, with the answers of a plug-in that has nothing special about it. */
 template <class Interface>
-class PlainAnswers : public Interface
+class FakeAnswers : public Interface
 {
 public:
     void Release() override {}

@@ -8,11 +8,11 @@
 
 #include "QtVersions.h"
 
-class BarePlugin : public QObject
+class FakeForeignPlugin : public QObject
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "com.norvik.vellumconnect.plugin.IBasePlugin")
 };
 
-EXPORT_FAKE_PLUGIN(BarePlugin)
-#include "BarePlugin.moc"
+EXPORT_FAKE_PLUGIN(FakeForeignPlugin)
+#include "FakeForeignPlugin.moc"
