@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+#include "HostContract.h"
+
 namespace
 {
 class NotifyOwner : public QObject, public INotifyService
@@ -53,14 +55,19 @@ public:
         FakeHost& host = FakeHost::instance();
         const Lookup lookup = {clsid, kind};
         host.lookups.append(lookup);
-        if (clsid == "8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412" && kind == 8209)
+        if (isAskedFor(HostContract::notifyService, clsid, kind))
             return owner(host.hasNotifyOwner, host.notifyOwnerHasService, &m_notify);
-        if (clsid == "61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E" && kind == 16401)
+        if (isAskedFor(HostContract::dialupService, clsid, kind))
             return owner(host.hasDialupOwner, host.dialupOwnerHasService, &m_dialup);
         return nullptr;
     }
 
 private:
+    static bool isAskedFor(const HostContract::Component& component, const QString& clsid, int kind)
+    {
+        return clsid == component.clsid && kind == component.kind;
+    }
+
     QObject* owner(bool isThere, bool hasService, QObject* object)
     {
         if (!isThere)
