@@ -152,7 +152,8 @@ void StoreBrokenFilesTest::goodLinksStay_data()
     QTest::newRow("100,000 items deep, never closed")
         << QByteArray("<menu>") + twoGood + repeated("<item name='x'>", 100000) << "a,b";
     QTest::newRow("100,000 brackets") << afterTwoGood(repeated("<", 100000)) << "a,b";
-    QTest::newRow("100,000 attributes") << afterTwoGood("<item " + repeated("x='1' ", 100000) + "/>") << "a,b";
+    // No more: a reader may compare each with each.
+    QTest::newRow("2,000 attributes") << afterTwoGood("<item " + repeated("x='1' ", 2000) + "/>") << "a,b";
 }
 
 void StoreBrokenFilesTest::goodLinksStay()
@@ -282,7 +283,7 @@ void StoreBrokenFilesTest::hugeAttribute()
 {
     QFETCH(QByteArray, end);
     QFETCH(int, count);
-    const int megabytes = 200;
+    const int megabytes = 64;
     QFile file(FakeHost::instance().configPath());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<tovadoc><menu>" + QByteArray(twoGood) + "<item name='");
