@@ -20,7 +20,6 @@ private Q_SLOTS:
     void connection_data();
     void connection();
     void choiceFromCodeIsNotHeard();
-    void parametersAreNotHeard();
 };
 
 void DialogConnectionsTest::connection_data()
@@ -86,18 +85,6 @@ void DialogConnectionsTest::choiceFromCodeIsNotHeard()
     QVERIFY(dialog.isOkEnabled());
     dialog->m_appTypeChoice->setCurrentIndex(0);
     QCOMPARE(dialog->m_appPathEdit->text(), "/usr/bin/editor");
-}
-
-void DialogConnectionsTest::parametersAreNotHeard()
-{
-    OpenDialog dialog;
-    dialog.fill(0, "Editor", "/usr/bin/editor");
-    dialog->m_okBtn->setEnabled(false);
-    dialog.enter(dialog->m_appParamEdit, "--new");
-    QVERIFY(!dialog.isOkEnabled());
-    dialog->m_okBtn->setEnabled(true);
-    dialog.enter(dialog->m_appParamEdit, "");
-    QVERIFY(dialog.isOkEnabled());
 }
 
 REGISTER_TEST(DialogConnectionsTest)

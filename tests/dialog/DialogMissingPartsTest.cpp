@@ -222,7 +222,7 @@ void DialogMissingPartsTest::operationAfterTheHostDeletedTheFrame()
 
 void DialogMissingPartsTest::initializationWithout_data()
 {
-    addMemberRows(memberNames());
+    addMemberRows(dialogMemberNames());
 }
 
 void DialogMissingPartsTest::initializationWithout()

@@ -143,6 +143,12 @@ void DialogOkButtonTest::parametersDoNotMatter()
     dialog.enter(dialog->m_appNameEdit, "N");
     QVERIFY(!dialog.isOkEnabled());
     dialog.enter(dialog->m_appPathEdit, "T");
+    QVERIFY(dialog.isOkEnabled());
+    // Nor are they heard.
+    dialog->m_okBtn->setEnabled(false);
+    dialog.enter(dialog->m_appParamEdit, "--old");
+    QVERIFY(!dialog.isOkEnabled());
+    dialog->m_okBtn->setEnabled(true);
     dialog.enter(dialog->m_appParamEdit, "");
     QVERIFY(dialog.isOkEnabled());
 }

@@ -39,7 +39,7 @@ QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog)
 #undef MEMBER
 }
 
-QStringList memberNames()
+QStringList dialogMemberNames()
 {
     QuickLinkSettingNewEditDlg dialog;
     QStringList all;

@@ -16,8 +16,8 @@
 /** The widget and layout members in the order in which the class declares them. */
 QList<PointerMember> membersOf(QuickLinkSettingNewEditDlg* dialog);
 
-/** The names of all of them. */
-QStringList memberNames();
+/** The names of all of them, without a dialog. */
+QStringList dialogMemberNames();
 
 /** The one of that name. */
 PointerMember memberOf(QuickLinkSettingNewEditDlg* dialog, const QString& name);
