@@ -63,12 +63,14 @@ void PluginLoadingTest::compareRefusals(const QStringList& files, const QString&
 {
     const QList<PluginContainer::Refusal> refusals = m_host->container.refusals();
     QCOMPARE(refusals.size(), files.size());
-    QCOMPARE(m_trace->warningLines.size(), files.size());
+    // A toolkit may add lines of its own.
+    const QStringList lines = m_trace->warningLines.filter("Plug-in refused: ");
+    QCOMPARE(lines.size(), files.size());
     for (int i = 0; i < files.size(); ++i) {
         QCOMPARE(refusals.at(i).file, files.at(i));
         QCOMPARE(refusals.at(i).reason.left(reason.size()), reason);
         QVERIFY(!refusals.at(i).reason.contains('\n'));
-        QCOMPARE(m_trace->warningLines.at(i), "Plug-in refused: " + files.at(i) + ": " + refusals.at(i).reason);
+        QCOMPARE(lines.at(i), "Plug-in refused: " + files.at(i) + ": " + refusals.at(i).reason);
     }
 }
 
