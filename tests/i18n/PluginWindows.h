@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "QtVersions.h"
 #include <QDialog>
 #include <QPluginLoader>
-#include "QtVersions.h"
 
 #include <memory>
 

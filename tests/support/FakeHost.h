@@ -6,12 +6,12 @@
 #include <functional>
 #include <memory>
 
+#include "QtVersions.h"
 #include <QList>
 #include <QMessageBox>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
-#include "QtVersions.h"
 #include <QUrl>
 
 #include "ExtendDialog.h"

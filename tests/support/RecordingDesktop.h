@@ -3,10 +3,10 @@
 
 #pragma once
 
+#include "QtVersions.h"
 #include <QDir>
 #include <QFile>
 #include <QStringList>
-#include "QtVersions.h"
 
 /** Makes the file with these bytes and permissions, or ends the test program. */
 inline void writeFile(const QString& path, const QByteArray& bytes, QFile::Permissions permissions)
@@ -41,8 +41,7 @@ public:
     /** The exit code of all further calls, 0 without it. */
     void answer(int exitCode) const
     {
-        writeFile(m_folder.filePath("answer"), QByteArray::number(exitCode),
-                  QFile::Permissions(0x6644));
+        writeFile(m_folder.filePath("answer"), QByteArray::number(exitCode), QFile::Permissions(0x6644));
     }
 
     /** The arguments of each call so far, those of one call joined by a line feed; in no order. */

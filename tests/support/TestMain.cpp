@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The main() of every test program: runs the test class that the first argument names, else all of them in turn. Further
-// arguments are QtTest's.
+// The main() of every test program: runs the test class that the first argument names, else all of them in turn.
+// Further arguments are QtTest's.
 
 #include <QApplication>
 #include <QMap>
