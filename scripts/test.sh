@@ -104,7 +104,7 @@ if [[ $quick == no ]]; then
     if [[ -n ${QT4_TOOLKITS-} ]]; then
         step "Qt 4.8: packages and toolkits" unpack_qt4
         step "Qt 4.8, 64-bit: build" build_qt4 qt4 x86_64 all
-        step "Qt 4.8, 64-bit: unit tests" ctest_in qt4 build/test-qt4.log
+        step "Qt 4.8, 64-bit: unit tests" ctest_in qt4 build/test-qt4.log -L unit
         step "Qt 4.8, 32-bit: build" build_qt4_32
         step "every Qt: its own plug-in loaded, the others' refused" loaders qt4-32 qt4 qt6 default
     else

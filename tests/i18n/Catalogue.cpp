@@ -26,13 +26,13 @@ QStringList readTranslation(QXmlStreamReader& xml, bool isPlural)
 CatalogueText readMessage(QXmlStreamReader& xml, const QString& context)
 {
     CatalogueText text{context, {}, {}, {}, false, false};
-    text.isPlural = xml.attributes().value("numerus") == "yes";
+    text.isPlural = xml.attributes().value("numerus") == QLatin1String("yes");
     while (xml.readNextStartElement()) {
-        if (xml.name() == "source") {
+        if (xml.name() == QLatin1String("source")) {
             text.source = xml.readElementText();
-        } else if (xml.name() == "comment") {
+        } else if (xml.name() == QLatin1String("comment")) {
             text.comment = xml.readElementText();
-        } else if (xml.name() == "translation") {
+        } else if (xml.name() == QLatin1String("translation")) {
             // Anything said about a translation is that it is unfinished or that its text is gone.
             text.isFinished = !xml.attributes().hasAttribute("type");
             text.translations = readTranslation(xml, text.isPlural);
@@ -61,9 +61,9 @@ QList<CatalogueText> readCatalogue(const QString& path)
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == "name")
+        if (xml.name() == QLatin1String("name"))
             context = xml.readElementText();
-        else if (xml.name() == "message")
+        else if (xml.name() == QLatin1String("message"))
             texts.append(readMessage(xml, context));
     }
     return xml.hasError() ? QList<CatalogueText>() : texts;

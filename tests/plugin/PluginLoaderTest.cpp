@@ -235,10 +235,12 @@ void PluginLoaderTest::fileForAnotherQtIsRefused()
     QVERIFY(QFile::exists(file));
     QPluginLoader loader(file);
     QVERIFY(!loader.load());
+    // Qt 4 gives the reason for the first attempt only.
+    const QString reason = loader.errorString();
     QVERIFY(!loader.instance());
     QVERIFY(!loader.isLoaded());
     // In words, with the file's name, for whoever reads the trace.
-    QVERIFY2(loader.errorString().contains(QFileInfo(file).fileName()), qPrintable(loader.errorString()));
+    QVERIFY2(reason.contains(QFileInfo(file).fileName()), qPrintable(reason));
 }
 
 REGISTER_TEST(PluginLoaderTest)
