@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The object's beginning: made, Init(), its caption, the single object, its end by the destructor.
+// The object's beginning: made, Init(), the single object, its end by the destructor.
 
 #include <cstring>
 #include <new>
@@ -61,11 +61,6 @@ private Q_SLOTS:
     void initKeepsTheSingleObject();
     void initAgainTakesTheNewList();
     void traceOfInit();
-    void moduleName_data();
-    void moduleName();
-    void moduleNameBeforeInit();
-    void moduleNameFollowsLanguage();
-    void traceOfModuleName();
     void getInstanceMakesOne();
     void destroyDeletesTheSingleObject();
     void destructorLeavesStoreAndList();
@@ -177,57 +172,6 @@ void PluginLifecycleTest::traceOfInit()
     QCOMPARE(trace.countDebug(called), 1);
     QCOMPARE(trace.countDebug("File .* is not present"), 1);
     QVERIFY(trace.debugLines.first().endsWith(": Init: called"));
-}
-
-void PluginLifecycleTest::moduleName_data()
-{
-    QTest::addColumn<QByteArray>("element");
-    QTest::addColumn<bool>("hasName");
-    const char* const rows[][2] = {{"1", "<Visible>1</Visible>"},
-                                   {"empty", "<Visible></Visible>"},
-                                   {"blank before 0", "<Visible> 0</Visible>"},
-                                   {"blank after 0", "<Visible>0 </Visible>"},
-                                   {"00", "<Visible>00</Visible>"},
-                                   {"false", "<Visible>false</Visible>"},
-                                   {"no", "<Visible>no</Visible>"},
-                                   {"no element", ""},
-                                   {"0 after the menu", "<menu/><Visible>0</Visible>"}};
-    QTest::newRow("0") << QByteArray("<Visible>0</Visible>") << false;
-    for (const auto& row : rows)
-        QTest::newRow(row[0]) << QByteArray(row[1]) << true;
-}
-
-void PluginLifecycleTest::moduleName()
-{
-    QFETCH(QByteArray, element);
-    QFETCH(bool, hasName);
-    FakeHost::instance().writeConfig("<tovadoc>" + element + "<menu><item name='a' visible='1'/></menu></tovadoc>");
-    m_plugin->Init();
-    QCOMPARE(m_plugin->GetModuleName(), hasName ? shown("IDS_SETTING_NAME") : QString());
-    // The links load all the same.
-    QCOMPARE(m_plugin->GetQuickLinkRecordSize(), 1);
-}
-
-void PluginLifecycleTest::moduleNameBeforeInit()
-{
-    QuickLinkXmlParse::GetInstance()->m_visible = "0";
-    QCOMPARE(m_plugin->GetModuleName(), shown("IDS_SETTING_NAME"));
-    QCOMPARE(FakeHost::instance().translationContexts, QStringList("QuickLinkUIPlugin"));
-}
-
-void PluginLifecycleTest::moduleNameFollowsLanguage()
-{
-    m_plugin->Init();
-    QCOMPARE(m_plugin->GetModuleName(), "en:IDS_SETTING_NAME");
-    FakeHost::instance().language = "de";
-    QCOMPARE(m_plugin->GetModuleName(), "de:IDS_SETTING_NAME");
-}
-
-void PluginLifecycleTest::traceOfModuleName()
-{
-    RecordingTrace trace;
-    m_plugin->GetModuleName();
-    QCOMPARE(trace.countDebug(tracePattern("Returning Module Name %F: GetModuleName: %L: ")), 1);
 }
 
 void PluginLifecycleTest::getInstanceMakesOne()

@@ -66,6 +66,8 @@ private Q_SLOTS:
     void listOperation();
     void typeTexts_data();
     void typeTexts();
+    void onlyOneMeansYes_data();
+    void onlyOneMeansYes();
 };
 
 void QuickLinkRecordTest::fieldHasItsDefault_data()
@@ -203,6 +205,23 @@ void QuickLinkRecordTest::typeTexts()
     QFETCH(QString, text);
     QFETCH(QString, expected);
     QCOMPARE(text, expected);
+}
+
+void QuickLinkRecordTest::onlyOneMeansYes_data()
+{
+    QTest::addColumn<QString>("flag");
+    QTest::addColumn<bool>("isYes");
+    QTest::newRow("1") << "1" << true;
+    const char* const others[] = {"", "0", "2", "11", "01", " 1", "1 ", "true", "yes"};
+    for (const char* other : others)
+        QTest::newRow(qPrintable('"' + QString(other) + '"')) << other << false;
+}
+
+void QuickLinkRecordTest::onlyOneMeansYes()
+{
+    QFETCH(QString, flag);
+    QFETCH(bool, isYes);
+    QCOMPARE(isSet(flag), isYes);
 }
 
 REGISTER_TEST(QuickLinkRecordTest)

@@ -9,7 +9,7 @@
 #include "OpenDialog.h"
 #include "Test.h"
 
-class DialogNamesTest : public QObject
+class DialogObjectNamesTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ QStringList widgetNames()
 }
 } // namespace
 
-void DialogNamesTest::everyWidgetHasItsName()
+void DialogObjectNamesTest::everyWidgetHasItsName()
 {
     const OpenDialog dialog;
     const QStringList all = widgetNames();
@@ -39,7 +39,7 @@ void DialogNamesTest::everyWidgetHasItsName()
         QCOMPARE(memberOf(dialog.get(), name).object->objectName(), name);
 }
 
-void DialogNamesTest::nobodyElseHasAName()
+void DialogObjectNamesTest::nobodyElseHasAName()
 {
     const OpenDialog dialog;
     QStringList found;
@@ -58,7 +58,7 @@ void DialogNamesTest::nobodyElseHasAName()
         QCOMPARE(memberOf(dialog.get(), member).object->objectName(), "");
 }
 
-void DialogNamesTest::labelIsRenamed()
+void DialogObjectNamesTest::labelIsRenamed()
 {
     if (!isNameTold)
         QSKIP("The first of the two names cannot be seen");
@@ -70,5 +70,5 @@ void DialogNamesTest::labelIsRenamed()
     QCOMPARE(spy.at(1).at(0).toString(), "m_nameLbl");
 }
 
-REGISTER_TEST(DialogNamesTest)
-#include "DialogNamesTest.moc"
+REGISTER_TEST(DialogObjectNamesTest)
+#include "DialogObjectNamesTest.moc"

@@ -12,7 +12,7 @@
 #include "QuickLinkXmlParse.h"
 #include "Test.h"
 
-class DialogChecksTest : public QObject
+class DialogNameAndPathTest : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ QStringList nameKeys(bool isFree)
 }
 } // namespace
 
-void DialogChecksTest::nameOfANewLink_data()
+void DialogNameAndPathTest::nameOfANewLink_data()
 {
     QTest::addColumn<QStringList>("stored");
     QTest::addColumn<QString>("name");
@@ -63,7 +63,7 @@ void DialogChecksTest::nameOfANewLink_data()
     QTest::newRow("several of that name") << names("One One One") << "One" << false;
 }
 
-void DialogChecksTest::nameOfANewLink()
+void DialogNameAndPathTest::nameOfANewLink()
 {
     QFETCH(QStringList, stored);
     QFETCH(QString, name);
@@ -80,7 +80,7 @@ void DialogChecksTest::nameOfANewLink()
         QCOMPARE(dialog.added.first().name, name);
 }
 
-void DialogChecksTest::nameOfAnEditedLink_data()
+void DialogNameAndPathTest::nameOfAnEditedLink_data()
 {
     QTest::addColumn<bool>("isEdit");
     QTest::addColumn<QString>("editedName");
@@ -100,7 +100,7 @@ void DialogChecksTest::nameOfAnEditedLink_data()
                                                << "Two" << false;
 }
 
-void DialogChecksTest::nameOfAnEditedLink()
+void DialogNameAndPathTest::nameOfAnEditedLink()
 {
     QFETCH(bool, isEdit);
     QFETCH(QString, editedName);
@@ -115,7 +115,7 @@ void DialogChecksTest::nameOfAnEditedLink()
     QCOMPARE(dialog.isOpen(), !isFree);
 }
 
-void DialogChecksTest::hiddenLinkOfEqualName_data()
+void DialogNameAndPathTest::hiddenLinkOfEqualName_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("target");
@@ -125,7 +125,7 @@ void DialogChecksTest::hiddenLinkOfEqualName_data()
     QTest::newRow("Internet") << 2 << "www.example.org";
 }
 
-void DialogChecksTest::hiddenLinkOfEqualName()
+void DialogNameAndPathTest::hiddenLinkOfEqualName()
 {
     QFETCH(int, type);
     QFETCH(QString, target);
@@ -138,7 +138,7 @@ void DialogChecksTest::hiddenLinkOfEqualName()
     QCOMPARE(dialog.messageKeys(), nameKeys(false));
 }
 
-void DialogChecksTest::path_data()
+void DialogNameAndPathTest::path_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("exists");
@@ -159,7 +159,7 @@ void DialogChecksTest::path_data()
     QTest::newRow("empty") << "" << false;
 }
 
-void DialogChecksTest::path()
+void DialogNameAndPathTest::path()
 {
     QFETCH(QString, path);
     QFETCH(bool, exists);
@@ -181,7 +181,7 @@ void DialogChecksTest::path()
         QCOMPARE(dialog.added.first().url, path);
 }
 
-void DialogChecksTest::pathOfOtherTypes()
+void DialogNameAndPathTest::pathOfOtherTypes()
 {
     for (int type = 1; type <= 2; ++type) {
         OpenDialog dialog;
@@ -193,7 +193,7 @@ void DialogChecksTest::pathOfOtherTypes()
     }
 }
 
-void DialogChecksTest::message_data()
+void DialogNameAndPathTest::message_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("language");
@@ -209,7 +209,7 @@ void DialogChecksTest::message_data()
                           << "en:IDS_LINK_SETTING_FILENOTEXIST";
 }
 
-void DialogChecksTest::message()
+void DialogNameAndPathTest::message()
 {
     QFETCH(QString, name);
     QFETCH(QString, language);
@@ -234,7 +234,7 @@ void DialogChecksTest::message()
     QCOMPARE(message.closable, true);
 }
 
-void DialogChecksTest::answerDoesNotMatter()
+void DialogNameAndPathTest::answerDoesNotMatter()
 {
     OpenDialog dialog(names("One"));
     FakeHost::instance().messageAnswer = QMessageBox::Cancel;
@@ -244,7 +244,7 @@ void DialogChecksTest::answerDoesNotMatter()
     QVERIFY(dialog.added.isEmpty());
 }
 
-void DialogChecksTest::noStoredList()
+void DialogNameAndPathTest::noStoredList()
 {
     OpenDialog dialog;
     dialog.fill(1, "One");
@@ -262,7 +262,7 @@ void DialogChecksTest::noStoredList()
     QCOMPARE(dialog.added.size(), 1);
 }
 
-void DialogChecksTest::nameEditMissing()
+void DialogNameAndPathTest::nameEditMissing()
 {
     const OpenDialog dialog;
     const NullMember missing(memberOf(dialog.get(), "m_appNameEdit"));
@@ -270,7 +270,7 @@ void DialogChecksTest::nameEditMissing()
     QCOMPARE(dialog.messageKeys(), QStringList());
 }
 
-void DialogChecksTest::pathEditMissing()
+void DialogNameAndPathTest::pathEditMissing()
 {
     OpenDialog dialog;
     dialog.fill(0, "Folder", "/");
@@ -280,5 +280,5 @@ void DialogChecksTest::pathEditMissing()
     QVERIFY(dialog.isOpen());
 }
 
-REGISTER_TEST(DialogChecksTest)
-#include "DialogChecksTest.moc"
+REGISTER_TEST(DialogNameAndPathTest)
+#include "DialogNameAndPathTest.moc"
