@@ -98,11 +98,9 @@ run_tests() {
     ctest --test-dir "$copy/build" --stop-on-failure "$@" </dev/null
 }
 
-# first_tests MUTANT: the expression for the tests of its folder. Those of the plug-in as a whole have had two names.
+# first_tests MUTANT: the expression for the tests of its folder.
 first_tests() {
-    local folder=${1%%/*}
-    [[ $folder == plugin && ! -d tests/plugin ]] && folder=contract
-    printf '^%s\\.' "$folder"
+    printf '^%s\\.' "${1%%/*}"
 }
 
 # build_tests COPY EXPRESSION: builds the programs that these tests run; everything, when one runs something else.
