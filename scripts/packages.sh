@@ -3,20 +3,21 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the Debian 12 packages that a purpose needs and that are missing; says nothing when none is.
-# Usage: scripts/packages.sh run|demo|benchmark|test|qt4
+# Usage: scripts/packages.sh run|demo|benchmark|fuzz|test|qt4
 #   run        build with Qt 5 and start the program
 #   demo       and show it on a virtual display
 #   benchmark  and measure it
+#   fuzz       build with clang for scripts/fuzz.sh
 #   test       and build with Qt 6, run every test, and check format, lint and licences
 #   qt4        what a given toolkit of Qt 4.8 needs, 64-bit and 32-bit
 # Where each package is for: docs/dependencies.md
 
 source "$(dirname "$0")/common.sh"
 
-run=(cmake ninja-build g++ pkgconf qtbase5-dev qttools5-dev qttranslations5-l10n libkf5networkmanagerqt-dev xdg-utils fonts-dejavu-core
-    xterm x11-apps)
+run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n xdg-utils fonts-dejavu-core xterm x11-apps)
 demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
+fuzz=(clang-14 libclang-rt-14-dev)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
     python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer procps
     clang-format-14 clang-tidy-14 clazy reuse shellcheck)
@@ -27,9 +28,10 @@ case "${1-}" in
 run) wanted=("${run[@]}") ;;
 demo) wanted=("${run[@]}" "${demo[@]}") ;;
 benchmark) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}") ;;
-test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${test[@]}") ;;
+fuzz) wanted=("${run[@]}" "${fuzz[@]}") ;;
+test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${fuzz[@]}" "${test[@]}") ;;
 qt4) wanted=("${qt4[@]}") ;;
-*) fail "usage: scripts/packages.sh run|demo|benchmark|test|qt4" ;;
+*) fail "usage: scripts/packages.sh run|demo|benchmark|fuzz|test|qt4" ;;
 esac
 
 is_installed() {

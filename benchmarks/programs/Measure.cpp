@@ -61,3 +61,16 @@ int runTask(int argc, char** argv, std::initializer_list<NamedTask> tasks)
     std::fprintf(stderr, "usage: %s TASK FOLDER\n", argv[0]);
     return 2;
 }
+
+int runLinkTask(int argc, char** argv, const LinkTasks& tasks)
+{
+    return runTask(argc, argv,
+                   {{"load", tasks.load, false},
+                    {"save", tasks.save, false},
+                    {"menu", tasks.menu},
+                    {"page", tasks.page},
+                    {"paint", tasks.paint},
+                    {"up", tasks.up},
+                    {"delete", tasks.deleteLink},
+                    {"new", tasks.newLink}});
+}

@@ -111,13 +111,5 @@ void newLink(const QString& folder)
 
 int main(int argc, char** argv)
 {
-    return runTask(argc, argv,
-                   {{"load", load, false},
-                    {"save", save, false},
-                    {"menu", menu},
-                    {"page", page},
-                    {"paint", paint},
-                    {"up", up},
-                    {"delete", deleteLink},
-                    {"new", newLink}});
+    return runLinkTask(argc, argv, {load, save, menu, page, paint, up, deleteLink, newLink});
 }

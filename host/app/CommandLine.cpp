@@ -23,10 +23,10 @@ public:
         , language(QStringLiteral("language"), tr("Show texts in the language LANG, such as en or pt_BR."),
                    QStringLiteral("LANG"))
         , connection(QStringLiteral("connection"),
-                     tr("Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a "
+                     tr("Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a "
                         "default route) or manual (you press a button)."),
                      QStringLiteral("KIND"))
-        , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no display."))
+        , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no graphical session."))
     {
         parser.setApplicationDescription(tr("Connection manager with quick links."));
         parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, listLinks});
@@ -70,22 +70,24 @@ public:
 };
 } // namespace
 
-CommandLine CommandLine::parse(int argc, char** argv)
+QStringList CommandLine::arguments(int argc, char** argv)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QFile::decodeName(argv[i]));
+    return arguments;
+}
+
+CommandLine CommandLine::parse(const QStringList& arguments)
+{
     Options options;
     options.parser.parse(arguments);
 
     CommandLine line;
     line.error = options.error().simplified();
-    if (!line.error.isEmpty()) {
-        line.error += QStringLiteral(" Try --help.");
-        line.action = Refuse;
-        return line;
-    }
-    line.action = options.action();
+    line.action = line.error.isEmpty() ? options.action() : Refuse;
+    if (line.action == Refuse)
+        line.error = Options::tr("%1 Try --help.").arg(line.error);
     line.dataFolder = options.parser.value(options.dataFolder);
     line.pluginFolder = options.parser.value(options.pluginFolder);
     line.language = options.parser.value(options.language);

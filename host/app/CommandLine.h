@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "ConnectionKind.h"
 
@@ -18,8 +19,14 @@ struct CommandLine {
     QString language;     ///< empty for the one chosen in the program, or else the system's
     ConnectionKind connection = ConnectionKind::Mobile;
 
-    /** Reads the arguments. Needs no application object. */
-    static CommandLine parse(int argc, char** argv);
+    /** What main() was given, the program's name first; the application object takes out what it knows. */
+    static QStringList arguments(int argc, char** argv);
+
+    /**
+     * Reads such arguments. Needs no application object. The error is in the language of the texts that are there: who
+     * shows it loads them first, in the language that is told even beside an error, and reads the arguments again.
+     */
+    static CommandLine parse(const QStringList& arguments);
 
     /** The answer to --help, in the language of the installed translations. Needs the application object. */
     static QString helpText();

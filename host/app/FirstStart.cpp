@@ -8,27 +8,40 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "DurableFile.h"
+
 static bool makeFolder(const QString& path)
 {
-    if (QDir().mkpath(path))
+    if (DurableFile::makePrivateFolder(path))
         return true;
     qWarning("The folder %s cannot be made", qUtf8Printable(path));
     return false;
 }
 
-void FirstStart::copyDefaults(const QString& defaults, const QString& userFolder)
+/** Whole or not at all, also after a power cut, and never in place of a link, be it one that leads nowhere. */
+static bool copy(const QString& from, const QString& to)
 {
+    QFile file(from);
+    if (QFileInfo(to).isSymLink() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = file.readAll();
+    return file.error() == QFileDevice::NoError && DurableFile::write(to, content);
+}
+
+bool FirstStart::copyDefaults(const QString& defaults, const QString& userFolder)
+{
+    bool isWhole = true;
     const QDir source(defaults);
     QDirIterator files(defaults, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString file = files.next();
         const QString target = userFolder + QLatin1Char('/') + source.relativeFilePath(file);
-        if (QFileInfo::exists(target) || !makeFolder(QFileInfo(target).path()))
+        if (QFileInfo::exists(target) || (makeFolder(QFileInfo(target).path()) && copy(file, target)))
             continue;
-        // Copies to a temporary file, which gets its name when it is complete and only if nothing has that name.
-        if (!QFile::copy(file, target))
-            qWarning("%s cannot be copied to %s", qUtf8Printable(file), qUtf8Printable(target));
+        qWarning("%s cannot be copied to %s", qUtf8Printable(file), qUtf8Printable(target));
+        isWhole = false;
     }
+    return isWhole;
 }
 
 void FirstStart::makePluginFolders(const QString& pluginFolder, const QString& userFolder)

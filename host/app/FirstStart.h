@@ -11,9 +11,9 @@ namespace FirstStart
 
 /**
  * Copies every file of defaults that the user's folder does not have, and never overwrites one. A file appears whole
- * or not at all. What cannot be copied is written to the warning channel.
+ * or not at all, also after a power cut. False when one cannot be copied, which is written to the warning channel.
  */
-void copyDefaults(const QString& defaults, const QString& userFolder);
+bool copyDefaults(const QString& defaults, const QString& userFolder);
 
 /**
  * Makes plugins/<Name> in the user's folder for every plug-in in pluginFolder: a plug-in never makes its own folder.

@@ -6,20 +6,25 @@
 #include <QApplication>
 #include <QFileInfo>
 
-#include "CommonUtils.h"
+#include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
 #include "FirstStart.h"
+#include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
+#include "LinkSchemes.h"
 #include "MainWindow.h"
 #include "Places.h"
+#include "PluginMessages.h"
 #include "PluginNotifications.h"
+#include "RunningProgram.h"
 #include "SettingsDialog.h"
 #include "StartupContainer.h"
 #include "SystemSource.h"
 #include "Translator.h"
 #include "Tray.h"
+#include "UserFolder.h"
 #include "UserSettings.h"
 
 Host::Host(Translator& translator)
@@ -27,7 +32,11 @@ Host::Host(Translator& translator)
     , m_dialupService(m_monitor)
     , m_notifyService(m_container)
     , m_menuManager(m_container)
+    , m_linkKeeper(UserFolder::path(), m_container, m_menuManager)
+    , m_linkOpener({&UserSettings::isAgreed, &UserSettings::addAgreed})
 {
+    QObject::connect(&m_menuManager, &MenuManager::rebuilt, &m_linkOpener, [this] { takeOverLinks(); });
+    m_container.setGate(&m_gatekeeper);
     installPluginContainer(&m_container);
     registerComponent(HostContract::notifyService, &m_notifyService);
     registerComponent(HostContract::menuManager, &m_menuManager);
@@ -37,7 +46,10 @@ Host::Host(Translator& translator)
 Host::~Host()
 {
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
+    m_runningProgram.reset();
     m_tray.reset();
+    endLinks();
+    m_pluginMessages.reset();
     m_window.reset();
     m_menuManager.clear();
     m_container.shutdown();
@@ -50,13 +62,37 @@ void Host::registerComponent(const HostContract::Component& identity, QObject* c
                                   component);
 }
 
+void Host::guardLinks(bool wasInterrupted)
+{
+    m_linkKeeper.prepare(wasInterrupted);
+}
+
 void Host::loadPlugins(const QString& folder)
 {
     const QString pluginFolder = folder.isEmpty() ? Places::pluginFolder() : folder;
-    const QString userFolder = CommonUtils::GetPluginLibraryPath();
-    FirstStart::copyDefaults(Places::defaultsFolder(), userFolder);
+    const QString userFolder = UserFolder::path();
+    // Later the links are the user's, who may have removed them on purpose.
+    const bool isFirstStart = !m_linkKeeper.guard().history().exists();
+    if (isFirstStart && !FirstStart::copyDefaults(Places::defaultsFolder(), userFolder))
+        m_linkKeeper.repeatFirstStart();
     FirstStart::makePluginFolders(pluginFolder, userFolder);
+    // Its reader would wait for ever.
+    if (!m_linkKeeper.guard().isSafeToRead()) {
+        qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
+        return;
+    }
+    m_gatekeeper.open(userFolder, pluginFolder);
     m_container.loadFolder(pluginFolder);
+}
+
+bool Host::endLinks()
+{
+    return m_linkKeeper.endWatch();
+}
+
+void Host::takeOverLinks()
+{
+    m_linkOpener.takeOver(LinkSchemes::of(LinkFile::look(m_linkKeeper.guard().file()).content));
 }
 
 const PluginContainer& Host::container() const
@@ -79,7 +115,6 @@ void Host::showWindow(ConnectionKind kind)
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     m_menuManager.rebuild();
-    showRefusals();
     // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
     m_window->show();
@@ -90,7 +125,24 @@ void Host::connectWindow()
     MainWindow* const window = m_window.get();
     QObject::connect(&m_menuManager, &MenuManager::rebuilt, window, &MainWindow::setLinks);
     QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
-    QObject::connect(window, &MainWindow::appeared, window, [this] { PluginNotifications::tellStarted(m_container); });
+    QObject::connect(window, &MainWindow::appeared, window, [this] {
+        // Not before: it waits for the disk.
+        m_linkKeeper.watch(m_window.get());
+        showRefusals();
+        PluginNotifications::tellStarted(m_container);
+        announce();
+    });
+    QUndoStack* const steps = &m_linkKeeper.steps().stack();
+    QObject::connect(&m_linkKeeper, &LinkKeeper::settingsRequested, window, &MainWindow::settingsRequested);
+    QObject::connect(window, &MainWindow::undoRequested, steps, &QUndoStack::undo);
+    QObject::connect(window, &MainWindow::redoRequested, steps, &QUndoStack::redo);
+    QObject::connect(steps, &QUndoStack::indexChanged, window,
+                     [window, steps] { window->setSteps(steps->canUndo(), steps->canRedo()); });
+    m_pluginMessages = std::make_unique<PluginMessages>(window);
+    QObject::connect(window, &MainWindow::leftOutPluginsRequested, m_pluginMessages.get(),
+                     [this] { m_pluginMessages->ask(m_gatekeeper.leftOut().all()); });
+    QObject::connect(m_pluginMessages.get(), &PluginMessages::decided, window,
+                     [this](bool isLoadedAgain) { decideAboutLeftOut(isLoadedAgain); });
     QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
     QObject::connect(window, &MainWindow::quitRequested, window, [this] { quit(); });
     QObject::connect(m_tray.get(), &Tray::quitRequested, window, [this] { quit(); });
@@ -101,6 +153,26 @@ void Host::connectWindow()
     m_sleepWatch = std::make_unique<SleepWatch>();
     QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
     QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+void Host::announce()
+{
+    MainWindow* const window = m_window.get();
+    m_runningProgram = std::make_unique<RunningProgram>(UserFolder::path());
+    RunningProgram* const program = m_runningProgram.get();
+    QObject::connect(program, &RunningProgram::windowRequested, window,
+                     [window](const QByteArray& token) { bringToFront(window, token); });
+    // When the caller has its answer. One dialog of settings is enough.
+    QObject::connect(
+        program, &RunningProgram::settingsRequested, window,
+        [this] {
+            if (!QApplication::activeModalWidget())
+                showSettings();
+        },
+        Qt::QueuedConnection);
+    QObject::connect(
+        program, &RunningProgram::quitRequested, window, [this] { quit(); }, Qt::QueuedConnection);
+    program->announce();
 }
 
 void Host::setLanguage(const QString& language)
@@ -136,7 +208,14 @@ void Host::quit()
 void Host::showSettings()
 {
     SettingsDialog dialog(m_container.all<ISettingUIPlugin>(), m_window.get());
+    LinkGuard& guard = m_linkKeeper.guard();
+    HistoryPage* const history = new HistoryPage(guard.history());
+    QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
+    QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
+    dialog.setHistory(history);
+    m_linkKeeper.setSettings(&dialog);
     dialog.exec();
+    m_linkKeeper.setSettings(nullptr);
 }
 
 void Host::showRefusals()
@@ -147,4 +226,17 @@ void Host::showRefusals()
         files.append(QFileInfo(refusal.file).fileName());
     if (!files.isEmpty())
         m_window->showNotLoaded(files);
+    PluginMessages::tell(m_gatekeeper.refusals());
+    m_window->setLeftOutPlugins(!m_gatekeeper.leftOut().all().isEmpty());
+    if (m_gatekeeper.leftOut().isNew())
+        m_pluginMessages->ask(m_gatekeeper.leftOut().all());
+}
+
+void Host::decideAboutLeftOut(bool isLoadedAgain)
+{
+    if (isLoadedAgain)
+        m_gatekeeper.leftOut().letAllIn();
+    else
+        m_gatekeeper.leftOut().answer();
+    m_window->setLeftOutPlugins(!isLoadedAgain);
 }

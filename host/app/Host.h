@@ -10,7 +10,9 @@
 #include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
 #include "DialupService.h"
+#include "Gatekeeper.h"
 #include "HostContract.h"
+#include "LinkKeeper.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
 #include "NotifyService.h"
@@ -19,6 +21,8 @@
 
 class ConnectionTexts;
 class MainWindow;
+class PluginMessages;
+class RunningProgram;
 class Tray;
 class Translator;
 
@@ -38,7 +42,16 @@ public:
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 
-    /** Prepares the user's folder and loads every plug-in of folder; empty stands for the installed ones. */
+    /**
+     * Looks after the links from now on: to be called before loadPlugins() by a program that shows its window.
+     * wasInterrupted says that the run before did not end by itself.
+     */
+    void guardLinks(bool wasInterrupted);
+
+    /**
+     * Prepares the user's folder and loads every plug-in of folder that may be loaded, see Gatekeeper; empty stands for
+     * the installed ones.
+     */
     void loadPlugins(const QString& folder);
 
     /** The container with the loaded plug-ins. */
@@ -50,28 +63,38 @@ public:
      */
     void showWindow(ConnectionKind kind);
 
+    /** The end of looking after the links. False where they are kept, but could not be put in place. */
+    bool endLinks();
+
     /** Shows every text in language from now on, and tells the plug-ins; empty stands for the system's language. */
     void setLanguage(const QString& language);
 
 private:
     void registerComponent(const HostContract::Component& identity, QObject* component);
+    void takeOverLinks();
     void connectWindow();
+    void announce();
     void showConnection();
     void windowClosed();
     void quit();
     void showSettings();
     void showRefusals();
+    void decideAboutLeftOut(bool isLoadedAgain);
 
     // Each uses only members above it: their order is their life, and they are destroyed in reverse.
     Translator& m_translator;
+    Gatekeeper m_gatekeeper;
     PluginContainer m_container;
     ConnectionMonitor m_monitor;
     DialupService m_dialupService;
     NotifyService m_notifyService;
     MenuManager m_menuManager;
+    LinkKeeper m_linkKeeper;
     LinkOpener m_linkOpener;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<PluginMessages> m_pluginMessages;
     std::unique_ptr<Tray> m_tray;
+    std::unique_ptr<RunningProgram> m_runningProgram;
     std::unique_ptr<SleepWatch> m_sleepWatch; ///< only with a window: it opens the system bus
 };

@@ -60,7 +60,11 @@ bool Translator::followsSystem() const
 
 bool Translator::load(const QLocale& locale)
 {
-    if (!m_language.load(locale, catalogue, QStringLiteral("_"), Places::translationFolder()))
+    // Of a language that was named, its own catalogue first: for one of a country, Qt 6 looks for the language's
+    // before.
+    const bool isExact = !m_followsSystem && languages().contains(locale.name()) &&
+                         m_language.load(catalogue + QLatin1Char('_') + locale.name(), Places::translationFolder());
+    if (!isExact && !m_language.load(locale, catalogue, QStringLiteral("_"), Places::translationFolder()))
         return false;
     // The toolkit's own buttons follow, but never in a language that the program does not speak.
     if (m_toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), Places::toolkitTranslationFolder()))

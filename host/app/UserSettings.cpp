@@ -4,26 +4,52 @@
 #include "UserSettings.h"
 
 #include <QSettings>
+#include <QStringList>
 
 #include "UserFolder.h"
 
 static const QString languageKey = QStringLiteral("language");
+static const QString agreedKey = QStringLiteral("agreedAddresses");
 
 static QString file()
 {
     return UserFolder::path() + QStringLiteral("/vellumconnect.ini");
 }
 
+static QVariant kept(const QString& key)
+{
+    return QSettings(file(), QSettings::IniFormat).value(key);
+}
+
+static void keep(const QString& key, const QVariant& value)
+{
+    QSettings settings(file(), QSettings::IniFormat);
+    settings.setValue(key, value);
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        qWarning("The choice cannot be kept in %s", qUtf8Printable(file()));
+}
+
 QString UserSettings::language()
 {
-    return QSettings(file(), QSettings::IniFormat).value(languageKey).toString();
+    return kept(languageKey).toString();
 }
 
 void UserSettings::setLanguage(const QString& language)
 {
-    QSettings settings(file(), QSettings::IniFormat);
-    settings.setValue(languageKey, language);
-    settings.sync();
-    if (settings.status() != QSettings::NoError)
-        qWarning("The choice cannot be kept in %s", qUtf8Printable(file()));
+    keep(languageKey, language);
+}
+
+bool UserSettings::isAgreed(const QString& address)
+{
+    return kept(agreedKey).toStringList().contains(address);
+}
+
+void UserSettings::addAgreed(const QString& address)
+{
+    QStringList addresses = kept(agreedKey).toStringList();
+    if (addresses.contains(address))
+        return;
+    addresses.append(address);
+    keep(agreedKey, addresses);
 }

@@ -15,4 +15,10 @@ QString language();
 /** Keeps language for the next start. Failure is written to the warning channel. */
 void setLanguage(const QString& language);
 
+/** Whether the user has agreed to open this address, spelt exactly so. */
+bool isAgreed(const QString& address);
+
+/** Keeps that the user has agreed to open this address. Failure is written to the warning channel. */
+void addAgreed(const QString& address);
+
 } // namespace UserSettings

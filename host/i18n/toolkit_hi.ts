@@ -49,16 +49,32 @@
         <source>Options:</source>
         <translation>विकल्प:</translation>
     </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>अज्ञात विकल्प &apos;%1&apos;।</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>अज्ञात विकल्प: %1।</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; के बाद मान नहीं है।</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; के बाद अप्रत्याशित मान है।</translation>
+    </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>पहले जैसा (&amp;U)</translation>
+        <translation>पूर्ववत करें (&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>दोबारा (&amp;R)</translation>
+        <translation>फिर से करें (&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -66,7 +82,7 @@
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>कॉपी (&amp;C)</translation>
+        <translation>कॉपी करें (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -85,11 +101,11 @@
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>पहले जैसा (&amp;U)</translation>
+        <translation>पूर्ववत करें (&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>दोबारा (&amp;R)</translation>
+        <translation>फिर से करें (&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -97,11 +113,11 @@
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>कॉपी (&amp;C)</translation>
+        <translation>कॉपी करें (&amp;C)</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation>लिंक का पता कॉपी (&amp;L)</translation>
+        <translation>लिंक का पता कॉपी करें (&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>

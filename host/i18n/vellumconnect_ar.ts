@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>هل تريد فتح هذا العنوان بالبرنامج المخصص لروابط &quot;%1&quot;؟</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>عنوان غير معتاد</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>عرض النصوص باللغة LANG، مثل en أو pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>طباعة الروابط السريعة ثم الخروج. لا يحتاج إلى شاشة.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>مدير اتصالات مزوَّد بروابط سريعة.</translation>
     </message>
@@ -37,23 +44,27 @@
     </message>
     <message>
         <source>Empty value after &quot;--%1&quot;.</source>
-        <translation>قيمة فارغة بعد &quot;--%1&quot;.</translation>
-    </message>
-    <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>متابعة الاتصالات من النوع KIND: إما mobile (النطاق العريض المحمول، وهو المبدئي) أو any (أي اتصال له مسار مبدئي) أو manual (تضغط زرًا).</translation>
+        <translation>قيمة فارغة بعد &quot;‎--%1&quot;.</translation>
     </message>
     <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>لا يوجد نوع اتصال كهذا: &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>مراقبة الاتصالات من النوع KIND: إما mobile (النطاق العريض المحمول، وهو المبدئي) أو any (أي اتصال له مسار مبدئي) أو manual (بزر تضغطه).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>عرض الروابط السريعة ثم الخروج. لا يحتاج إلى جلسة رسومية.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 جرّب ‎--help.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>تعذر تشغيل أي برنامج لهذا العنوان:</translation>
@@ -65,12 +76,16 @@
     <message>
         <source>IDS_OK</source>
         <extracomment>First button of messages. Up to about 14 characters.</extracomment>
-        <translation>موافق</translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
-        <translation>إلغاء</translation>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
     </message>
 </context>
 <context>
@@ -121,7 +136,7 @@
     </message>
     <message>
         <source>This network asks for a login first.</source>
-        <translation>تطلب هذه الشبكة تسجيل الدخول أولًا.</translation>
+        <translation>تتطلب هذه الشبكة تسجيل الدخول أولًا.</translation>
     </message>
     <message>
         <source>The Internet is out of reach.</source>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>لا يعمل NetworkManager</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>بُني دون NetworkManager</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -172,7 +183,195 @@
     </message>
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
-        <translation>يتطلب فتح هذا البرنامج &quot;xdg-open&quot; الذي تعذر تشغيله:</translation>
+        <translation>لفتح هذا يلزم البرنامج &quot;xdg-open&quot;، وقد تعذّر تشغيله:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>لم يُفتح</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ولا شيء غيرها</numerusform>
+            <numerusform>وواحد آخر</numerusform>
+            <numerusform>واثنان آخران</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n آخر</numerusform>
+            <numerusform>و%n آخر</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>ملف روابطك السريعة مفقود.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>ملف روابطك السريعة فارغ.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>ملف روابطك السريعة تالف.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>ملف روابطك السريعة كبير جدًا.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>لا يمكن قراءة ملف روابطك السريعة.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>في مكان ملف روابطك السريعة شيء ليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>القرص ممتلئ.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>لا يُسمح لك بالكتابة في مجلده.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>لا روابط من %1 في مكانها.</numerusform>
+            <numerusform>عاد الرابط من %1 إلى مكانه.</numerusform>
+            <numerusform>عاد الرابطان من %1 إلى مكانهما.</numerusform>
+            <numerusform>عادت الروابط الـ%n من %1 إلى مكانها.</numerusform>
+            <numerusform>عادت الروابط الـ%n من %1 إلى مكانها.</numerusform>
+            <numerusform>عادت الروابط الـ%n من %1 إلى مكانها.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>لا روابط من %1 يمكن استعادتها.</numerusform>
+            <numerusform>يمكن استعادة الرابط من %1.</numerusform>
+            <numerusform>يمكن استعادة الرابطين من %1.</numerusform>
+            <numerusform>يمكن استعادة الروابط الـ%n من %1.</numerusform>
+            <numerusform>يمكن استعادة الروابط الـ%n من %1.</numerusform>
+            <numerusform>يمكن استعادة الروابط الـ%n من %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>لا روابط محفوظة من %1.</numerusform>
+            <numerusform>الرابط من %1 محفوظ، لكن تعذّرت إعادته إلى مكانه.</numerusform>
+            <numerusform>الرابطان من %1 محفوظان، لكن تعذّرت إعادتهما إلى مكانهما.</numerusform>
+            <numerusform>الروابط الـ%n من %1 محفوظة، لكن تعذّرت إعادتها إلى مكانها.</numerusform>
+            <numerusform>الروابط الـ%n من %1 محفوظة، لكن تعذّرت إعادتها إلى مكانها.</numerusform>
+            <numerusform>الروابط الـ%n من %1 محفوظة، لكن تعذّرت إعادتها إلى مكانها.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>لا تُعرف حالة سابقة للروابط.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>حُفظ ما وُجد هناك:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>ا&amp;ستعادة</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;ترك</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>تعذّر حفظ تغيير روابطك السريعة.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>غيّر برنامج آخر الروابط السريعة. هل تريد تحميلها أم الاحتفاظ بروابطك؟</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>ت&amp;حميلها</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>الاح&amp;تفاظ بروابطي</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;حاول مرة أخرى</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>تعذّر وضع الروابط السريعة المُعدّة لك في مكانها. سيحاول البرنامج مرة أخرى عند تشغيله التالي.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>أُضيف: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>أُزيل: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>عُدّل: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>نُقل: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n غيرها</numerusform>
+            <numerusform>واحد غيرها</numerusform>
+            <numerusform>اثنان غيرها</numerusform>
+            <numerusform>%n غيرها</numerusform>
+            <numerusform>%n غيرها</numerusform>
+            <numerusform>%n غيرها</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (الآن)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>الوقت</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>الروابط</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>ما تغيّر</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>ال&amp;عودة إلى هذه</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>حالات روابطك السريعة، الأحدث أولًا؛ يُحتفظ بآخر %1 منها.</translation>
     </message>
 </context>
 <context>
@@ -211,6 +410,30 @@
         <source>Not opened</source>
         <translation>لم يُفتح</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>هذا العنوان غير صالح:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>لا تُفتح أبدًا العناوين التي هي نفسها نص برمجي أو صفحة:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>هذا الرابط لا يؤدي إلى شيء: ليس له مسار.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>يجب أن يبدأ مسار التطبيق أو الملف بالرمز &quot;/&quot;:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>تنتظر أسئلة كثيرة الإجابة، فلم يُسأل عن هذا العنوان أيضًا:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>هذا أطول من أن يُفتح:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +453,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>لم يُحمَّل: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>الروابط السريعة</translation>
     </message>
@@ -248,10 +467,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>إ&amp;نهاء</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>إغلاق البرنامج</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +508,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;مدير اتصالات مزوَّد بروابط سريعة.&lt;/p&gt;&lt;p&gt;برمجية حرة برخصة MIT.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;تراجع</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>التراجع عن آخر تغيير في الروابط السريعة</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>إ&amp;عادة</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>إعادة التغيير الذي جرى التراجع عنه</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>ال&amp;ملحقات المتروكة…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>عرض الملحقات التي انهارت أو توقفت عن الاستجابة، وتحميلها من جديد</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>لم تُحمَّل هذه الملحقات: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>إنهاء البرنامج</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>فتح %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>أ&amp;عِدها</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>ا&amp;تركها كما هي</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>لم يُحمَّل هذا لأن %1 ملك لمستخدم آخر:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>لم يُحمَّل هذا لأن مستخدمين آخرين يستطيعون تغيير %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>لم يُحمَّل هذا لأنه لا يُعرف من يستطيع تغيير %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>لم يُحمَّل هذا لأنه ينتحل صفة الروابط السريعة لهذا البرنامج:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>لم يستجب الملحق %1 أثناء بدئه، فتُرك.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>لم يُكمل الملحق %1 بدأه في المرة السابقة (انهار أو توقف عن الاستجابة)، فتُرك.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>لم يستجب الملحق %1 أثناء إنهائه، فتُرك.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>لم يُكمل الملحق %1 إنهاءه في المرة السابقة (انهار أو توقف عن الاستجابة)، فتُرك.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>الملحقات</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>ت&amp;حميل عند البدء التالي</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;ترك</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>لم يعد &quot;%1&quot; يُفتح تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>لم يعد &quot;%1&quot; يُفتح عند الاتصال.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>لم يعد لـ &quot;%1&quot; مستلم.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>لم يعد &quot;%1&quot; يُفتح عند بدء Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -331,12 +659,12 @@
     <message>
         <source>IDS_LINK_SETTING_UP</source>
         <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
-        <translation>أ&amp;على</translation>
+        <translation>لأ&amp;على</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DOWN</source>
         <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
-        <translation>أ&amp;سفل</translation>
+        <translation>لأ&amp;سفل</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW</source>
@@ -416,7 +744,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>الفتح عند بدء البرنامج</translation>
+        <translation>الفتح عند بدء Vellum Connect</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -426,12 +754,12 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_OK</source>
         <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
-        <translation>موافق</translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CANCEL</source>
         <extracomment>Button of the dialog. Up to about 14 characters.</extracomment>
-        <translation>إلغاء</translation>
+        <translation>ألغِ</translation>
     </message>
     <message>
         <source>IDS_LINK_PROMPT</source>
@@ -441,7 +769,7 @@
     <message>
         <source>IDS_LINK_SETTING_INVALID_URL</source>
         <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
-        <translation>لا يمكن فتح هذا العنوان. يجب أن يحتوي العنوان على &quot;http://&quot; أو &quot;https://&quot; أو &quot;ftp&quot; أو &quot;www.&quot;.</translation>
+        <translation>لا يمكن فتح هذا العنوان. يجب أن يحتوي العنوان على &quot;‎http://‎&quot; أو &quot;‎https://‎&quot; أو &quot;ftp&quot; أو &quot;‎www.‎&quot;.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NAME_SAME</source>
@@ -451,7 +779,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>ملف البرنامج هذا غير موجود. اختر ملفًا آخر.</translation>
+        <translation>لا يوجد ملف برنامج كهذا. اختر ملفًا.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -461,12 +789,12 @@
     <message>
         <source>IDS_OK</source>
         <extracomment>First button of messages. Up to about 14 characters.</extracomment>
-        <translation>موافق</translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
-        <translation>إلغاء</translation>
+        <translation>ألغِ</translation>
     </message>
 </context>
 <context>
@@ -487,16 +815,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>يستمر البرنامج هنا. انقر الأيقونة لرؤية نافذته.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>إظهار النافذة</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>يستمر Vellum Connect في العمل هنا. انقر الأيقونة لإظهار نافذته.</translation>
     </message>
 </context>
 </TS>

@@ -2,14 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Diese Adresse mit dem Programm für „%1“-Links öffnen?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Ungewöhnliche Adresse</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
-        <translation>Diese Hilfe zeigen und enden.</translation>
+        <translation>Diese Hilfe anzeigen und beenden.</translation>
     </message>
     <message>
         <source>Show the version and exit.</source>
-        <translation>Die Version zeigen und enden.</translation>
+        <translation>Die Version anzeigen und beenden.</translation>
     </message>
     <message>
         <source>Keep your own data in DIR.</source>
@@ -21,11 +32,7 @@
     </message>
     <message>
         <source>Show texts in the language LANG, such as en or pt_BR.</source>
-        <translation>Texte in der Sprache LANG zeigen, etwa en oder pt_BR.</translation>
-    </message>
-    <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Die Links ausgeben und enden. Braucht keine Anzeige.</translation>
+        <translation>Texte in der Sprache LANG anzeigen, etwa en oder pt_BR.</translation>
     </message>
     <message>
         <source>Connection manager with quick links.</source>
@@ -40,20 +47,24 @@
         <translation>Leerer Wert nach „--%1“.</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Verbindungen der Art KIND folgen: mobile (mobiles Breitband, die Vorgabe), any (was immer eine Standardroute hat) oder manual (Sie drücken einen Knopf).</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>Diese Art von Verbindung gibt es nicht: „%1“.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Verbindungen der Art KIND überwachen: mobile (mobiles Breitband, Voreinstellung), any (jede mit Standardroute) oder manual (per Schaltfläche).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Die Schnellzugriff-Links ausgeben und beenden. Braucht keine grafische Sitzung.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Siehe --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Nur Internetadressen (http, https und ftp) werden geöffnet. Dies ist keine:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Für diese Adresse konnte kein Programm gestartet werden:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Nur Internetadressen (http, https und ftp) werden geöffnet. Dies ist keine:</translation>
     </message>
 </context>
 <context>
@@ -113,7 +128,7 @@
     </message>
     <message>
         <source>Connecting…</source>
-        <translation>Verbindung wird hergestellt…</translation>
+        <translation>Verbindung wird hergestellt&#xa0;…</translation>
     </message>
     <message>
         <source>Not connected</source>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager läuft nicht</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Ohne NetworkManager gebaut</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -173,6 +184,174 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>Zum Öffnen wird das Programm „xdg-open“ gebraucht, das nicht gestartet werden konnte:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Nicht geöffnet</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Die Datei mit Ihren Links fehlt.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>Die Datei mit Ihren Links ist leer.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>Die Datei mit Ihren Links ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>Die Datei mit Ihren Links ist viel zu groß.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>Die Datei mit Ihren Links kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>Wo die Datei mit Ihren Links sein soll, ist etwas, das keine Datei ist.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>In den Ordner der Datei dürfen Sie nicht schreiben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>Der Link vom %1 ist wieder da.</numerusform>
+            <numerusform>Die %n Links vom %1 sind wieder da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>Der Link vom %1 kann zurückgeholt werden.</numerusform>
+            <numerusform>Die %n Links vom %1 können zurückgeholt werden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>Der Link vom %1 ist aufbewahrt, konnte aber nicht zurückgeholt werden.</numerusform>
+            <numerusform>Die %n Links vom %1 sind aufbewahrt, konnten aber nicht zurückgeholt werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Ein früherer Stand der Links ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>Was dort war, ist aufbewahrt:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Zurückholen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>Die Änderung Ihrer Links konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Die Links wurden von einem anderen Programm geändert. Möchten Sie diese laden oder Ihre behalten?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>Diese &amp;laden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>Meine &amp;behalten</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Schnellzugriff</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Die für Sie vorbereiteten Links konnten nicht abgelegt werden. Das Programm versucht es beim nächsten Start noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Bearbeitet: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Verschoben: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n weiterer</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (jetzt)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Was sich änderte</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Hierzu zurückkehren</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Die Zustände Ihrer Links, der neueste zuerst; die letzten %1 werden aufgehoben.</translation>
     </message>
 </context>
 <context>
@@ -211,6 +390,30 @@
         <source>Not opened</source>
         <translation>Nicht geöffnet</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Dies ist keine gültige Adresse:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Adressen, die selbst ein Skript oder eine Seite sind, werden nie geöffnet:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Dieser Link führt nirgendwohin: Er hat keinen Pfad.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>Der Pfad einer Anwendung oder Datei muss mit „/“ beginnen:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Es warten zu viele Fragen auf eine Antwort, um auch nach dieser Adresse zu fragen:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Dies ist zu lang, um geöffnet zu werden:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Nicht geladen: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Schnellzugriff</translation>
     </message>
@@ -250,10 +449,6 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>Close the program</source>
-        <translation>Das Programm beenden</translation>
-    </message>
-    <message>
         <source>&amp;Quick Links</source>
         <translation>Schnell&amp;zugriff</translation>
     </message>
@@ -263,11 +458,11 @@
     </message>
     <message>
         <source>&amp;Settings…</source>
-        <translation>&amp;Einstellungen…</translation>
+        <translation>&amp;Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Add, change and order quick links</source>
-        <translation>Links hinzufügen, ändern und ordnen</translation>
+        <translation>Schnellzugriff-Links hinzufügen, ändern und ordnen</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -293,12 +488,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Verbindungsmanager mit Schnellzugriff.&lt;/p&gt;&lt;p&gt;Freie Software unter der MIT-Lizenz.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Bea&amp;rbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Die letzte Änderung der Links zurücknehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Die zurückgenommene Änderung wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>Weggelassene &amp;Plug-ins&#xa0;…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Zeigt, welche Plug-ins abgestürzt oder hängen geblieben sind, und lädt sie wieder</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Nicht geladene Plug-ins: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Das Programm beenden</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>%1 öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;So lassen</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Dies wurde nicht geladen, weil %1 einem anderen Benutzer gehört:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Dies wurde nicht geladen, weil andere Benutzer %1 ändern dürfen:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Dies wurde nicht geladen, weil nicht bekannt ist, wer %1 ändern darf:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Dies wurde nicht geladen, weil es sich als der Schnellzugriff dieses Programms ausgibt:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>Das Plug-in %1 hat beim Starten nicht mehr reagiert und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>Das Plug-in %1 ist beim letzten Mal nicht fertig gestartet (abgestürzt oder hängen geblieben) und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>Das Plug-in %1 hat beim Beenden nicht mehr reagiert und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>Das Plug-in %1 hat sich beim letzten Mal nicht fertig beendet (abgestürzt oder hängen geblieben) und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>Beim nächsten Start &amp;laden</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>„%1“ öffnet sich nicht mehr von selbst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>„%1“ öffnet sich nicht mehr, wenn die Verbindung steht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>„%1“ hat keinen Empfänger mehr.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>„%1“ öffnet sich nicht mehr beim Start von Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -341,12 +649,12 @@
     <message>
         <source>IDS_LINK_SETTING_NEW</source>
         <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
-        <translation>&amp;Neu…</translation>
+        <translation>&amp;Neu&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_EDIT</source>
         <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
-        <translation>&amp;Bearbeiten…</translation>
+        <translation>&amp;Bearbeiten&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DEL</source>
@@ -396,7 +704,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
         <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
-        <translation>Wählen…</translation>
+        <translation>Wählen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_PARA</source>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Beim Programmstart öffnen</translation>
+        <translation>Beim Start von Vellum Connect öffnen</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -446,12 +754,12 @@
     <message>
         <source>IDS_LINK_SETTING_NAME_SAME</source>
         <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
-        <translation>Ein anderer Link hat bereits diesen Namen. Wählen Sie einen anderen.</translation>
+        <translation>Ein anderer Link hat bereits diesen Namen. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Diese Programmdatei gibt es nicht. Wählen Sie eine andere.</translation>
+        <translation>Diese Programmdatei gibt es nicht. Wählen Sie eine aus.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +795,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>Das Programm läuft hier weiter. Ein Klick auf das Symbol zeigt sein Fenster.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
-        <translation>Fenster zeigen</translation>
+        <translation>Fenster anzeigen</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect läuft hier weiter. Ein Klick auf das Symbol zeigt sein Fenster.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -40,20 +47,24 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation type="unfinished"></translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -172,6 +183,174 @@
     </message>
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>The link of %1 is in place again.</numerusform>
+            <numerusform>The %n links of %1 are in place again.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>The link of %1 can be brought back.</numerusform>
+            <numerusform>The %n links of %1 can be brought back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>The link of %1 is kept, but could not be put in place.</numerusform>
+            <numerusform>The %n links of %1 are kept, but could not be put in place.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n more</numerusform>
+            <numerusform>%n more</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -211,6 +390,30 @@
         <source>Not opened</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation type="unfinished"></translation>
     </message>
@@ -247,10 +446,6 @@
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close the program</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -293,11 +488,124 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Open when the program starts</translation>
+        <translation>Open when Vellum Connect starts</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +759,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>This program file does not exist. Choose another one.</translation>
+        <translation>There is no such program file. Choose one.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,15 +795,15 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>¿Abrir esta dirección con el programa para enlaces «%1»?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Dirección inusual</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>Muestra los textos en el idioma LANG, por ejemplo en o pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Imprime los enlaces rápidos y sale. No necesita pantalla.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>Gestor de conexiones con enlaces rápidos.</translation>
     </message>
@@ -40,20 +47,24 @@
         <translation>Valor vacío después de «--%1».</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Sigue las conexiones de tipo KIND: mobile (banda ancha móvil, lo predeterminado), any (cualquiera con una ruta predeterminada) o manual (usted pulsa un botón).</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>No existe este tipo de conexión: «%1».</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Vigila las conexiones de tipo KIND: mobile (banda ancha móvil, lo predeterminado), any (cualquiera con una ruta predeterminada) o manual (con un botón).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Muestra los enlaces rápidos y sale. No necesita una sesión gráfica.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Pruebe --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>No se pudo iniciar ningún programa para esta dirección:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager no está en ejecución</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Compilado sin NetworkManager</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -173,6 +184,174 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>Para abrir esto se necesita el programa «xdg-open», que no se pudo iniciar:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>No abierto</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Falta el archivo con sus enlaces rápidos.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>El archivo con sus enlaces rápidos está vacío.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>El archivo con sus enlaces rápidos está dañado.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>El archivo con sus enlaces rápidos es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>No se puede leer el archivo con sus enlaces rápidos.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>En el lugar del archivo con sus enlaces rápidos hay algo que no es un archivo.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>El disco está lleno.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>No tiene permiso para escribir en su carpeta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>El enlace del %1 está de nuevo en su lugar.</numerusform>
+            <numerusform>Los %n enlaces del %1 están de nuevo en su lugar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>El enlace del %1 se puede recuperar.</numerusform>
+            <numerusform>Los %n enlaces del %1 se pueden recuperar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>El enlace del %1 está guardado, pero no se pudo poner en su lugar.</numerusform>
+            <numerusform>Los %n enlaces del %1 están guardados, pero no se pudieron poner en su lugar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>No se conoce ningún estado anterior de los enlaces.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>Lo que había allí se ha guardado:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Recuperar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Dejar fuera</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>No se pudo guardar el cambio de sus enlaces rápidos.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Otro programa ha cambiado los enlaces rápidos. ¿Desea cargarlos o conservar los suyos?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>Car&amp;garlos</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Conservar los míos</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Intentar de nuevo</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>No se pudieron poner en su lugar los enlaces rápidos preparados para usted. El programa volverá a intentarlo la próxima vez que se inicie.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Añadido: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Quitado: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Editado: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Movido: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n más</numerusform>
+            <numerusform>%n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (ahora)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Enlaces</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Qué cambió</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Volver a este</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Los estados en que estuvieron sus enlaces rápidos, primero el más reciente; se guardan los últimos %1.</translation>
     </message>
 </context>
 <context>
@@ -211,6 +390,30 @@
         <source>Not opened</source>
         <translation>No abierto</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Esta dirección no es válida:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Las direcciones que son ellas mismas un script o una página no se abren nunca:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Este enlace no lleva a ninguna parte: no tiene ruta.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>La ruta de una aplicación o de un archivo debe empezar por «/»:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Hay demasiadas preguntas sin responder para preguntar también por esta dirección:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Esto es demasiado largo para abrirlo:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>No cargado: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Enlaces rápidos</translation>
     </message>
@@ -248,10 +447,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Cerrar el programa</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +488,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestor de conexiones con enlaces rápidos.&lt;/p&gt;&lt;p&gt;Software libre con licencia MIT.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Ed&amp;ición</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Deshacer el último cambio de los enlaces rápidos</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Rehacer el cambio deshecho</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>Com&amp;plementos dejados fuera…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Ver qué complementos fallaron o se bloquearon, y volver a cargarlos</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Complementos no cargados: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Salir del programa</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Dejar así</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Esto no se cargó porque %1 pertenece a otro usuario:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Esto no se cargó porque otros usuarios pueden modificar %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Esto no se cargó porque no se sabe quién puede modificar %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Esto no se cargó porque se hace pasar por los enlaces rápidos de este programa:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>El complemento %1 no respondió al iniciarse y se dejó fuera.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>El complemento %1 no terminó de iniciarse la última vez (falló o se bloqueó) y se dejó fuera.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>El complemento %1 no respondió al cerrarse y se dejó fuera.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>El complemento %1 no terminó de cerrarse la última vez (falló o se bloqueó) y se dejó fuera.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Complementos</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Cargar en el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Dejar fuera</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>«%1» ya no se abre por sí solo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>«%1» ya no se abre al conectarse.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>«%1» ya no tiene destinatario.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>«%1» ya no se abre al iniciar Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Abrir al iniciar el programa</translation>
+        <translation>Abrir al iniciar Vellum Connect</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +759,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Este archivo de programa no existe. Elija otro.</translation>
+        <translation>No existe este archivo de programa. Elija uno.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +795,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>El programa sigue aquí. Haga clic en el icono para ver su ventana.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>Mostrar la ventana</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect sigue funcionando aquí. Haga clic en el icono para mostrar su ventana.</translation>
     </message>
 </context>
 </TS>

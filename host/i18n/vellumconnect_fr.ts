@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Ouvrir cette adresse avec le programme pour les liens «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Adresse inhabituelle</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,12 +35,8 @@
         <translation>Affiche les textes dans la langue LANG, par exemple en ou pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Affiche les liens rapides et quitte. Ne nécessite pas d’écran.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
-        <translation>Gestionnaire de connexion avec liens rapides.</translation>
+        <translation>Gestionnaire de connexions avec liens rapides.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
@@ -40,20 +47,24 @@
         <translation>Valeur vide après «&#xa0;--%1&#xa0;».</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Suit les connexions de type KIND&#xa0;: mobile (haut débit mobile, par défaut), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>Ce type de connexion n’existe pas&#xa0;: «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Surveille les connexions de type KIND&#xa0;: mobile (haut débit mobile, par défaut), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Affiche les liens rapides et quitte. Ne nécessite pas de session graphique.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Essayez --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Aucun programme n’a pu être lancé pour cette adresse&#xa0;:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -125,7 +140,7 @@
     </message>
     <message>
         <source>The Internet is out of reach.</source>
-        <translation>Internet est injoignable.</translation>
+        <translation>Internet est inaccessible.</translation>
     </message>
     <message>
         <source>Press Connect when your connection is up.</source>
@@ -146,10 +161,6 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager n’est pas lancé</translation>
-    </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Compilé sans NetworkManager</translation>
     </message>
 </context>
 <context>
@@ -173,6 +184,174 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>L’ouverture nécessite le programme «&#xa0;xdg-open&#xa0;», qui n’a pas pu être lancé&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Non ouvert</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Le fichier de vos liens rapides manque.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>Le fichier de vos liens rapides est vide.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>Le fichier de vos liens rapides est endommagé.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>Le fichier de vos liens rapides est beaucoup trop grand.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>Le fichier de vos liens rapides ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>À la place du fichier de vos liens rapides se trouve quelque chose qui n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Le disque est plein.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans son dossier.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>Le lien du %1 est de nouveau en place.</numerusform>
+            <numerusform>Les %n liens du %1 sont de nouveau en place.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>Le lien du %1 peut être rétabli.</numerusform>
+            <numerusform>Les %n liens du %1 peuvent être rétablis.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>Le lien du %1 est conservé, mais n’a pas pu être remis en place.</numerusform>
+            <numerusform>Les %n liens du %1 sont conservés, mais n’ont pas pu être remis en place.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Aucun état antérieur des liens n’est connu.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>Ce qui s’y trouvait a été conservé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>La modification de vos liens rapides n’a pas pu être enregistrée.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Les liens rapides ont été modifiés par un autre programme. Voulez-vous les charger ou garder les vôtres&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>Les &amp;charger</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Garder les miens</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Liens rapides</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Les liens rapides préparés pour vous n’ont pas pu être mis en place. Le programme réessaiera à son prochain démarrage.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Ajouté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Supprimé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Modifié&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Déplacé&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n autre</numerusform>
+            <numerusform>%n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (maintenant)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Ce qui a changé</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Revenir à cet état</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Les états de vos liens rapides, du plus récent au plus ancien&#xa0;; les %1 derniers sont conservés.</translation>
     </message>
 </context>
 <context>
@@ -211,6 +390,30 @@
         <source>Not opened</source>
         <translation>Non ouvert</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Cette adresse n’est pas valide&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Les adresses qui sont elles-mêmes un script ou une page ne sont jamais ouvertes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Ce lien ne mène nulle part&#xa0;: il n’a pas de chemin.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>Le chemin d’une application ou d’un fichier doit commencer par «&#xa0;/&#xa0;»&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Trop de questions attendent une réponse pour demander aussi ce qu’il en est de cette adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Ceci est trop long pour être ouvert&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Non chargé&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Liens rapides</translation>
     </message>
@@ -248,10 +447,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Fermer le programme</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -291,7 +486,43 @@
     </message>
     <message>
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestionnaire de connexion avec liens rapides.&lt;/p&gt;&lt;p&gt;Logiciel libre sous licence MIT.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestionnaire de connexions avec liens rapides.&lt;/p&gt;&lt;p&gt;Logiciel libre sous licence MIT.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Édi&amp;tion</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Annuler la dernière modification des liens rapides</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Rétablir la modification annulée</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>&amp;Greffons laissés de côté…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Voir quels greffons ont planté ou se sont bloqués, et les charger à nouveau</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Greffons non chargés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Quitter le programme</translation>
     </message>
 </context>
 <context>
@@ -299,6 +530,83 @@
     <message>
         <source>Open %1</source>
         <translation>Ouvrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Laisser ainsi</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Ceci n’a pas été chargé, car %1 appartient à un autre utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Ceci n’a pas été chargé, car d’autres utilisateurs peuvent modifier %1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Ceci n’a pas été chargé, car on ne sait pas qui peut modifier %1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Ceci n’a pas été chargé, car il se fait passer pour les liens rapides de ce programme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>Le greffon %1 n’a pas répondu pendant son démarrage et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>Le greffon %1 n’a pas fini de démarrer la dernière fois (il a planté ou s’est bloqué) et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>Le greffon %1 n’a pas répondu pendant sa fermeture et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>Le greffon %1 n’a pas fini de se fermer la dernière fois (il a planté ou s’est bloqué) et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Greffons</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Charger au prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Laisser de côté</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>«&#xa0;%1&#xa0;» ne s’ouvre plus automatiquement.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>«&#xa0;%1&#xa0;» ne s’ouvre plus à la connexion.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a plus de destinataire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>«&#xa0;%1&#xa0;» ne s’ouvre plus au démarrage de Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Ouvrir au démarrage du programme</translation>
+        <translation>Ouvrir quand Vellum Connect démarre</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +759,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Ce fichier de programme n’existe pas. Choisissez-en un autre.</translation>
+        <translation>Ce fichier de programme n’existe pas. Choisissez-en un.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +795,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>Le programme continue ici. Cliquez sur l’icône pour voir sa fenêtre.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>Afficher la fenêtre</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect continue de fonctionner ici. Cliquez sur l’icône pour afficher sa fenêtre.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hi" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>यह पता &quot;%1&quot; लिंक के प्रोग्राम से खोलें?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>असामान्य पता</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>पाठ LANG भाषा में दिखाता है, जैसे en या pt_BR।</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>त्वरित लिंक छापकर बंद होता है। डिस्प्ले की ज़रूरत नहीं।</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>त्वरित लिंक वाला कनेक्शन प्रबंधक।</translation>
     </message>
@@ -40,20 +47,24 @@
         <translation>&quot;--%1&quot; के बाद खाली मान है।</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>KIND प्रकार के कनेक्शन पर ध्यान देता है: mobile (मोबाइल ब्रॉडबैंड, डिफ़ॉल्ट), any (जिसका भी डिफ़ॉल्ट रूट हो) या manual (आप बटन दबाते हैं)।</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>ऐसा कोई कनेक्शन प्रकार नहीं है: &quot;%1&quot;।</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>KIND प्रकार के कनेक्शन पर नज़र रखता है: mobile (मोबाइल ब्रॉडबैंड, डिफ़ॉल्ट), any (जिसका भी डिफ़ॉल्ट रूट हो) या manual (आप बटन दबाते हैं)।</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>त्वरित लिंक दिखाकर बंद होता है। ग्राफ़िकल सत्र की ज़रूरत नहीं।</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 --help देखें।</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>केवल इंटरनेट पते (http, https और ftp) खोले जाते हैं। यह ऐसा पता नहीं है:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>इस पते के लिए कोई प्रोग्राम शुरू नहीं हो सका:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>रद्द करें</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>केवल इंटरनेट पते (http, https और ftp) खोले जाते हैं। यह ऐसा पता नहीं है:</translation>
     </message>
 </context>
 <context>
@@ -141,15 +156,11 @@
     </message>
     <message>
         <source>before this program started</source>
-        <translation>यह प्रोग्राम शुरू होने से पहले</translation>
+        <translation>यह प्रोग्राम शुरू होने से पहले से</translation>
     </message>
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager नहीं चल रहा है</translation>
-    </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>NetworkManager के बिना बना</translation>
     </message>
 </context>
 <context>
@@ -173,6 +184,174 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>इसे खोलने के लिए &quot;xdg-open&quot; प्रोग्राम चाहिए, जो शुरू नहीं हो सका:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>नहीं खुला</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>और %n अन्य</numerusform>
+            <numerusform>और %n अन्य</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल नहीं है।</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल खाली है।</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल क्षतिग्रस्त है।</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल बहुत बड़ी है।</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल पढ़ी नहीं जा सकती।</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>आपके त्वरित लिंक की फ़ाइल की जगह कुछ ऐसा है जो फ़ाइल नहीं है।</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>डिस्क भरी हुई है।</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>आपको इसके फ़ोल्डर में लिखने की अनुमति नहीं है।</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>%1 का लिंक फिर से अपनी जगह पर है।</numerusform>
+            <numerusform>%1 के %n लिंक फिर से अपनी जगह पर हैं।</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>%1 का लिंक वापस लाया जा सकता है।</numerusform>
+            <numerusform>%1 के %n लिंक वापस लाए जा सकते हैं।</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>%1 का लिंक सुरक्षित है, पर अपनी जगह पर नहीं लाया जा सका।</numerusform>
+            <numerusform>%1 के %n लिंक सुरक्षित हैं, पर अपनी जगह पर नहीं लाए जा सके।</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>लिंक की कोई पिछली स्थिति ज्ञात नहीं है।</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>वहाँ जो मिला, वह सुरक्षित रखा गया:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>वापस लाएँ (&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>छोड़ दें (&amp;L)</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>आपके त्वरित लिंक का बदलाव सहेजा नहीं जा सका।</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>किसी दूसरे प्रोग्राम ने त्वरित लिंक बदल दिए हैं। क्या आप उन्हें लोड करना चाहते हैं या अपने रखना चाहते हैं?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>लोड करें (&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>मेरे रखें (&amp;K)</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>त्वरित लिंक</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>फिर से कोशिश करें (&amp;T)</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>आपके लिए तैयार किए गए त्वरित लिंक अपनी जगह पर नहीं रखे जा सके। प्रोग्राम अगली बार शुरू होने पर फिर कोशिश करेगा।</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>जोड़ा गया: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>हटाया गया: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>संपादित: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>खिसकाया गया: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n और</numerusform>
+            <numerusform>%n और</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>इतिहास</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (अभी)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>समय</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>लिंक</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>क्या बदला</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>इस पर वापस जाएँ (&amp;G)</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>आपके त्वरित लिंक की अवस्थाएँ, सबसे नई पहले; पिछली %1 रखी जाती हैं।</translation>
     </message>
 </context>
 <context>
@@ -211,6 +390,30 @@
         <source>Not opened</source>
         <translation>नहीं खुला</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>यह पता मान्य नहीं है:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>जो पते स्वयं स्क्रिप्ट या पेज हैं, वे कभी नहीं खोले जाते:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>यह लिंक कहीं नहीं ले जाता: इसमें कोई पथ नहीं है।</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>एप्लिकेशन या फ़ाइल का पथ &quot;/&quot; से शुरू होना चाहिए:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>बहुत सारे प्रश्न उत्तर की प्रतीक्षा में हैं, इसलिए इस पते के बारे में नहीं पूछा गया:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>यह खोलने के लिए बहुत लंबा है:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>लोड नहीं हुआ: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>त्वरित लिंक</translation>
     </message>
@@ -248,10 +447,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>बाहर निकलें (&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>प्रोग्राम बंद करें</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +488,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;त्वरित लिंक वाला कनेक्शन प्रबंधक।&lt;/p&gt;&lt;p&gt;MIT लाइसेंस के अंतर्गत मुक्त सॉफ़्टवेयर।&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>संपादन (&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>पूर्ववत करें (&amp;U)</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>त्वरित लिंक का पिछला बदलाव वापस लें</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>फिर से करें (&amp;R)</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>वापस लिया गया बदलाव फिर से करें</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>छोड़े गए प्लग-इन (&amp;P)…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>देखें कि कौन-से प्लग-इन क्रैश हुए या अटके, और उन्हें फिर से लोड करें</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>ये प्लग-इन लोड नहीं हुए: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>प्रोग्राम से बाहर निकलें</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>%1 खोलें</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>लौटाएँ (&amp;P)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>ऐसे ही रहने दें (&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>इसे लोड नहीं किया गया, क्योंकि %1 किसी दूसरे उपयोगकर्ता का है:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>इसे लोड नहीं किया गया, क्योंकि दूसरे उपयोगकर्ता %1 को बदल सकते हैं:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>इसे लोड नहीं किया गया, क्योंकि यह पता नहीं कि %1 को कौन बदल सकता है:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>इसे लोड नहीं किया गया, क्योंकि यह खुद को इस प्रोग्राम के त्वरित लिंक बताता है:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>प्लग-इन %1 ने शुरू होते समय जवाब नहीं दिया और उसे छोड़ दिया गया।</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>प्लग-इन %1 पिछली बार पूरी तरह शुरू नहीं हुआ (वह क्रैश हुआ या अटक गया) और उसे छोड़ दिया गया।</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>प्लग-इन %1 ने बंद होते समय जवाब नहीं दिया और उसे छोड़ दिया गया।</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>प्लग-इन %1 पिछली बार पूरी तरह बंद नहीं हुआ (वह क्रैश हुआ या अटक गया) और उसे छोड़ दिया गया।</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>प्लग-इन</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>अगली शुरुआत पर लोड करें (&amp;L)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>छोड़ दें (&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>&quot;%1&quot; अब अपने आप नहीं खुलता।</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>कनेक्ट होने पर &quot;%1&quot; अब नहीं खुलता।</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>&quot;%1&quot; का अब कोई प्राप्तकर्ता नहीं है।</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>Vellum Connect शुरू होने पर &quot;%1&quot; अब नहीं खुलता।</translation>
     </message>
 </context>
 <context>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>प्रोग्राम शुरू होने पर खोलें</translation>
+        <translation>Vellum Connect शुरू होने पर खोलें</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +759,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>यह प्रोग्राम फ़ाइल मौजूद नहीं है। कोई दूसरी चुनें।</translation>
+        <translation>ऐसी कोई प्रोग्राम फ़ाइल नहीं है। कोई एक चुनें।</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +795,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>प्रोग्राम यहाँ चलता रहता है। इसकी विंडो देखने के लिए आइकन पर क्लिक करें।</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>विंडो दिखाएँ</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>बाहर निकलें</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect यहाँ चलता रहता है। इसकी विंडो दिखाने के लिए आइकन पर क्लिक करें।</translation>
     </message>
 </context>
 </TS>

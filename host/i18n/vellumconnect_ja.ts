@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>このアドレスを「%1」リンク用のプログラムで開きますか?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>特殊なアドレス</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>言語 LANG (en や pt_BR など) で表示します。</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>クイックリンクを出力して終了します。画面は不要です。</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>クイックリンクを備えた接続マネージャー。</translation>
     </message>
@@ -40,20 +47,24 @@
         <translation>「--%1」の後の値が空です。</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>種類 KIND の接続を追います: mobile (モバイルブロードバンド、既定)、any (既定の経路を持つものすべて)、manual (ボタンを押す)。</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>この種類の接続はありません: 「%1」</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>種類 KIND の接続を監視します: mobile (モバイルブロードバンド、既定)、any (既定の経路を持つものすべて)、manual (ボタンを押す)。</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>クイックリンクを出力して終了します。グラフィカルセッションは不要です。</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 --help を参照してください。</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>開けるのはインターネットアドレス (http、https、ftp) だけです。これは該当しません:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>このアドレスを開くプログラムを起動できませんでした:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>開けるのはインターネットアドレス (http、https、ftp) だけです。これは該当しません:</translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager が動作していません</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>NetworkManager なしでビルドされています</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -173,6 +184,169 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>これを開くにはプログラム「xdg-open」が必要ですが、起動できませんでした:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>開けませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>他 %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>クイックリンクのファイルがありません。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>クイックリンクのファイルが空です。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>クイックリンクのファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>クイックリンクのファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>クイックリンクのファイルを読み取れません。</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>クイックリンクのファイルの場所に、ファイルではないものがあります。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>ディスクがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>そのフォルダーに書き込む権限がありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>%1 のリンク %n 件を元に戻しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>%1 のリンク %n 件を元に戻せます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>%1 のリンク %n 件は保存されていますが、元に戻せませんでした。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>リンクの以前の状態はわかっていません。</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>そこにあったものはここに保存しました:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>元に戻す(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>そのままにする(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>クイックリンクの変更を保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>クイックリンクが別のプログラムによって変更されました。読み込みますか、それとも今のものを残しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>読み込む(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>今のものを残す(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>クイックリンク</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>あらかじめ用意されたクイックリンクを配置できませんでした。次回の起動時にもう一度試みます。</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>追加: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>削除: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>編集: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>移動: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>他 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (現在)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>リンク数</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>変更内容</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>この状態に戻す(&amp;G)</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>クイックリンクのこれまでの状態 (新しい順)。最新の %1 件が保存されます。</translation>
     </message>
 </context>
 <context>
@@ -211,6 +385,30 @@
         <source>Not opened</source>
         <translation>開けませんでした</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>これは有効なアドレスではありません:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>それ自体がスクリプトやページであるアドレスは開きません:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>このリンクには行き先がありません。パスがありません。</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>アプリケーションやファイルのパスは「/」で始まる必要があります:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>回答待ちの質問が多すぎるため、このアドレスについては確認できません:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>長すぎるため開けません:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +428,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>読み込まれていません: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>クイックリンク</translation>
     </message>
@@ -248,10 +442,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>プログラムを閉じる</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +483,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;クイックリンクを備えた接続マネージャー。&lt;/p&gt;&lt;p&gt;MIT ライセンスの自由ソフトウェアです。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>クイックリンクの最後の変更を取り消します</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>取り消した変更をもう一度行います</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>読み込まないプラグイン(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>異常終了または停止したプラグインを確認し、もう一度読み込む</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>読み込まれていないプラグイン: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>プログラムを終了</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>%1 を開く</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>元に戻す(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>このままにする(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>%1 の所有者が別のユーザーのため、これは読み込まれませんでした:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>ほかのユーザーが %1 を変更できるため、これは読み込まれませんでした:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>%1 を変更できるユーザーが不明なため、これは読み込まれませんでした:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>このプログラムのクイックリンクになりすましているため、これは読み込まれませんでした:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>プラグイン %1 は起動中に応答しなくなったため、読み込みませんでした。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>プラグイン %1 は前回、起動を完了しなかった (異常終了または停止した) ため、読み込みませんでした。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>プラグイン %1 は終了中に応答しなくなったため、読み込みませんでした。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>プラグイン %1 は前回、終了を完了しなかった (異常終了または停止した) ため、読み込みませんでした。</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>次回の起動時に読み込む(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>読み込まない(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>「%1」は自動的に開かなくなりました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>「%1」は接続時に開かなくなりました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>「%1」に宛先がなくなりました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>「%1」は Vellum Connect の起動時に開かなくなりました。</translation>
     </message>
 </context>
 <context>
@@ -416,7 +719,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>プログラムの起動時に開く</translation>
+        <translation>Vellum Connect の起動時に開く</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +754,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>このプログラムファイルは存在しません。別のファイルを選んでください。</translation>
+        <translation>このプログラムファイルは存在しません。ファイルを選んでください。</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +790,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>プログラムはここで動作を続けます。アイコンをクリックするとウィンドウが表示されます。</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>ウィンドウを表示</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>終了</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect はここで動作を続けます。アイコンをクリックするとウィンドウが表示されます。</translation>
     </message>
 </context>
 </TS>

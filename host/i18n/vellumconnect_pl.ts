@@ -2,14 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Otworzyć ten adres programem do odnośników „%1”?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Nietypowy adres</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
-        <translation>Wyświetla tę pomoc i kończy.</translation>
+        <translation>Wyświetla tę pomoc i kończy działanie.</translation>
     </message>
     <message>
         <source>Show the version and exit.</source>
-        <translation>Wyświetla wersję i kończy.</translation>
+        <translation>Wyświetla wersję i kończy działanie.</translation>
     </message>
     <message>
         <source>Keep your own data in DIR.</source>
@@ -24,12 +35,8 @@
         <translation>Wyświetla teksty w języku LANG, np. en lub pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Wypisuje szybkie łącza i kończy. Nie wymaga ekranu.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
-        <translation>Menedżer połączeń z szybkimi łączami.</translation>
+        <translation>Menedżer połączeń z szybkimi odnośnikami.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
@@ -40,20 +47,24 @@
         <translation>Pusta wartość po „--%1”.</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>Nie ma takiego rodzaju połączenia: „%1”.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Śledzi połączenia rodzaju KIND: mobile (komórkowe szerokopasmowe, domyślnie), any (każde z trasą domyślną) lub manual (naciskasz przycisk).</translation>
     </message>
     <message>
-        <source>No such kind of connection: &quot;%1&quot;.</source>
-        <translation>Nie ma takiego rodzaju połączenia: „%1”.</translation>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Wypisuje szybkie odnośniki i kończy działanie. Nie wymaga sesji graficznej.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Zobacz --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Nie udało się uruchomić programu dla tego adresu:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
     </message>
 </context>
 <context>
@@ -97,7 +112,7 @@
     </message>
     <message>
         <source>Since:</source>
-        <translation>Od:</translation>
+        <translation>Początek:</translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager nie działa</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Zbudowano bez NetworkManagera</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -176,6 +187,179 @@
     </message>
 </context>
 <context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Nie otwarto</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Brak pliku z szybkimi odnośnikami.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>Plik z szybkimi odnośnikami jest pusty.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>Plik z szybkimi odnośnikami jest uszkodzony.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>Plik z szybkimi odnośnikami jest o wiele za duży.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>Nie można odczytać pliku z szybkimi odnośnikami.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>W miejscu pliku z szybkimi odnośnikami jest coś, co nie jest plikiem.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Dysk jest pełny.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>Brak uprawnień do zapisu w jego folderze.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>Odnośnik z %1 jest znów na miejscu.</numerusform>
+            <numerusform>%n odnośniki z %1 są znów na miejscu.</numerusform>
+            <numerusform>%n odnośników z %1 jest znów na miejscu.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>Odnośnik z %1 można przywrócić.</numerusform>
+            <numerusform>%n odnośniki z %1 można przywrócić.</numerusform>
+            <numerusform>%n odnośników z %1 można przywrócić.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>Odnośnik z %1 jest zachowany, ale nie udało się go przywrócić.</numerusform>
+            <numerusform>%n odnośniki z %1 są zachowane, ale nie udało się ich przywrócić.</numerusform>
+            <numerusform>%n odnośników z %1 jest zachowanych, ale nie udało się ich przywrócić.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Nie jest znany żaden wcześniejszy stan odnośników.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>To, co tam było, zostało zachowane:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Przywróć</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>P&amp;omiń</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>Nie udało się zapisać zmiany szybkich odnośników.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Inny program zmienił szybkie odnośniki. Wczytać je czy zachować własne?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>&amp;Wczytaj</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Zachowaj moje</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Szybkie odnośniki</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Nie udało się umieścić przygotowanych dla Ciebie szybkich odnośników. Program spróbuje ponownie przy następnym uruchomieniu.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Dodano: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Usunięto: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Zmieniono: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Przeniesiono: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>jeszcze %n</numerusform>
+            <numerusform>jeszcze %n</numerusform>
+            <numerusform>jeszcze %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (teraz)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Odnośniki</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Co się zmieniło</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Wróć do tego</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Stany, w jakich były szybkie odnośniki, od najnowszego; przechowywane jest ostatnich %1.</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -190,18 +374,18 @@
     <name>LinkButtons</name>
     <message>
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
-        <translation>Nie ma jeszcze szybkich łączy. Dodaj je przez Narzędzia &gt; Ustawienia.</translation>
+        <translation>Nie ma jeszcze szybkich odnośników. Dodaj je przez Narzędzia &gt; Ustawienia.</translation>
     </message>
 </context>
 <context>
     <name>LinkOpener</name>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
-        <translation>Nie ma takiego pliku ani folderu albo nie masz prawa go zobaczyć:</translation>
+        <translation>Nie ma takiego pliku ani folderu albo brak uprawnień do wyświetlenia:</translation>
     </message>
     <message>
         <source>You are not allowed to open this:</source>
-        <translation>Nie masz prawa tego otworzyć:</translation>
+        <translation>Brak uprawnień do otwarcia:</translation>
     </message>
     <message>
         <source>This program could not be started:</source>
@@ -210,6 +394,30 @@
     <message>
         <source>Not opened</source>
         <translation>Nie otwarto</translation>
+    </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>To nie jest prawidłowy adres:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Adresy, które same są skryptem lub stroną, nigdy nie są otwierane:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Ten odnośnik donikąd nie prowadzi: nie ma ścieżki.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>Ścieżka aplikacji lub pliku musi zaczynać się od „/”:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Zbyt wiele pytań czeka na odpowiedź, aby zapytać także o ten adres:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>To jest zbyt długie, aby to otworzyć:</translation>
     </message>
 </context>
 <context>
@@ -224,22 +432,18 @@
     </message>
     <message>
         <source>No quick links</source>
-        <translation>Brak szybkich łączy</translation>
+        <translation>Brak szybkich odnośników</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Nie wczytano: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
-        <translation>Szybkie łącza</translation>
+        <translation>Szybkie odnośniki</translation>
     </message>
     <message>
         <source>No quick links</source>
-        <translation>Brak szybkich łączy</translation>
+        <translation>Brak szybkich odnośników</translation>
     </message>
     <message>
         <source>&amp;Connection</source>
@@ -250,12 +454,8 @@
         <translation>Za&amp;kończ</translation>
     </message>
     <message>
-        <source>Close the program</source>
-        <translation>Zamknij program</translation>
-    </message>
-    <message>
         <source>&amp;Quick Links</source>
-        <translation>&amp;Szybkie łącza</translation>
+        <translation>&amp;Szybkie odnośniki</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -267,7 +467,7 @@
     </message>
     <message>
         <source>Add, change and order quick links</source>
-        <translation>Dodawanie, zmiana i porządkowanie szybkich łączy</translation>
+        <translation>Dodawanie, zmiana i porządkowanie szybkich odnośników</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -291,7 +491,43 @@
     </message>
     <message>
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Menedżer połączeń z szybkimi łączami.&lt;/p&gt;&lt;p&gt;Wolne oprogramowanie na licencji MIT.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Menedżer połączeń z szybkimi odnośnikami.&lt;/p&gt;&lt;p&gt;Wolne oprogramowanie na licencji MIT.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edycja</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Cofa ostatnią zmianę szybkich odnośników</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Ponawia cofniętą zmianę</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>&amp;Pominięte wtyczki…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Pokaż wtyczki, które uległy awarii lub zawiesiły się, i wczytaj je ponownie</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Nie wczytano wtyczek: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Zakończ działanie programu</translation>
     </message>
 </context>
 <context>
@@ -302,16 +538,93 @@
     </message>
 </context>
 <context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Przywróć</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>Zostaw &amp;tak</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Tego nie wczytano, ponieważ %1 należy do innego użytkownika:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Tego nie wczytano, ponieważ inni użytkownicy mogą zmieniać %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Tego nie wczytano, ponieważ nie wiadomo, kto może zmieniać %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Tego nie wczytano, ponieważ podaje się za szybkie odnośniki tego programu:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>Wtyczka %1 nie odpowiadała podczas uruchamiania i została pominięta.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>Wtyczka %1 nie dokończyła ostatnio uruchamiania (uległa awarii lub zawiesiła się) i została pominięta.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>Wtyczka %1 nie odpowiadała podczas zamykania i została pominięta.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>Wtyczka %1 nie dokończyła ostatnio zamykania (uległa awarii lub zawiesiła się) i została pominięta.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Wtyczki</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Wczytaj przy następnym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Pomiń</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>„%1” nie otwiera się już samo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>„%1” nie otwiera się już po połączeniu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>„%1” nie ma już odbiorcy.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>„%1” nie otwiera się już po uruchomieniu Vellum Connect.</translation>
+    </message>
+</context>
+<context>
     <name>QuickLinkUIPlugin</name>
     <message>
         <source>IDS_SETTING_NAME</source>
         <extracomment>Caption of the page in the list of the settings dialog. Up to about 20 characters.</extracomment>
-        <translation>Szybkie łącza</translation>
+        <translation>Szybkie odnośniki</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_TAB</source>
         <extracomment>Title of the only tab of the settings page, above the table. Up to about 30 characters (the tab widget is 280 pixels wide).</extracomment>
-        <translation>Szybkie łącza</translation>
+        <translation>Szybkie odnośniki</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_ORDER</source>
@@ -341,7 +654,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW</source>
         <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
-        <translation>&amp;Nowe…</translation>
+        <translation>&amp;Nowy…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_EDIT</source>
@@ -356,12 +669,12 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_TITLE</source>
         <extracomment>Title of the dialog for a new link. Up to about 16 characters: most desktops put the program&apos;s name behind it.</extracomment>
-        <translation>Nowe łącze</translation>
+        <translation>Nowy odnośnik</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_EDIT_TITLE</source>
         <extracomment>Title of the dialog that changes a link. As IDS_LINK_SETTING_NEW_TITLE.</extracomment>
-        <translation>Edycja łącza</translation>
+        <translation>Edycja odnośnika</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_NAME</source>
@@ -416,7 +729,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Otwórz przy starcie programu</translation>
+        <translation>Otwórz przy starcie Vellum Connect</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -436,7 +749,7 @@
     <message>
         <source>IDS_LINK_PROMPT</source>
         <extracomment>Title of every message about quick links. Up to about 30 characters.</extracomment>
-        <translation>Szybkie łącza</translation>
+        <translation>Szybkie odnośniki</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_INVALID_URL</source>
@@ -446,17 +759,17 @@
     <message>
         <source>IDS_LINK_SETTING_NAME_SAME</source>
         <extracomment>Message: the dialog&apos;s name is in use. A sentence or two.</extracomment>
-        <translation>Inne szybkie łącze ma już tę nazwę. Wybierz inną.</translation>
+        <translation>Inny szybki odnośnik ma już tę nazwę. Wybierz inną.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Ten plik programu nie istnieje. Wybierz inny.</translation>
+        <translation>Nie ma takiego pliku programu. Wskaż plik.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
         <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
-        <translation>Usunąć zaznaczone szybkie łącze?</translation>
+        <translation>Usunąć zaznaczony szybki odnośnik?</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -487,16 +800,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>Program działa dalej tutaj. Kliknij ikonę, aby zobaczyć okno.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>Pokaż okno</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect działa dalej tutaj. Kliknij ikonę, aby pokazać jego okno.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Abrir este endereço com o programa para links &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Endereço incomum</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -21,15 +32,11 @@
     </message>
     <message>
         <source>Show texts in the language LANG, such as en or pt_BR.</source>
-        <translation>Mostra os textos na língua LANG, por exemplo en ou pt_BR.</translation>
-    </message>
-    <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Imprime os atalhos e sai. Não precisa de monitor.</translation>
+        <translation>Mostra os textos no idioma LANG, por exemplo en ou pt_BR.</translation>
     </message>
     <message>
         <source>Connection manager with quick links.</source>
-        <translation>Gestor de conexões com atalhos.</translation>
+        <translation>Gerenciador de conexões com atalhos.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
@@ -37,23 +44,27 @@
     </message>
     <message>
         <source>Empty value after &quot;--%1&quot;.</source>
-        <translation>Valor vazio depois de &quot;--%1&quot;.</translation>
-    </message>
-    <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Segue as conexões do tipo KIND: mobile (banda larga móvel, o padrão), any (qualquer uma com rota padrão) ou manual (por um botão).</translation>
+        <translation>Valor vazio após &quot;--%1&quot;.</translation>
     </message>
     <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>Não existe este tipo de conexão: &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Monitora as conexões do tipo KIND: mobile (banda larga móvel, o padrão), any (qualquer uma com rota padrão) ou manual (por um botão).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Lista os atalhos e sai. Não precisa de sessão gráfica.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Veja --help.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Só são abertos endereços de Internet (http, https e ftp). Este não é um deles:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Não foi possível iniciar um programa para este endereço:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Somente endereços da Internet (http, https e ftp) são abertos. Este não é um deles:</translation>
     </message>
 </context>
 <context>
@@ -113,7 +128,7 @@
     </message>
     <message>
         <source>Connecting…</source>
-        <translation>Conexão em curso…</translation>
+        <translation>Conectando…</translation>
     </message>
     <message>
         <source>Not connected</source>
@@ -121,7 +136,7 @@
     </message>
     <message>
         <source>This network asks for a login first.</source>
-        <translation>Esta rede pede primeiro um início de sessão.</translation>
+        <translation>Esta rede exige login primeiro.</translation>
     </message>
     <message>
         <source>The Internet is out of reach.</source>
@@ -133,11 +148,11 @@
     </message>
     <message>
         <source>Waiting for mobile broadband.</source>
-        <translation>À espera da banda larga móvel.</translation>
+        <translation>Aguardando a banda larga móvel.</translation>
     </message>
     <message>
         <source>Waiting for a connection.</source>
-        <translation>À espera de uma conexão.</translation>
+        <translation>Aguardando uma conexão.</translation>
     </message>
     <message>
         <source>before this program started</source>
@@ -147,32 +162,196 @@
         <source>NetworkManager is not running</source>
         <translation>O NetworkManager não está em execução</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Compilado sem NetworkManager</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
     <message>
         <source>There is no such file or folder:</source>
-        <translation>Não existe nada neste caminho:</translation>
+        <translation>Este arquivo ou pasta não existe:</translation>
     </message>
     <message>
         <source>No program was found that opens this:</source>
-        <translation>Não foi encontrado um programa que abra isto:</translation>
+        <translation>Nenhum programa que abra isto foi encontrado:</translation>
     </message>
     <message>
         <source>The program that opens this reported a failure:</source>
-        <translation>O programa que abre isto comunicou uma falha:</translation>
+        <translation>O programa que abre isto informou um erro:</translation>
     </message>
     <message>
         <source>The desktop could not open this:</source>
-        <translation>O ambiente de trabalho não conseguiu abrir isto:</translation>
+        <translation>A área de trabalho não conseguiu abrir isto:</translation>
     </message>
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>Para abrir isto é necessário o programa &quot;xdg-open&quot;, que não pôde ser iniciado:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Não aberto</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>O arquivo com os seus atalhos não existe.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>O arquivo com os seus atalhos está vazio.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>O arquivo com os seus atalhos está danificado.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>O arquivo com os seus atalhos é grande demais.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>O arquivo com os seus atalhos não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>No lugar do arquivo com os seus atalhos há algo que não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>O disco está cheio.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>Você não tem permissão para gravar na pasta dele.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>O atalho de %1 está de volta.</numerusform>
+            <numerusform>Os %n atalhos de %1 estão de volta.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>O atalho de %1 pode ser recuperado.</numerusform>
+            <numerusform>Os %n atalhos de %1 podem ser recuperados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>O atalho de %1 está guardado, mas não pôde ser recolocado.</numerusform>
+            <numerusform>Os %n atalhos de %1 estão guardados, mas não puderam ser recolocados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Nenhum estado anterior dos atalhos é conhecido.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>O que havia lá foi guardado:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Recuperar</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>A alteração dos seus atalhos não pôde ser salva.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Os atalhos foram alterados por outro programa. Deseja carregá-los ou manter os seus?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>&amp;Carregar</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Manter os meus</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Os atalhos preparados para você não puderam ser colocados no lugar. O programa tentará de novo na próxima vez que for iniciado.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Adicionado: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Removido: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Editado: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Movido: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>mais %n</numerusform>
+            <numerusform>mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (agora)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>O que mudou</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Voltar a este</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Os estados em que os seus atalhos estiveram, do mais recente ao mais antigo; os últimos %1 são mantidos.</translation>
     </message>
 </context>
 <context>
@@ -197,11 +376,11 @@
     <name>LinkOpener</name>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
-        <translation>Não existe nada neste caminho, ou não tem permissão para o ver:</translation>
+        <translation>Este arquivo ou pasta não existe, ou você não tem permissão para vê-lo:</translation>
     </message>
     <message>
         <source>You are not allowed to open this:</source>
-        <translation>Não tem permissão para abrir isto:</translation>
+        <translation>Você não tem permissão para abrir isto:</translation>
     </message>
     <message>
         <source>This program could not be started:</source>
@@ -210,6 +389,30 @@
     <message>
         <source>Not opened</source>
         <translation>Não aberto</translation>
+    </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Este endereço não é válido:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Endereços que são eles próprios um script ou uma página nunca são abertos:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Este atalho não leva a lugar nenhum: não tem caminho.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>O caminho de um aplicativo ou arquivo deve começar com &quot;/&quot;:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Há perguntas demais aguardando resposta para perguntar também sobre este endereço:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Isto é longo demais para ser aberto:</translation>
     </message>
 </context>
 <context>
@@ -230,10 +433,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Não carregado: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Atalhos</translation>
     </message>
@@ -248,10 +447,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Fechar o programa</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -271,11 +466,11 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
+        <translation>E&amp;xibir</translation>
     </message>
     <message>
         <source>&amp;Status Bar</source>
-        <translation>Barra de &amp;estado</translation>
+        <translation>Barra de &amp;status</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -291,7 +486,43 @@
     </message>
     <message>
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gestor de conexões com atalhos.&lt;/p&gt;&lt;p&gt;Software livre sob a licença MIT.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Gerenciador de conexões com atalhos.&lt;/p&gt;&lt;p&gt;Software livre sob a licença MIT.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Desfazer a última alteração dos atalhos</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Refazer a alteração desfeita</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>&amp;Plug-ins deixados de fora…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Ver quais plug-ins falharam ou travaram, e carregá-los de novo</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Plug-ins não carregados: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Sair do programa</translation>
     </message>
 </context>
 <context>
@@ -299,6 +530,83 @@
     <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Deixar assim</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Isto não foi carregado, porque %1 pertence a outro usuário:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Isto não foi carregado, porque outros usuários podem alterar %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Isto não foi carregado, porque não se sabe quem pode alterar %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Isto não foi carregado, porque se faz passar pelos atalhos deste programa:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>O plug-in %1 não respondeu ao iniciar e foi deixado de fora.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>O plug-in %1 não terminou de iniciar da última vez (falhou ou travou) e foi deixado de fora.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>O plug-in %1 não respondeu ao encerrar e foi deixado de fora.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>O plug-in %1 não terminou de encerrar da última vez (falhou ou travou) e foi deixado de fora.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Carregar no próximo início</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Deixar de fora</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>&quot;%1&quot; não abre mais sozinho.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>&quot;%1&quot; não abre mais ao conectar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>&quot;%1&quot; não tem mais destinatário.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>&quot;%1&quot; não abre mais ao iniciar o Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -351,7 +659,7 @@
     <message>
         <source>IDS_LINK_SETTING_DEL</source>
         <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
-        <translation>E&amp;liminar</translation>
+        <translation>E&amp;xcluir</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TITLE</source>
@@ -376,7 +684,7 @@
     <message>
         <source>IDS_LINK_TYPE_APPLICATION</source>
         <extracomment>Type of a link that starts a program: in the dialog&apos;s choice and on its tab, and in the table. Up to about 13 characters (100 pixels).</extracomment>
-        <translation>Aplicação</translation>
+        <translation>Aplicativo</translation>
     </message>
     <message>
         <source>IDS_LINK_TYPE_E-MAIL</source>
@@ -391,7 +699,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_URL</source>
         <extracomment>Label above the field with the path of the program. Up to about 25 characters (184 pixels).</extracomment>
-        <translation>Programa:</translation>
+        <translation>Arquivo do programa:</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
@@ -416,7 +724,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Abrir ao iniciar o programa</translation>
+        <translation>Abrir ao iniciar o Vellum Connect</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -441,7 +749,7 @@
     <message>
         <source>IDS_LINK_SETTING_INVALID_URL</source>
         <extracomment>Message: the address of the link that was picked is none. A sentence or two; keep what stands in quotation marks.</extracomment>
-        <translation>Não é possível abrir este endereço. Um endereço tem de conter &quot;http://&quot;, &quot;https://&quot;, &quot;ftp&quot; ou &quot;www.&quot;.</translation>
+        <translation>Não é possível abrir este endereço. Um endereço deve conter &quot;http://&quot;, &quot;https://&quot;, &quot;ftp&quot; ou &quot;www.&quot;.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NAME_SAME</source>
@@ -451,12 +759,12 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Este programa não existe. Escolha outro.</translation>
+        <translation>Este arquivo de programa não existe. Escolha um.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
         <extracomment>Question before a link is deleted, with the buttons IDS_OK and IDS_CANCEL. A sentence or two.</extracomment>
-        <translation>Eliminar o atalho selecionado?</translation>
+        <translation>Excluir o atalho selecionado?</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -487,16 +795,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>O programa continua aqui. Clique no ícone para ver a janela.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
-        <translation>Mostrar a janela</translation>
+        <translation>Mostrar janela</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>O Vellum Connect continua em execução aqui. Clique no ícone para mostrar a janela.</translation>
     </message>
 </context>
 </TS>

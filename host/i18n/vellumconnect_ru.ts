@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Открыть этот адрес программой для ссылок «%1»?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Необычный адрес</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>Показывать тексты на языке LANG, например en или pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Вывести быстрые ссылки и выйти. Дисплей не нужен.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>Диспетчер подключений с быстрыми ссылками.</translation>
     </message>
@@ -40,20 +47,24 @@
         <translation>Пустое значение после «--%1».</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <source>No such kind of connection: &quot;%1&quot;.</source>
+        <translation>Нет такого вида подключения: «%1».</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Следить за подключениями вида KIND: mobile (мобильное широкополосное, по умолчанию), any (любое с маршрутом по умолчанию) или manual (вы нажимаете кнопку).</translation>
     </message>
     <message>
-        <source>No such kind of connection: &quot;%1&quot;.</source>
-        <translation>Нет такого вида подключения: «%1».</translation>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Вывести быстрые ссылки и выйти. Графический сеанс не нужен.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 См. --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Открываются только интернет-адреса (http, https и ftp). Это не такой адрес:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Не удалось запустить программу для этого адреса:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Открываются только интернет-адреса (http, https и ftp). Это не такой адрес:</translation>
     </message>
 </context>
 <context>
@@ -97,7 +112,7 @@
     </message>
     <message>
         <source>Since:</source>
-        <translation>Подключено с:</translation>
+        <translation>Начало:</translation>
     </message>
 </context>
 <context>
@@ -129,7 +144,7 @@
     </message>
     <message>
         <source>Press Connect when your connection is up.</source>
-        <translation>Нажмите «Подключить», когда подключение установлено.</translation>
+        <translation>Нажмите «Подключить», когда подключение будет установлено.</translation>
     </message>
     <message>
         <source>Waiting for mobile broadband.</source>
@@ -146,10 +161,6 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager не запущен</translation>
-    </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>Собрано без NetworkManager</translation>
     </message>
 </context>
 <context>
@@ -176,6 +187,179 @@
     </message>
 </context>
 <context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Не открыто</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Файл с вашими быстрыми ссылками отсутствует.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>Файл с вашими быстрыми ссылками пуст.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>Файл с вашими быстрыми ссылками повреждён.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>Файл с вашими быстрыми ссылками слишком велик.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>Файл с вашими быстрыми ссылками нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>На месте файла с вашими быстрыми ссылками находится то, что не является файлом.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Диск заполнен.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>Недостаточно прав для записи в его папку.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>%n ссылка от %1 снова на месте.</numerusform>
+            <numerusform>%n ссылки от %1 снова на месте.</numerusform>
+            <numerusform>%n ссылок от %1 снова на месте.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>%n ссылку от %1 можно вернуть.</numerusform>
+            <numerusform>%n ссылки от %1 можно вернуть.</numerusform>
+            <numerusform>%n ссылок от %1 можно вернуть.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>%n ссылка от %1 сохранена, но вернуть её на место не удалось.</numerusform>
+            <numerusform>%n ссылки от %1 сохранены, но вернуть их на место не удалось.</numerusform>
+            <numerusform>%n ссылок от %1 сохранены, но вернуть их на место не удалось.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Прежнее состояние ссылок неизвестно.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>То, что там было, сохранено:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Не возвращать</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>Не удалось сохранить изменение быстрых ссылок.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Быстрые ссылки изменены другой программой. Загрузить их или оставить ваши?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>&amp;Загрузить</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Оставить мои</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Быстрые ссылки</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Не удалось поместить на место подготовленные для вас быстрые ссылки. Программа попробует ещё раз при следующем запуске.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Добавлено: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Удалено: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Изменено: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Перемещено: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>ещё %n</numerusform>
+            <numerusform>ещё %n</numerusform>
+            <numerusform>ещё %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (сейчас)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Ссылки</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Что изменилось</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>&amp;Вернуться к этому</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Состояния быстрых ссылок, сначала новые; хранятся последние %1.</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -197,11 +381,11 @@
     <name>LinkOpener</name>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
-        <translation>Нет такого файла или папки либо у вас нет права их видеть:</translation>
+        <translation>Нет такого файла или папки либо недостаточно прав для просмотра:</translation>
     </message>
     <message>
         <source>You are not allowed to open this:</source>
-        <translation>У вас нет права это открывать:</translation>
+        <translation>Недостаточно прав для открытия:</translation>
     </message>
     <message>
         <source>This program could not be started:</source>
@@ -210,6 +394,30 @@
     <message>
         <source>Not opened</source>
         <translation>Не открыто</translation>
+    </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Это недопустимый адрес:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Адреса, которые сами являются скриптом или страницей, никогда не открываются:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Эта ссылка никуда не ведёт: в ней нет пути.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>Путь к приложению или файлу должен начинаться с «/»:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Слишком много вопросов ждут ответа, чтобы спросить и об этом адресе:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Это слишком длинно, чтобы открыть:</translation>
     </message>
 </context>
 <context>
@@ -230,10 +438,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Не загружено: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Быстрые ссылки</translation>
     </message>
@@ -248,10 +452,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>В&amp;ыход</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Закрыть программу</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +493,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Диспетчер подключений с быстрыми ссылками.&lt;/p&gt;&lt;p&gt;Свободная программа под лицензией MIT.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Пр&amp;авка</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Отменить последнее изменение быстрых ссылок</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Повторить отменённое изменение</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>Не&amp;загруженные модули…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Показать модули, которые дали сбой или зависли, и загрузить их снова</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Не загружены модули: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Завершить работу программы</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>Открыть %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Оставить так</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>Это не загружено, так как %1 принадлежит другому пользователю:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Это не загружено, так как другие пользователи могут изменять %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>Это не загружено, так как неизвестно, кто может изменять %1:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Это не загружено, так как выдаёт себя за быстрые ссылки этой программы:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>Модуль %1 не отвечал при запуске и не был загружен.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>Модуль %1 в прошлый раз не завершил запуск (сбой или зависание) и не был загружен.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>Модуль %1 не отвечал при завершении и не был загружен.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>Модуль %1 в прошлый раз не завершил работу (сбой или зависание) и не был загружен.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Модули</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Загрузить при следующем запуске</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>&amp;Не загружать</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>«%1» больше не открывается автоматически.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>«%1» больше не открывается при подключении.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>У «%1» больше нет получателя.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>«%1» больше не открывается при запуске Vellum Connect.</translation>
     </message>
 </context>
 <context>
@@ -416,12 +729,12 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Открывать при запуске программы</translation>
+        <translation>Открыть при запуске Vellum Connect</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
         <extracomment>Check box of the dialog: opens the link when a data connection comes up. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Открывать при подключении</translation>
+        <translation>Открыть при подключении</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_OK</source>
@@ -451,7 +764,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Этого файла программы не существует. Выберите другой.</translation>
+        <translation>Такого файла программы нет. Выберите файл.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +800,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>Программа продолжает работать здесь. Нажмите на значок, чтобы увидеть окно.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>Показать окно</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect продолжает работать здесь. Нажмите на значок, чтобы показать его окно.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>Bu adres &quot;%1&quot; bağlantılarının programıyla açılsın mı?</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>Alışılmadık adres</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,36 +35,36 @@
         <translation>Metinleri LANG dilinde gösterir, örneğin en veya pt_BR.</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>Kısayolları yazdırır ve çıkar. Ekran gerektirmez.</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>Kısayolları olan bağlantı yöneticisi.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>Beklenmeyen bağımsız değişken &quot;%1&quot;.</translation>
+        <translation>Beklenmeyen argüman &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Empty value after &quot;--%1&quot;.</source>
         <translation>&quot;--%1&quot; sonrasında boş değer.</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>KIND türündeki bağlantıları izler: mobile (mobil geniş bant, öntanımlı), any (öntanımlı yolu olan her bağlantı) veya manual (bir düğmeye basarsınız).</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>Böyle bir bağlantı türü yok: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>KIND türündeki bağlantıları izler: mobile (mobil geniş bant, öntanımlı), any (öntanımlı rotası olan her bağlantı) veya manual (bir düğmeye basarsınız).</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>Kısayolları listeler ve çıkar. Grafik oturumu gerektirmez.</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 Bkz. --help.</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>Yalnızca internet adresleri (http, https ve ftp) açılır. Bu bir internet adresi değil:</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Bu adres için hiçbir program başlatılamadı:</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Yalnızca internet adresleri (http, https ve ftp) açılır. Bu bir internet adresi değil:</translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager çalışmıyor</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>NetworkManager olmadan derlendi</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -173,6 +184,169 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>Bunu açmak için gereken &quot;xdg-open&quot; programı başlatılamadı:</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>Açılamadı</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ve %n tane daha</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>Kısayollarınızın dosyası yok.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>Kısayollarınızın dosyası boş.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>Kısayollarınızın dosyası bozuk.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>Kısayollarınızın dosyası çok büyük.</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>Kısayollarınızın dosyası okunamıyor.</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>Kısayollarınızın dosyasının yerinde dosya olmayan bir şey var.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Disk dolu.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>Klasörüne yazma izniniz yok.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>%1 tarihli %n kısayol yeniden yerinde.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>%1 tarihli %n kısayol geri getirilebilir.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>%1 tarihli %n kısayol saklandı, ancak yerine konamadı.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>Kısayolların önceki bir durumu bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>Orada bulunan saklandı:</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Geri Getir</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Bırak</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>Kısayollarınızdaki değişiklik kaydedilemedi.</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>Kısayollar başka bir program tarafından değiştirildi. Onları yüklemek mi, sizinkileri korumak mı istersiniz?</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>On&amp;ları Yükle</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Benimkileri Koru</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>Kısayollar</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Yeniden Dene</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>Sizin için hazırlanan kısayollar yerine konamadı. Program bir sonraki başlatılışında yeniden deneyecek.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Eklendi: %1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Kaldırıldı: %1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Düzenlendi: %1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>Taşındı: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n tane daha</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1 (şimdi)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Kısayollar</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>Değişenler</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>Buna &amp;Geri Dön</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>Kısayollarınızın durumları, en yenisi önce; son %1 tanesi saklanır.</translation>
     </message>
 </context>
 <context>
@@ -211,6 +385,30 @@
         <source>Not opened</source>
         <translation>Açılamadı</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>Bu geçerli bir adres değil:</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>Kendisi bir betik veya sayfa olan adresler hiçbir zaman açılmaz:</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>Bu kısayol hiçbir yere götürmüyor: yolu yok.</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>Bir uygulamanın veya dosyanın yolu &quot;/&quot; ile başlamalıdır:</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>Yanıt bekleyen çok fazla soru olduğundan bu adres de sorulamadı:</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>Bu, açılamayacak kadar uzun:</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +428,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>Yüklenemedi: %1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>Kısayollar</translation>
     </message>
@@ -248,10 +442,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Çık</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Programı kapat</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +483,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Kısayolları olan bağlantı yöneticisi.&lt;/p&gt;&lt;p&gt;MIT lisansıyla özgür yazılım.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Düzen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri Al</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>Kısayollardaki son değişikliği geri al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>Geri alınan değişikliği yinele</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>Yüklenmeyen &amp;eklentiler…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>Hangi eklentilerin çöktüğünü veya takıldığını görün ve yeniden yükleyin</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>Yüklenmeyen eklentiler: %1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>Programdan çık</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
-        <translation>%1: aç</translation>
+        <translation>%1 kısayolunu aç</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>&amp;Geri Koy</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Olduğu Gibi Bırak</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>%1 başka bir kullanıcıya ait olduğu için bu yüklenmedi:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>Başka kullanıcılar %1 üzerinde değişiklik yapabildiği için bu yüklenmedi:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>%1 üzerinde kimin değişiklik yapabildiği bilinmediği için bu yüklenmedi:</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>Kendini bu programın kısayolları gibi gösterdiği için bu yüklenmedi:</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>%1 eklentisi başlarken yanıt vermedi ve yüklenmedi.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>%1 eklentisi geçen sefer başlamayı bitirmedi (çöktü veya takıldı) ve yüklenmedi.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>%1 eklentisi kapanırken yanıt vermedi ve yüklenmedi.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>%1 eklentisi geçen sefer kapanmayı bitirmedi (çöktü veya takıldı) ve yüklenmedi.</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Eklentiler</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>&amp;Sonraki başlangıçta yükle</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>Y&amp;ükleme</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>&quot;%1&quot; artık kendiliğinden açılmıyor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>&quot;%1&quot; artık bağlanınca açılmıyor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>&quot;%1&quot; için artık alıcı yok.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>&quot;%1&quot; artık Vellum Connect başlayınca açılmıyor.</translation>
     </message>
 </context>
 <context>
@@ -416,7 +719,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>Program başladığında aç</translation>
+        <translation>Vellum Connect başladığında aç</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +754,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>Bu program dosyası yok. Başka bir dosya seçin.</translation>
+        <translation>Böyle bir program dosyası yok. Bir dosya seçin.</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +790,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>Program burada çalışmayı sürdürüyor. Penceresini görmek için simgeye tıklayın.</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>Pencereyi Göster</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>Çık</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect burada çalışmayı sürdürüyor. Penceresini göstermek için simgeye tıklayın.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddressQuestions</name>
+    <message>
+        <source>Open this address with the program for &quot;%1&quot; links?</source>
+        <translation>用“%1”链接的程序打开此地址吗？</translation>
+    </message>
+    <message>
+        <source>Unusual address</source>
+        <translation>不常见的地址</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and exit.</source>
@@ -24,10 +35,6 @@
         <translation>以语言 LANG（如 en 或 pt_BR）显示文本。</translation>
     </message>
     <message>
-        <source>Print the quick links and exit. Needs no display.</source>
-        <translation>输出快速链接并退出。无需显示器。</translation>
-    </message>
-    <message>
         <source>Connection manager with quick links.</source>
         <translation>带有快速链接的连接管理器。</translation>
     </message>
@@ -40,20 +47,24 @@
         <translation>“--%1”后面的值为空。</translation>
     </message>
     <message>
-        <source>Follow connections of KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>跟踪 KIND 类型的连接：mobile（移动宽带，默认）、any（任何有默认路由的连接）或 manual（由您按按钮）。</translation>
-    </message>
-    <message>
         <source>No such kind of connection: &quot;%1&quot;.</source>
         <translation>没有此连接类型：“%1”。</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>监视 KIND 类型的连接：mobile（移动宽带，默认）、any（任何有默认路由的连接）或 manual（由您按按钮）。</translation>
+    </message>
+    <message>
+        <source>Print the quick links and exit. Needs no graphical session.</source>
+        <translation>输出快速链接并退出。无需图形会话。</translation>
+    </message>
+    <message>
+        <source>%1 Try --help.</source>
+        <translation>%1 请参阅 --help。</translation>
     </message>
 </context>
 <context>
     <name>CommonUtils</name>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is none:</source>
-        <translation>只能打开互联网地址（http、https 和 ftp）。这不是互联网地址：</translation>
-    </message>
     <message>
         <source>No program could be started for this address:</source>
         <translation>无法为此地址启动任何程序：</translation>
@@ -71,6 +82,10 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>只能打开互联网地址（http、https 和 ftp）。这不是互联网地址：</translation>
     </message>
 </context>
 <context>
@@ -147,10 +162,6 @@
         <source>NetworkManager is not running</source>
         <translation>NetworkManager 未运行</translation>
     </message>
-    <message>
-        <source>Built without NetworkManager</source>
-        <translation>构建时未包含 NetworkManager</translation>
-    </message>
 </context>
 <context>
     <name>DesktopOpener</name>
@@ -164,7 +175,7 @@
     </message>
     <message>
         <source>The program that opens this reported a failure:</source>
-        <translation>打开此项的程序报告失败：</translation>
+        <translation>打开此项的程序报告了错误：</translation>
     </message>
     <message>
         <source>The desktop could not open this:</source>
@@ -173,6 +184,169 @@
     <message>
         <source>Opening this needs the program &quot;xdg-open&quot;, which could not be started:</source>
         <translation>打开此项需要程序“xdg-open”，但无法启动该程序：</translation>
+    </message>
+</context>
+<context>
+    <name>FailureList</name>
+    <message>
+        <source>Not opened</source>
+        <translation>未打开</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>还有 %n 项</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GuardMessages</name>
+    <message>
+        <source>The file with your quick links is missing.</source>
+        <translation>您的快速链接文件不存在。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is empty.</source>
+        <translation>您的快速链接文件是空的。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is damaged.</source>
+        <translation>您的快速链接文件已损坏。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links is far too large.</source>
+        <translation>您的快速链接文件过大。</translation>
+    </message>
+    <message>
+        <source>The file with your quick links cannot be read.</source>
+        <translation>无法读取您的快速链接文件。</translation>
+    </message>
+    <message>
+        <source>In the place of the file with your quick links there is something that is no file.</source>
+        <translation>快速链接文件所在的位置上有一个不是文件的东西。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write to its folder.</source>
+        <translation>您无权写入它所在的文件夹。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are in place again.</source>
+        <translation>
+            <numerusform>%1 的 %n 个链接已恢复。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 can be brought back.</source>
+        <translation>
+            <numerusform>可以恢复 %1 的 %n 个链接。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n link(s) of %1 are kept, but could not be put in place.</source>
+        <translation>
+            <numerusform>%1 的 %n 个链接已保留，但无法恢复。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No earlier state of the links is known.</source>
+        <translation>没有已知的早期链接状态。</translation>
+    </message>
+    <message>
+        <source>What was found there was kept:</source>
+        <translation>原有内容已保留在：</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>恢复(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>不恢复(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The change of your quick links could not be saved.</source>
+        <translation>无法保存对快速链接的更改。</translation>
+    </message>
+    <message>
+        <source>The quick links were changed by another program. Do you want to load them, or to keep yours?</source>
+        <translation>快速链接已被其他程序更改。要加载它们，还是保留您的链接？</translation>
+    </message>
+    <message>
+        <source>&amp;Load Them</source>
+        <translation>加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>保留我的(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Quick Links</source>
+        <translation>快速链接</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>重试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
+        <translation>无法放置为您准备的快速链接。程序将在下次启动时重试。</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>已添加：%1</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>已移除：%1</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>已编辑：%1</translation>
+    </message>
+    <message>
+        <source>Moved: %1</source>
+        <translation>已移动：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>%1 (now)</source>
+        <translation>%1（现在）</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>What Changed</source>
+        <translation>变更内容</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back to This</source>
+        <translation>回到此状态(&amp;G)</translation>
+    </message>
+    <message>
+        <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
+        <translation>快速链接的各个状态，最新的在前；保留最近 %1 个。</translation>
     </message>
 </context>
 <context>
@@ -211,6 +385,30 @@
         <source>Not opened</source>
         <translation>未打开</translation>
     </message>
+    <message>
+        <source>This is no valid address:</source>
+        <translation>这不是有效的地址：</translation>
+    </message>
+    <message>
+        <source>Addresses that are themselves a script or a page are never opened:</source>
+        <translation>本身就是脚本或网页的地址永远不会打开：</translation>
+    </message>
+    <message>
+        <source>This link leads nowhere: it has no path.</source>
+        <translation>此链接没有目标：没有路径。</translation>
+    </message>
+    <message>
+        <source>The path of an application or file must begin with &quot;/&quot;:</source>
+        <translation>应用程序或文件的路径必须以“/”开头：</translation>
+    </message>
+    <message>
+        <source>Too many questions wait for an answer to ask about this address, too:</source>
+        <translation>等待回答的问题太多，无法再询问此地址：</translation>
+    </message>
+    <message>
+        <source>This is too long to be opened:</source>
+        <translation>此项太长，无法打开：</translation>
+    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -230,10 +428,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Not loaded: %1</source>
-        <translation>未加载：%1</translation>
-    </message>
-    <message>
         <source>Quick Links</source>
         <translation>快速链接</translation>
     </message>
@@ -248,10 +442,6 @@
     <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>关闭程序</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
@@ -293,12 +483,125 @@
         <source>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;Connection manager with quick links.&lt;/p&gt;&lt;p&gt;Free software under the MIT licence.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Vellum Connect %1&lt;/h3&gt;&lt;p&gt;带有快速链接的连接管理器。&lt;/p&gt;&lt;p&gt;采用 MIT 许可证的自由软件。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Take back the last change of the quick links</source>
+        <translation>撤销对快速链接的上一次更改</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back</source>
+        <translation>重新执行已撤销的更改</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins Left Out…</source>
+        <translation>未加载的插件(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>See which plug-ins crashed or hung, and load them again</source>
+        <translation>查看哪些插件崩溃或挂起，并重新加载</translation>
+    </message>
+    <message>
+        <source>Plug-ins not loaded: %1</source>
+        <translation>未加载的插件：%1</translation>
+    </message>
+    <message>
+        <source>Quit the program</source>
+        <translation>退出程序</translation>
+    </message>
 </context>
 <context>
     <name>MenuManager</name>
     <message>
         <source>Open %1</source>
         <translation>打开 %1</translation>
+    </message>
+</context>
+<context>
+    <name>OfferLine</name>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>恢复(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>保持现状(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PluginMessages</name>
+    <message>
+        <source>This was not loaded, because another user owns %1:</source>
+        <translation>由于 %1 属于其他用户，未加载：</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because other users may change %1:</source>
+        <translation>由于其他用户可以更改 %1，未加载：</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it is not known who may change %1:</source>
+        <translation>由于不知道谁可以更改 %1，未加载：</translation>
+    </message>
+    <message>
+        <source>This was not loaded, because it passes itself off as the quick links of this program:</source>
+        <translation>由于它冒充本程序的快速链接，未加载：</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was starting, and was left out.</source>
+        <translation>插件 %1 在启动时没有响应，未加载。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish starting last time (it crashed or hung), and was left out.</source>
+        <translation>插件 %1 上次没有完成启动（崩溃或挂起），未加载。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not answer while it was ending, and was left out.</source>
+        <translation>插件 %1 在结束时没有响应，未加载。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 did not finish ending last time (it crashed or hung), and was left out.</source>
+        <translation>插件 %1 上次没有完成结束（崩溃或挂起），未加载。</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>&amp;Load at the Next Start</source>
+        <translation>下次启动时加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;Out</source>
+        <translation>不加载(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackOffer</name>
+    <message>
+        <source>&quot;%1&quot; no longer opens by itself.</source>
+        <translation>“%1”不再自动打开。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when connected.</source>
+        <translation>连接后不再打开“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer has a recipient.</source>
+        <translation>“%1”不再有收件人。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; no longer opens when Vellum Connect starts.</source>
+        <translation>Vellum Connect 启动时不再打开“%1”。</translation>
     </message>
 </context>
 <context>
@@ -416,7 +719,7 @@
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK_STARTUP</source>
         <extracomment>Check box of the dialog. Up to about 32 characters (230 pixels).</extracomment>
-        <translation>程序启动时打开</translation>
+        <translation>Vellum Connect 启动时打开</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_CHECK</source>
@@ -451,7 +754,7 @@
     <message>
         <source>IDS_LINK_SETTING_FILENOTEXIST</source>
         <extracomment>Message: the dialog&apos;s program file is missing, or none was chosen. A sentence or two.</extracomment>
-        <translation>此程序文件不存在。请选择其他文件。</translation>
+        <translation>没有此程序文件。请选择一个文件。</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DELETE_CONFORM</source>
@@ -487,16 +790,16 @@
 <context>
     <name>Tray</name>
     <message>
-        <source>The program goes on here. Click the icon to see its window.</source>
-        <translation>程序在此继续运行。点击图标可显示其窗口。</translation>
-    </message>
-    <message>
         <source>Show Window</source>
         <translation>显示窗口</translation>
     </message>
     <message>
         <source>Quit</source>
         <translation>退出</translation>
+    </message>
+    <message>
+        <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation>Vellum Connect 在此继续运行。点击图标可显示其窗口。</translation>
     </message>
 </context>
 </TS>

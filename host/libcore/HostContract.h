@@ -32,4 +32,12 @@ const Component menuManager = {"0F6E2B94-83D1-4C57-A6B0-91E5D27C3A48", 8210, "Me
 /** Has IDialupUIService. */
 const Component dialupService = {"61D9E3B8-7A04-4C5F-B1E7-2C6A9F08D35E", 16401, "DialupService"};
 
+/** The plug-in that comes with the program: what it is known by, and what folder and file are named after. */
+struct InstalledPlugin {
+    const char* clsid;
+    const char* name;
+};
+
+const InstalledPlugin quickLinks = {"3F1C7A20-5B9E-4D61-A8C4-7E2B90D4F1A6", "QuickLinkUIPlugin"};
+
 } // namespace HostContract

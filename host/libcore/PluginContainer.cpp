@@ -10,6 +10,7 @@
 #include "StartupContainer.h"
 
 PluginContainer::PluginContainer()
+    : m_gate(nullptr)
 {
 }
 
@@ -18,6 +19,11 @@ PluginContainer::~PluginContainer()
     shutdown();
     if (Startup::GetPluginContainer() == this)
         installPluginContainer(nullptr);
+}
+
+void PluginContainer::setGate(PluginGate* gate)
+{
+    m_gate = gate;
 }
 
 QList<QObject*> PluginContainer::plugins() const
@@ -68,8 +74,7 @@ void PluginContainer::shutdown()
     QList<Entry> destroyed;
     while (!m_plugins.isEmpty()) {
         const Entry plugin = m_plugins.takeLast();
-        if (plugin.object)
-            plugin.base->OnDestroy();
+        destroy(plugin);
         destroyed.append(plugin);
     }
     for (const Entry& plugin : destroyed)

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "IPluginContainer.h"
+#include "PluginGate.h"
 #include "PluginWith.h"
 
 class IBasePlugin;
@@ -31,6 +32,10 @@ public:
 
     /** Shuts down, and uninstalls itself from Startup if it is installed there. */
     ~PluginContainer() override;
+
+    /** Asks gate about every plug-in from now on, and tells it of calls into them; null for none. It stays the caller's
+     * and must outlive the container. */
+    void setGate(PluginGate* gate);
 
     /**
      * Loads <folder>/<Name>/lib<Name>.so of every subfolder, in the order of their names. What is refused is unloaded,
@@ -64,6 +69,13 @@ public:
     /** Notifies the component or plug-in of the given name. Its answer; -1 when nobody of that name listens. */
     int notify(const QString& pluginName, unsigned int code, unsigned int param1, unsigned int param2);
 
+    /**
+     * Takes a loaded plug-in down and loads its file again, in its place: OnDestroy, unload, load, Init. To be called
+     * while no call into a plug-in is on the stack. False when plugin is not loaded, or when its file was refused this
+     * time, which refusals() says; it is not loaded any more then.
+     */
+    bool reload(const QObject* plugin);
+
     /** Calls OnDestroy of every plug-in in reverse load order, then unloads them all. Harmless when repeated. */
     void shutdown();
 
@@ -80,14 +92,20 @@ private:
         IBasePlugin* base;     ///< null for a component
     };
 
+    class CallInto;
+
     bool isLoaded(const QString& file) const;
     void load(const QFileInfo& file);
-    QString take(Entry& plugin);
+    QString take(Entry& plugin) const;
+    QString identify(Entry& plugin) const;
+    bool init(const Entry& plugin) const;
+    void destroy(const Entry& plugin) const;
     void refuse(const QString& file, const QString& reason);
     QList<Entry> present() const;
     bool hasClassIdentifier(const QString& clsid) const;
-    static void unload(const Entry& plugin);
+    void unload(const Entry& plugin) const;
 
+    PluginGate* m_gate;     ///< null for none
     QList<Entry> m_plugins; ///< in load order
     QList<Entry> m_components;
     QList<Refusal> m_refusals;

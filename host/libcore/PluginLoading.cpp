@@ -13,6 +13,30 @@
 #include "IBasePlugin.h"
 #include "PluginContainer.h"
 
+/** Tells the gate of a call into a plug-in, as long as this lives. */
+class PluginContainer::CallInto
+{
+public:
+    CallInto(PluginGate* gate, const Entry& plugin, PluginGate::Call call)
+        : m_gate(gate)
+    {
+        if (m_gate)
+            m_gate->begin(plugin.loader->fileName(), call);
+    }
+
+    ~CallInto()
+    {
+        if (m_gate)
+            m_gate->end();
+    }
+
+private:
+    CallInto(const CallInto&);
+    CallInto& operator=(const CallInto&);
+
+    PluginGate* m_gate;
+};
+
 /** A text with storage of its own: a plug-in's may lie in its library, which goes before our records do. */
 static QString ownCopy(const QString& text)
 {
@@ -61,18 +85,21 @@ void PluginContainer::load(const QFileInfo& file)
         refuse(file.filePath(), QLatin1String("this file is loaded already"));
         return;
     }
+    const QString objection = m_gate ? m_gate->objectionTo(file.filePath()) : QString();
+    if (!objection.isEmpty()) {
+        refuse(file.filePath(), objection);
+        return;
+    }
     Entry plugin = {QString(), 0, QString(), nullptr, new QPluginLoader(file.canonicalFilePath()), nullptr};
     // By default a library stays mapped for good.
     plugin.loader->setLoadHints(QLibrary::LoadHints());
-    // Asked once: Qt 4 gives a reason for the first failure only.
-    plugin.object = plugin.loader->instance();
+    const QString reason = take(plugin);
     if (plugins().contains(plugin.object)) {
         // Another name of a loaded file: the object is the other's, and unloading would delete it.
         delete plugin.loader;
         refuse(file.filePath(), QLatin1String("this file is loaded already"));
         return;
     }
-    const QString reason = take(plugin);
     if (reason.isEmpty()) {
         m_plugins.append(plugin);
         return;
@@ -81,9 +108,53 @@ void PluginContainer::load(const QFileInfo& file)
     refuse(file.filePath(), reason);
 }
 
-/** Starts the plug-in that a library gave, if any. Empty when it runs, else why it does not. */
-QString PluginContainer::take(Entry& plugin)
+bool PluginContainer::reload(const QObject* plugin)
 {
+    for (int i = 0; i < m_plugins.size(); ++i) {
+        if (!plugin || m_plugins.at(i).object != plugin)
+            continue;
+        // As at the end of the program: it is in the list no more when OnDestroy is called.
+        const Entry former = m_plugins.takeAt(i);
+        const QString file = former.loader->fileName();
+        destroy(former);
+        unload(former);
+        const int others = m_plugins.size();
+        load(QFileInfo(file));
+        if (m_plugins.size() == others)
+            return false;
+        m_plugins.move(others, i);
+        return true;
+    }
+    return false;
+}
+
+/** Loads and starts the plug-in of the loader. Empty when it runs, else why it does not. */
+QString PluginContainer::take(Entry& plugin) const
+{
+    QString reason;
+    try {
+        reason = identify(plugin);
+    } catch (...) {
+        return QLatin1String("an exception came out of its constructor");
+    }
+    if (!reason.isEmpty() || plugins().contains(plugin.object))
+        return reason;
+    if (hasClassIdentifier(plugin.clsid))
+        return QLatin1String("its class identifier is in use already: ") + plugin.clsid;
+    if (m_gate)
+        reason = m_gate->objectionTo(plugin.loader->fileName(), plugin.clsid);
+    if (!reason.isEmpty() || init(plugin))
+        return reason;
+    destroy(plugin);
+    return QLatin1String("its Init failed");
+}
+
+/** Makes the object of a plug-in and asks it who it is. Empty when it has said so. */
+QString PluginContainer::identify(Entry& plugin) const
+{
+    const CallInto call(m_gate, plugin, PluginGate::Loading);
+    // Asked once: Qt 4 gives a reason for the first failure only.
+    plugin.object = plugin.loader->instance();
     if (!plugin.object)
         return QLatin1String("it is not a plug-in that can be loaded: ") + plugin.loader->errorString().simplified();
     plugin.base = qobject_cast<IBasePlugin*>(plugin.object);
@@ -92,20 +163,40 @@ QString PluginContainer::take(Entry& plugin)
     plugin.clsid = ownCopy(plugin.base->GetCLSID());
     plugin.kind = plugin.base->GetPluginType();
     plugin.name = ownCopy(plugin.base->GetPluginName());
-    if (hasClassIdentifier(plugin.clsid))
-        return QLatin1String("its class identifier is in use already: ") + plugin.clsid;
-    if (!plugin.base->Init()) {
-        plugin.base->OnDestroy();
-        return QLatin1String("its Init failed");
-    }
     return QString();
 }
 
-void PluginContainer::unload(const Entry& plugin)
+bool PluginContainer::init(const Entry& plugin) const
 {
-    // Destructors of the library must not be waiting when their code goes.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    plugin.loader->unload();
+    const CallInto call(m_gate, plugin, PluginGate::Init);
+    try {
+        return plugin.base->Init();
+    } catch (...) {
+        return false;
+    }
+}
+
+void PluginContainer::destroy(const Entry& plugin) const
+{
+    if (!plugin.object)
+        return;
+    const CallInto call(m_gate, plugin, PluginGate::OnDestroy);
+    try {
+        plugin.base->OnDestroy();
+    } catch (...) {
+        // It goes all the same, and so must the others.
+        qWarning("An exception came out of OnDestroy of %s", plugin.loader->fileName().toUtf8().constData());
+    }
+}
+
+void PluginContainer::unload(const Entry& plugin) const
+{
+    {
+        const CallInto call(m_gate, plugin, PluginGate::Unloading);
+        // Destructors of the library must not be waiting when their code goes.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        plugin.loader->unload();
+    }
     delete plugin.loader;
 }
 

@@ -15,7 +15,7 @@
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return UserFolder::path();
+    return UserFolder::askedByPlugin();
 }
 
 void CommonUtils::OpenUrl(QString url)
@@ -26,7 +26,7 @@ void CommonUtils::OpenUrl(QString url)
     const char* const reason =
         completed.isEmpty()
             ? QT_TRANSLATE_NOOP("CommonUtils",
-                                "Only Internet addresses (http, https and ftp) are opened. This is none:")
+                                "Only Internet addresses (http, https and ftp) are opened. This is not one:")
             : QT_TRANSLATE_NOOP("CommonUtils", "No program could be started for this address:");
     showNotice(QCoreApplication::translate("CommonUtils", "Address not opened"),
                QCoreApplication::translate("CommonUtils", reason), url);

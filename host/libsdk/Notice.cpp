@@ -3,27 +3,54 @@
 
 #include "Notice.h"
 
-#include <QApplication>
+#include <QPointer>
 
-#include "PlainMessage.h"
+#include "FailureList.h"
+#include "LooseMessage.h"
+
+namespace
+{
+
+/** The failures that a window tells. Belongs to the window and goes with it. */
+class Notice : public QObject
+{
+public:
+    explicit Notice(QMessageBox* box)
+        : QObject(box)
+        , m_box(box)
+    {
+        box->addButton(QMessageBox::Ok);
+    }
+
+    /** Whether the user still sees it; one that was closed is deleted a moment later. */
+    bool isOpen() const { return m_box->isVisible(); }
+
+    void add(const QString& title, const QString& text, const QString& subject)
+    {
+        m_failures.add(title, text, subject);
+        m_box->setWindowTitle(m_failures.title());
+        setMessageText(m_box, m_failures.text());
+        const QString details = m_failures.details();
+        // Every call lays out the window anew.
+        if (details != m_box->detailedText())
+            m_box->setDetailedText(details);
+        if (isOpen())
+            liftAboveModal(m_box);
+        else
+            m_box->show();
+    }
+
+private:
+    QMessageBox* const m_box;
+    FailureList m_failures;
+};
+
+} // namespace
 
 void showNotice(const QString& title, const QString& text, const QString& subject)
 {
-    // A single word of any length must fit on a small screen.
-    const int longest = 120;
-    const bool isLong = subject.size() > longest;
-    const QString shown = isLong ? subject.left(longest) + QChar(0x2026) : subject;
-    // Over a modal window, a window that is not its child would not get any input; a child also stays above its parent.
-    QWidget* const modal = QApplication::activeModalWidget();
-    QWidget* const parent = modal ? modal : QApplication::activeWindow();
-    QMessageBox* const box =
-        newPlainMessage(QMessageBox::Warning, parent, title, text + QLatin1String("\n\n") + shown, Qt::Dialog);
-    if (isLong)
-        box->setDetailedText(subject);
-    box->addButton(QMessageBox::Ok);
-    box->setModal(false);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setAttribute(Qt::WA_QuitOnClose, false);
-    QObject::connect(qApp, SIGNAL(aboutToQuit()), box, SLOT(close()));
-    box->show();
+    static QPointer<Notice> last;
+    if (!last || !last->isOpen())
+        last = new Notice(newLooseMessage(QMessageBox::Warning, title, QString()));
+    last->add(title, text, subject);
 }

@@ -12,3 +12,6 @@
  */
 QMessageBox* newPlainMessage(QMessageBox::Icon icon, QWidget* parent, const QString& title, const QString& text,
                              Qt::WindowFlags flags);
+
+/** Gives such a box another text, on the screen and for a screen reader. */
+void setMessageText(QMessageBox* box, const QString& text);

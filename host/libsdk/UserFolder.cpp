@@ -13,7 +13,13 @@ static QString& chosenPath()
     return path;
 }
 
-static QString defaultPath()
+static std::function<void()>& currentListener()
+{
+    static std::function<void()> listener;
+    return listener;
+}
+
+QString UserFolder::defaultPath()
 {
     // The base directory rules tell to ignore a relative value.
     QString dataHome = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
@@ -33,4 +39,16 @@ QString UserFolder::path()
     if (chosen.isEmpty())
         return defaultPath();
     return chosen == QLatin1String("/") ? QString() : chosen;
+}
+
+void UserFolder::setListener(const std::function<void()>& listener)
+{
+    currentListener() = listener;
+}
+
+QString UserFolder::askedByPlugin()
+{
+    if (currentListener())
+        currentListener()();
+    return path();
 }

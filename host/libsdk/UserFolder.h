@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /** The folder with the user's own files, which CommonUtils::GetPluginLibraryPath() answers. */
 namespace UserFolder
 {
@@ -13,10 +15,22 @@ namespace UserFolder
  */
 void setPath(const QString& path);
 
+/** The folder where none is chosen; absolute. */
+QString defaultPath();
+
 /**
  * The chosen folder, by default $XDG_DATA_HOME/vellumconnect; absolute, without a trailing slash (so the root is
  * empty). It need not exist.
  */
 QString path();
+
+/**
+ * Lets listener be called each time a plug-in asks for the folder, before it has the answer: it is about to read or
+ * write there. One at a time; a null one ends it.
+ */
+void setListener(const std::function<void()>& listener);
+
+/** A plug-in asks for the folder: tells the listener and answers path(). */
+QString askedByPlugin();
 
 } // namespace UserFolder

@@ -8,7 +8,8 @@
 Q_LOGGING_CATEGORY(connectionLog, "vellum.connection")
 
 ConnectionMonitor::ConnectionMonitor()
-    : m_deadline(this)
+    : m_manual(std::make_unique<ManualSource>())
+    , m_deadline(this)
 {
     m_clock.start();
     m_deadline.setSingleShot(true);
@@ -22,13 +23,21 @@ void ConnectionMonitor::start(std::unique_ptr<ConnectionSource> service)
            !isManual()      ? "the service"
            : lacksService() ? "the user until the service is there"
                             : "the user");
-    connect(&m_manual, &ConnectionSource::changed, this, &ConnectionMonitor::look);
-    if (m_service) {
-        connect(m_service.get(), &ConnectionSource::changed, this, &ConnectionMonitor::look);
-        connect(m_service.get(), &ConnectionSource::availabilityChanged, this, &ConnectionMonitor::switchSource);
-    }
-    m_upId = state().id;
-    look();
+    listenTo(*m_manual);
+    if (m_service)
+        listenTo(*m_service);
+    // What a service says first, it may say a moment later.
+    if (source().isKnown())
+        look();
+    else
+        Q_EMIT changed();
+}
+
+void ConnectionMonitor::listenTo(const ConnectionSource& source)
+{
+    connect(&source, &ConnectionSource::changed, this, &ConnectionMonitor::look);
+    connect(&source, &ConnectionSource::availabilityChanged, this, &ConnectionMonitor::switchSource);
+    connect(&source, &ConnectionSource::answered, this, &ConnectionMonitor::hearAnswer);
 }
 
 ConnectionState ConnectionMonitor::state() const
@@ -43,17 +52,17 @@ QDateTime ConnectionMonitor::upSince() const
 
 bool ConnectionMonitor::isManual() const
 {
-    return &source() == &m_manual;
+    return &source() == m_manual.get();
 }
 
 bool ConnectionMonitor::lacksService() const
 {
-    return m_service && !m_service->isAvailable();
+    return m_service && m_service->isKnown() && !m_service->isAvailable();
 }
 
 void ConnectionMonitor::setManuallyUp(bool isUp)
 {
-    m_manual.setUp(isUp);
+    m_manual->setUp(isUp);
 }
 
 void ConnectionMonitor::fallAsleep()
@@ -70,27 +79,32 @@ void ConnectionMonitor::wakeUp()
     arm();
 }
 
-const ConnectionSource& ConnectionMonitor::source() const
+ConnectionSource& ConnectionMonitor::source() const
 {
-    if (m_service && m_service->isAvailable())
+    if (m_service && !lacksService())
         return *m_service;
-    return m_manual;
+    return *m_manual;
 }
 
 void ConnectionMonitor::look()
 {
+    if (!source().isKnown())
+        return;
     const ConnectionState seen = state();
     if (seen.id != m_upId) {
         m_upId = seen.id;
-        m_upSince = seen.isUp ? QDateTime::currentDateTime() : QDateTime();
+        m_upSince = seen.isUp && m_hasLooked ? QDateTime::currentDateTime() : QDateTime();
     }
+    m_hasLooked = true;
     follow(m_rules.observe(seen, now()));
     Q_EMIT changed();
 }
 
 void ConnectionMonitor::switchSource()
 {
-    m_manual.setUp(false);
+    m_manual->setUp(false);
+    if (m_isAsking)
+        withdraw();
     if (lacksService()) {
         follow(m_rules.serviceLost(now()));
     } else {
@@ -105,13 +119,41 @@ void ConnectionMonitor::follow(const TransitionRules::Decision& decision)
     if (!decision.reason.isEmpty())
         qCInfo(connectionLog, "%s", qUtf8Printable(decision.reason));
     arm();
-    const bool isUp = decision.announcement == TransitionRules::Announcement::Up;
-    if (isUp && !source().isStillUp()) {
-        qCInfo(connectionLog, "was down again when asked, not told");
-        m_rules.withdraw();
-    } else if (decision.announcement != TransitionRules::Announcement::None) {
-        Q_EMIT announced(isUp, decision.reason);
+    if (decision.announcement == TransitionRules::Announcement::Up)
+        ask(decision.reason);
+    else if (decision.announcement == TransitionRules::Announcement::Down)
+        Q_EMIT announced(false, decision.reason);
+}
+
+void ConnectionMonitor::ask(const QString& reason)
+{
+    m_isAsking = true;
+    m_askedId = state().id;
+    m_reason = reason;
+    source().askWhetherUp();
+}
+
+void ConnectionMonitor::hearAnswer(bool isUp)
+{
+    if (!m_isAsking)
+        return;
+    if (isUp && state().isUp) {
+        m_isAsking = false;
+        Q_EMIT announced(true, m_reason);
+        return;
     }
+    withdraw();
+    // Another one may have come up since the question.
+    if (state().id != m_askedId)
+        look();
+}
+
+void ConnectionMonitor::withdraw()
+{
+    qCInfo(connectionLog, "was down again when asked, not told");
+    m_isAsking = false;
+    m_rules.withdraw();
+    arm();
 }
 
 void ConnectionMonitor::arm()

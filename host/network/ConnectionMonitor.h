@@ -60,22 +60,30 @@ Q_SIGNALS:
     /** Something of what the monitor answers may have changed. */
     void changed();
 
-    /** A connection came up or went down. When it came up, it was asked for once more just before. */
+    /** A connection came up or went down. When it came up, its source was asked once more just before. */
     void announced(bool isUp, const QString& reason);
 
 private:
-    const ConnectionSource& source() const;
+    ConnectionSource& source() const;
+    void listenTo(const ConnectionSource& source);
     void look();
     void switchSource();
     void follow(const TransitionRules::Decision& decision);
+    void ask(const QString& reason);
+    void hearAnswer(bool isUp);
+    void withdraw();
     void arm();
     qint64 now() const;
 
     std::unique_ptr<ConnectionSource> m_service;
-    ManualSource m_manual;
+    const std::unique_ptr<ManualSource> m_manual;
     TransitionRules m_rules;
     QElapsedTimer m_clock;
     QTimer m_deadline;
+    bool m_hasLooked = false;
+    bool m_isAsking = false; ///< whether a connection is up that is to be told
+    QString m_askedId;       ///< of that connection
+    QString m_reason;        ///< why it is to be told
     QString m_upId;
     QDateTime m_upSince;
 };

@@ -13,19 +13,25 @@ class ConnectionSource : public QObject
     Q_OBJECT
 
 public:
+    /** Whether it has found out yet whether it can tell anything. Nothing is to be concluded from it before. */
+    virtual bool isKnown() const = 0;
+
     /** Whether it can tell anything now. A source may come and go. */
     virtual bool isAvailable() const = 0;
 
     /** The state as last heard; down while unavailable. */
     virtual ConnectionState state() const = 0;
 
-    /** Whether the connection of state() is up, asked anew: what was heard last may be late. May take a second. */
-    virtual bool isStillUp() const = 0;
+    /** Finds out anew whether the connection of state() is up, which may be late, and says it by answered(). */
+    virtual void askWhetherUp() = 0;
 
 Q_SIGNALS:
     /** state() may have changed. It may come without need. */
     void changed();
 
-    /** isAvailable() changed. */
+    /** isAvailable() or isKnown() changed. */
     void availabilityChanged();
+
+    /** The answer to one askWhetherUp(), within about a second of it or at once; no answer is a no. */
+    void answered(bool isUp);
 };

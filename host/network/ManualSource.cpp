@@ -3,6 +3,11 @@
 
 #include "ManualSource.h"
 
+bool ManualSource::isKnown() const
+{
+    return true;
+}
+
 bool ManualSource::isAvailable() const
 {
     return true;
@@ -19,9 +24,9 @@ ConnectionState ManualSource::state() const
     return state;
 }
 
-bool ManualSource::isStillUp() const
+void ManualSource::askWhetherUp()
 {
-    return m_isUp;
+    Q_EMIT answered(m_isUp);
 }
 
 void ManualSource::setUp(bool isUp)

@@ -11,9 +11,10 @@ class ManualSource : public ConnectionSource
     Q_OBJECT
 
 public:
+    bool isKnown() const override;
     bool isAvailable() const override;
     ConnectionState state() const override;
-    bool isStillUp() const override;
+    void askWhetherUp() override;
 
     /** The user says that the connection is up, or is no longer. */
     void setUp(bool isUp);

@@ -3,9 +3,12 @@
 
 #pragma once
 
-#include <QDBusMessage>
 #include <QObject>
-#include <QString>
+#include <QVariantMap>
+
+#include <memory>
+
+class QDBusPendingCallWatcher;
 
 /**
  * The name of the mobile network that a modem is registered with, by ModemManager over the system bus. It comes later
@@ -17,7 +20,8 @@ class ModemOperator : public QObject
 
 public:
     /** Knows no modem and no name. */
-    ModemOperator() = default;
+    ModemOperator();
+    ~ModemOperator() override;
 
     /** Asks for the modem with this object path of ModemManager; anything else stands for none. */
     void setModem(const QString& path);
@@ -30,12 +34,13 @@ Q_SIGNALS:
     void changed();
 
 private Q_SLOTS:
-    void readAnswer(const QDBusMessage& answer);
     void readChange(const QString& interface, const QVariantMap& changes);
 
 private:
+    void ask();
     void setName(const QString& name);
 
     QString m_modem;
     QString m_name;
+    std::unique_ptr<QDBusPendingCallWatcher> m_answer; ///< of this modem, which may take its time
 };

@@ -4,175 +4,155 @@
 #include "NetworkManagerSource.h"
 
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
-#include <NetworkManagerQt/BluetoothSetting>
-#include <NetworkManagerQt/ConnectionSettings>
-#include <NetworkManagerQt/Manager>
+#include <algorithm>
 
-using NetworkManager::ActiveConnection;
-using NetworkManager::ConnectionSettings;
+#include "BusValue.h"
+#include "NetworkLook.h"
 
 namespace
 {
-const int patience = 1000; // milliseconds for one answer
-
-ConnectionState::Reach reachOf(NetworkManager::Connectivity connectivity)
-{
-    switch (connectivity) {
-    case NetworkManager::Full:
-        return ConnectionState::Reach::Full;
-    case NetworkManager::Portal:
-        return ConnectionState::Reach::Portal;
-    case NetworkManager::Limited:
-    case NetworkManager::NoConnectivity:
-        return ConnectionState::Reach::Limited;
-    case NetworkManager::UnknownConnectivity:
-        break;
-    }
-    return ConnectionState::Reach::Unknown;
-}
-
-/** Dial-up networking, and not the local network that Bluetooth can be as well. */
-bool isDialUp(const ActiveConnection& connection)
-{
-    const NetworkManager::Connection::Ptr stored = connection.connection();
-    if (!stored)
-        return false;
-    const NetworkManager::Setting::Ptr setting = stored->settings()->setting(NetworkManager::Setting::Bluetooth);
-    const auto bluetooth = setting.dynamicCast<NetworkManager::BluetoothSetting>();
-    return bluetooth && bluetooth->profileType() == NetworkManager::BluetoothSetting::Dun;
-}
-
-NetworkManager::Device::Ptr deviceOf(const ActiveConnection& connection)
-{
-    const QStringList paths = connection.devices();
-    return paths.isEmpty() ? NetworkManager::Device::Ptr() : NetworkManager::findNetworkInterface(paths.constFirst());
-}
+constexpr char service[] = "org.freedesktop.NetworkManager";
+constexpr char active[] = "org.freedesktop.NetworkManager.Connection.Active";
+constexpr char properties[] = "org.freedesktop.DBus.Properties";
+const uint activated = 2; // NetworkManager's number
 } // namespace
 
 NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
     : m_kind(kind)
 {
-    const QDBusConnection bus = QDBusConnection::systemBus();
-    if (!bus.isConnected())
-        return;
-    const NetworkManager::Notifier* const notifier = NetworkManager::notifier();
-    connect(notifier, &NetworkManager::Notifier::serviceAppeared, this, [this] { setAvailable(true); });
-    connect(notifier, &NetworkManager::Notifier::serviceDisappeared, this, [this] { setAvailable(false); });
-    connect(notifier, &NetworkManager::Notifier::activeConnectionsChanged, this, &NetworkManagerSource::listen);
-    connect(notifier, &NetworkManager::Notifier::primaryConnectionChanged, this, &NetworkManagerSource::look);
-    connect(notifier, &NetworkManager::Notifier::connectivityChanged, this, &NetworkManagerSource::look);
-    connect(&m_operator, &ModemOperator::changed, this, &ConnectionSource::changed);
-    m_isAvailable = bus.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.NetworkManager"));
-    listen();
+    m_pause.setSingleShot(true);
+    m_retry.setSingleShot(true);
+    connect(&m_pause, &QTimer::timeout, this, &NetworkManagerSource::lookWhenDue);
+    connect(&m_retry, &QTimer::timeout, this, &NetworkManagerSource::requestLook);
+    // The name of an operator may change as fast as anything else.
+    connect(&m_operator, &ModemOperator::changed, this, &NetworkManagerSource::requestLook);
+    if (QDBusConnection::systemBus().isConnected())
+        listen();
+    else
+        m_presence = Presence::Away;
+}
+
+NetworkManagerSource::~NetworkManagerSource() = default;
+
+void NetworkManagerSource::listen()
+{
+    QDBusConnection bus = QDBusConnection::systemBus();
+    auto* const watcher =
+        new QDBusServiceWatcher(QLatin1String(service), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
+    for (const char* const interface : {service, active})
+        bus.connect(QLatin1String(service), QString(), QLatin1String(properties), QStringLiteral("PropertiesChanged"),
+                    {QLatin1String(interface)}, QString(), this, SLOT(requestLook()));
+
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
+    question << QLatin1String(service);
+    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        // When the service came meanwhile, its coming was told.
+        if (!m_hasOwner)
+            setOwner(BusValue::text(answer->reply().arguments().value(0)));
+    });
+}
+
+bool NetworkManagerSource::isKnown() const
+{
+    return m_presence != Presence::Unknown;
 }
 
 bool NetworkManagerSource::isAvailable() const
 {
-    return m_isAvailable;
+    return m_presence == Presence::There;
 }
 
 ConnectionState NetworkManagerSource::state() const
 {
-    ConnectionState state = m_state;
+    ConnectionState state = m_chosen.state;
     if (state.isUp)
         state.operatorName = m_operator.name();
     return state;
 }
 
-bool NetworkManagerSource::isStillUp() const
+void NetworkManagerSource::askWhetherUp()
 {
-    if (!m_state.isUp)
-        return false;
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.NetworkManager"), m_path,
-                                       QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question << QStringLiteral("org.freedesktop.NetworkManager.Connection.Active") << QStringLiteral("State");
-    const QDBusMessage answer = QDBusConnection::systemBus().call(question, QDBus::Block, patience);
-    // There is no answer when the connection is gone, and with it its object.
-    return answer.type() == QDBusMessage::ReplyMessage &&
-           answer.arguments().value(0).value<QDBusVariant>().variant().toUInt() == ActiveConnection::Activated;
+    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(service), m_chosen.path,
+                                                           QLatin1String(properties), QStringLiteral("Get"));
+    question << QLatin1String(active) << QStringLiteral("State");
+    auto* const watcher =
+        new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(question, NetworkLook::patience), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        // There is no answer when the connection is gone, and with it its object.
+        const QVariant answer = watcher->reply().arguments().value(0).value<QDBusVariant>().variant();
+        Q_EMIT answered(BusValue::number(answer) == activated);
+    });
 }
 
-void NetworkManagerSource::setAvailable(bool isAvailable)
+void NetworkManagerSource::setOwner(const QString& owner)
 {
-    if (m_isAvailable == isAvailable)
+    m_hasOwner = !owner.isEmpty();
+    // What the one before said counts no longer.
+    m_look.reset();
+    m_retry.stop();
+    m_wait = 0;
+    m_facts = NetworkFacts();
+    m_chosen = NetworkFacts::Chosen();
+    m_operator.setModem(QString());
+    if (m_presence == Presence::There || !m_hasOwner)
+        setPresence(Presence::Away);
+    requestLook();
+}
+
+void NetworkManagerSource::setPresence(Presence presence)
+{
+    if (m_presence == presence)
         return;
-    m_isAvailable = isAvailable;
-    listen();
+    m_presence = presence;
     Q_EMIT availabilityChanged();
 }
 
-void NetworkManagerSource::listen()
+void NetworkManagerSource::requestLook()
 {
-    for (const ActiveConnection::Ptr& connection : qAsConst(m_connections))
-        connection->disconnect(this);
-    m_connections = m_isAvailable ? NetworkManager::activeConnections() : ActiveConnection::List();
-    for (const ActiveConnection::Ptr& connection : qAsConst(m_connections)) {
-        connect(connection.data(), &ActiveConnection::stateChanged, this, &NetworkManagerSource::look);
-        connect(connection.data(), &ActiveConnection::default4Changed, this, &NetworkManagerSource::look);
-        connect(connection.data(), &ActiveConnection::default6Changed, this, &NetworkManagerSource::look);
-        connect(connection.data(), &ActiveConnection::devicesChanged, this, &NetworkManagerSource::look);
-    }
-    look();
+    m_isWanted = true;
+    lookWhenDue();
 }
 
-void NetworkManagerSource::look()
+void NetworkManagerSource::lookWhenDue()
 {
-    m_state = ConnectionState();
-    m_path.clear();
-    QString modem;
-    if (const ActiveConnection::Ptr connection = chosen()) {
-        m_state.isUp = connection->state() == ActiveConnection::Activated;
-        m_state.isComingUp = !m_state.isUp;
-        m_state.name = connection->id();
-        const NetworkManager::Device::Ptr device = deviceOf(*connection);
-        if (device) {
-            m_state.device = device->ipInterfaceName().isEmpty() ? device->interfaceName() : device->ipInterfaceName();
-            modem = device->udi();
-        }
-        if (m_state.isUp) {
-            m_state.id = connection->uuid();
-            m_state.reach = reachOf(NetworkManager::connectivity());
-            m_path = connection->path();
-        }
+    if (!m_isWanted || !m_hasOwner || m_look || m_pause.isActive())
+        return;
+    m_isWanted = false;
+    m_pause.start(pause);
+    m_look = std::make_unique<NetworkLook>(m_facts);
+    connect(m_look.get(), &NetworkLook::finished, this, &NetworkManagerSource::takeLook);
+}
+
+void NetworkManagerSource::takeLook()
+{
+    NetworkLook* const look = m_look.release();
+    look->deleteLater();
+    if (look->isComplete()) {
+        m_wait = 0;
+        m_retry.stop();
+    } else {
+        m_wait = std::min(std::max(2 * m_wait, NetworkLook::patience), longestWait);
+        m_retry.start(m_wait);
     }
-    m_operator.setModem(m_state.isUp ? modem : QString());
-    if (m_isAvailable)
+    const bool isSilent = look->facts().of(NetworkFacts::manager()).isEmpty();
+    m_facts = look->facts();
+    m_chosen = m_facts.chosen(m_kind);
+    m_operator.setModem(m_chosen.modem);
+    if (!isAvailable())
+        setPresence(isSilent ? Presence::Away : Presence::There);
+    else
         Q_EMIT changed();
-}
-
-bool NetworkManagerSource::counts(const ActiveConnection& connection) const
-{
-    if (m_kind == ConnectionKind::Any)
-        return connection.default4() || connection.default6();
-    switch (connection.type()) {
-    case ConnectionSettings::Gsm:
-    case ConnectionSettings::Cdma:
-        return true;
-    case ConnectionSettings::Bluetooth:
-        return isDialUp(connection);
-    default:
-        return false;
-    }
-}
-
-ActiveConnection::Ptr NetworkManagerSource::chosen() const
-{
-    // The one that the traffic takes is the one to show, where several are up.
-    const ActiveConnection::Ptr primary = m_isAvailable ? NetworkManager::primaryConnection() : ActiveConnection::Ptr();
-    ActiveConnection::Ptr best;
-    for (const ActiveConnection::Ptr& connection : m_connections) {
-        const bool isUp = connection->state() == ActiveConnection::Activated;
-        if ((!isUp && connection->state() != ActiveConnection::Activating) || !counts(*connection))
-            continue;
-        if (isUp && primary && connection->path() == primary->path())
-            return connection;
-        if (!best || (isUp && best->state() != ActiveConnection::Activated))
-            best = connection;
-    }
-    return best;
+    lookWhenDue();
 }

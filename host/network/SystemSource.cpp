@@ -3,7 +3,6 @@
 
 #include "SystemSource.h"
 
-#ifdef VELLUM_HAS_NETWORKMANAGER
 #include "NetworkManagerSource.h"
 
 std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind)
@@ -12,9 +11,3 @@ std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind)
         return nullptr;
     return std::make_unique<NetworkManagerSource>(kind);
 }
-#else
-std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind)
-{
-    return nullptr;
-}
-#endif

@@ -8,5 +8,5 @@
 #include "ConnectionKind.h"
 #include "ConnectionSource.h"
 
-/** The service that tells of such connections; null for Manual and where the program was built without one. */
+/** The service that tells of such connections; null for Manual. */
 std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind);

@@ -3,11 +3,6 @@
 
 #include "DesktopOpener.h"
 
-#include <unistd.h>
-
-// xdg-open may last as long as the program that it started, whose end then is no failure to open.
-static const qint64 openingTakesAtMost = 60000; // ms
-
 /** What xdg-open means by its exit code. */
 static QString reasonOf(int exitCode)
 {
@@ -23,23 +18,13 @@ static QString reasonOf(int exitCode)
     }
 }
 
-void detachStandardStreams(QProcess& process)
+DesktopOpener::DesktopOpener(const QString& target, qint64 openingTakesAtMost)
+    : OutlivingProcess(QStringLiteral("xdg-open"), {target})
+    , m_openingTakesAtMost(openingTakesAtMost)
 {
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-}
-
-DesktopOpener::DesktopOpener(const QString& target)
-{
-    setProgram(QStringLiteral("xdg-open"));
-    setArguments({target});
-    detachStandardStreams(*this);
-#if QT_VERSION >= 0x060000
-    setChildProcessModifier([] { ::setsid(); });
-#endif
     connect(this, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &DesktopOpener::onFinished);
-    connect(this, &QProcess::errorOccurred, this, &DesktopOpener::onError);
+    connect(this, &OutlivingProcess::notStarted, this,
+            [this] { Q_EMIT failed(tr("Opening this needs the program \"xdg-open\", which could not be started:")); });
 }
 
 void DesktopOpener::start()
@@ -48,27 +33,10 @@ void DesktopOpener::start()
     QProcess::start();
 }
 
-#if QT_VERSION < 0x060000
-void DesktopOpener::setupChildProcess()
-{
-    // In a session of its own, what ends this program's terminal does not end what was opened.
-    ::setsid();
-}
-#endif
-
 void DesktopOpener::onFinished(int exitCode, QProcess::ExitStatus status)
 {
     const bool isOpened = status == QProcess::NormalExit && exitCode == 0;
-    if (!isOpened && !m_elapsed.hasExpired(openingTakesAtMost))
+    // xdg-open may last as long as the program that it started, whose end then is no failure to open.
+    if (!isOpened && m_elapsed.elapsed() < m_openingTakesAtMost)
         Q_EMIT failed(reasonOf(status == QProcess::NormalExit ? exitCode : -1));
-    deleteLater();
-}
-
-void DesktopOpener::onError(QProcess::ProcessError error)
-{
-    // Other errors come with the end of the run.
-    if (error != QProcess::FailedToStart)
-        return;
-    Q_EMIT failed(tr("Opening this needs the program \"xdg-open\", which could not be started:"));
-    deleteLater();
 }

@@ -4,24 +4,23 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QProcess>
 
-/** Connects the standard streams of a process that outlives this one to nothing: ours may be closed before it ends. */
-void detachStandardStreams(QProcess& process);
+#include "OutlivingProcess.h"
 
 /**
- * One run of xdg-open, which lets the desktop open a file, folder or address with the user's program for it.
- *
- * Make it with new: it deletes itself when the run has ended. A run that lasts longer than this program goes on, which
- * is why nothing else may own or delete the object.
+ * One run of xdg-open, which lets the desktop open a file, folder or address with the user's program for it. Make it
+ * with new, as every OutlivingProcess.
  */
-class DesktopOpener : public QProcess
+class DesktopOpener : public OutlivingProcess
 {
     Q_OBJECT
 
 public:
-    /** target is an absolute path or an address, so it never looks like an option. */
-    explicit DesktopOpener(const QString& target);
+    /**
+     * target is an absolute path or an address, so it never looks like an option. A run that ends after
+     * openingTakesAtMost milliseconds or more has opened it, whatever its end.
+     */
+    explicit DesktopOpener(const QString& target, qint64 openingTakesAtMost = 60000);
 
     /** Starts the run and returns at once. */
     void start();
@@ -31,11 +30,8 @@ Q_SIGNALS:
     void failed(const QString& reason);
 
 private:
-#if QT_VERSION < 0x060000
-    void setupChildProcess() override;
-#endif
     void onFinished(int exitCode, QProcess::ExitStatus status);
-    void onError(QProcess::ProcessError error);
 
+    const qint64 m_openingTakesAtMost;
     QElapsedTimer m_elapsed;
 };

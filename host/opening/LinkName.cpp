@@ -3,16 +3,11 @@
 
 #include "LinkName.h"
 
+#include "ShownText.h"
+
 QString LinkName::onOneLine(const QString& name)
 {
-    QString line = name;
-    for (QChar& character : line) {
-        const QChar::Category category = character.category();
-        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
-            category == QChar::Separator_Paragraph)
-            character = QLatin1Char(' ');
-    }
-    return line;
+    return ShownText::onOneLine(name);
 }
 
 QString LinkName::withAmpersands(QString name)

@@ -9,7 +9,7 @@
 namespace LinkName
 {
 
-/** With a blank for each line feed, tab or other control character. */
+/** With a blank for whatever would break the line or turn its direction, see ShownText. */
 QString onOneLine(const QString& name);
 
 /** With its ampersands doubled, so that a menu or button shows them and underlines nothing. */

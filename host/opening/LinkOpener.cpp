@@ -4,39 +4,85 @@
 #include "LinkOpener.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
 #include "DesktopOpener.h"
 #include "LinkPath.h"
 #include "Notice.h"
+#include "SchemeRules.h"
 
-static const char* const schemes[] = {"", "file", "mailto", "http", "https", "ftp"};
+// The system takes no argument of a program that is longer.
+static const int longestTarget = 128 * 1024 - 1; // bytes
 
-LinkOpener::LinkOpener()
+LinkOpener::LinkOpener(const AgreedAddresses& agreed)
+    : m_agreed(agreed)
 {
-    for (const char* scheme : schemes)
-        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
+    takeOver(SchemeRules::known());
+    connect(&m_questions, &AddressQuestions::agreed, this, [this](const QString& address) {
+        if (m_agreed.add)
+            m_agreed.add(address);
+        handToDesktop(address);
+    });
 }
 
 LinkOpener::~LinkOpener()
 {
-    for (const char* scheme : schemes)
-        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+    for (const QString& scheme : qAsConst(m_schemes))
+        QDesktopServices::unsetUrlHandler(scheme);
+}
+
+void LinkOpener::takeOver(const QStringList& schemes)
+{
+    for (const QString& scheme : schemes) {
+        // The toolkit makes one more connection at every call.
+        if (m_schemes.contains(scheme))
+            continue;
+        m_schemes.insert(scheme);
+        QDesktopServices::setUrlHandler(scheme, this, "open");
+    }
 }
 
 void LinkOpener::open(const QUrl& address)
 {
-    if (LinkPath::isPath(address))
-        openPath(LinkPath::of(address));
-    else
-        handToDesktop(QString::fromLatin1(address.toEncoded()));
+    if (!address.isValid() && !address.isEmpty()) {
+        // It has no text of its own any more but in what the toolkit says of it.
+        tell(tr("This is no valid address:"), address.errorString());
+        return;
+    }
+    // Without letters that only look like others, and without signs that turn the direction.
+    const QString encoded = QString::fromLatin1(address.toEncoded());
+    switch (SchemeRules::ruleFor(address.scheme())) {
+    case SchemeRule::Path:
+        return openPath(address);
+    case SchemeRule::HandOver:
+        return handToDesktop(encoded);
+    case SchemeRule::Refuse:
+        return tell(tr("Addresses that are themselves a script or a page are never opened:"), encoded);
+    case SchemeRule::Ask:
+        return ask(encoded);
+    }
 }
 
-void LinkOpener::openPath(const QString& path)
+void LinkOpener::openPath(const QUrl& address)
+{
+    const QString typed = LinkPath::typed(address);
+    const QString path = LinkPath::of(address);
+    if (typed.isEmpty())
+        tell(tr("This link leads nowhere: it has no path."), typed);
+    else if (path.isEmpty())
+        tell(tr("The path of an application or file must begin with \"/\":"), typed);
+    else
+        openFile(path);
+}
+
+void LinkOpener::openFile(const QString& path)
 {
     const QFileInfo target(path);
-    if (!target.exists())
+    // What the system's encoding cannot hold would be left out, and another file be meant.
+    const bool isExact = QFile::decodeName(QFile::encodeName(path)) == path;
+    if (!isExact || !target.exists())
         tell(tr("There is no such file or folder, or you are not allowed to see it:"), path);
     else if (target.isFile() && target.isExecutable())
         startProgram(path);
@@ -48,16 +94,29 @@ void LinkOpener::openPath(const QString& path)
 
 void LinkOpener::startProgram(const QString& path)
 {
-    QProcess program;
-    program.setProgram(path);
-    program.setWorkingDirectory(QFileInfo(path).path());
-    detachStandardStreams(program);
-    if (!program.startDetached())
-        tell(tr("This program could not be started:"), path);
+    OutlivingProcess* const program = new OutlivingProcess(path, {});
+    program->setWorkingDirectory(QFileInfo(path).path());
+    connect(program, &OutlivingProcess::notStarted, this,
+            [path] { tell(tr("This program could not be started:"), path); });
+    program->start();
+    // The time that the system takes to load it: whether it could is known when this returns.
+    program->waitForStarted();
+}
+
+void LinkOpener::ask(const QString& address)
+{
+    if (m_agreed.contains && m_agreed.contains(address))
+        handToDesktop(address);
+    else if (!m_questions.ask(address))
+        tell(tr("Too many questions wait for an answer to ask about this address, too:"), address);
 }
 
 void LinkOpener::handToDesktop(const QString& target)
 {
+    if (target.toUtf8().size() > longestTarget) {
+        tell(tr("This is too long to be opened:"), target);
+        return;
+    }
     DesktopOpener* const opener = new DesktopOpener(target);
     connect(opener, &DesktopOpener::failed, this, [target](const QString& reason) { tell(reason, target); });
     opener->start();

@@ -4,31 +4,57 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
 #include <QString>
+#include <QStringList>
+
+#include <functional>
+
+#include "AddressQuestions.h"
 
 class QUrl;
 
+/** What is known of the addresses that the user has agreed to, spelt exactly so. Without functions, nothing is kept. */
+struct AgreedAddresses {
+    std::function<bool(const QString& address)> contains;
+    std::function<void(const QString& address)> add;
+};
+
 /**
- * Opens what QDesktopServices::openUrl() is called with: programs directly, everything else by the desktop. What was
- * opened outlives this program, and what could not be opened is told to the user without blocking the caller.
+ * Opens what QDesktopServices::openUrl() is called with: programs directly, everything else by the desktop, unusual
+ * addresses after the user has agreed (SchemeRules). What was opened outlives this program, and what could not be
+ * opened is told to the user without blocking the caller.
  */
 class LinkOpener : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Takes over the addresses without a scheme and those of files, mail and the Internet. One at a time. */
-    LinkOpener();
+    /**
+     * Takes over the addresses of all schemes that have a rule of their own. One at a time. What the user agrees to is
+     * looked up and kept in agreed.
+     */
+    explicit LinkOpener(const AgreedAddresses& agreed = AgreedAddresses());
 
-    /** Gives them back to the toolkit. */
+    /** Gives all schemes back to the toolkit. */
     ~LinkOpener() override;
 
+    /** Takes over the addresses of further schemes: the toolkit hands over by scheme, and knows no "all others". */
+    void takeOver(const QStringList& schemes);
+
 public Q_SLOTS:
+    /** Opens address, or says why not. Waits neither for the user nor for what is opened. */
     void open(const QUrl& address);
 
 private:
-    void openPath(const QString& path);
+    void openPath(const QUrl& address);
+    void openFile(const QString& path);
     void startProgram(const QString& path);
+    void ask(const QString& address);
     void handToDesktop(const QString& target);
     static void tell(const QString& reason, const QString& target);
+
+    const AgreedAddresses m_agreed;
+    QSet<QString> m_schemes; ///< those taken over
+    AddressQuestions m_questions;
 };

@@ -38,13 +38,23 @@ bool LinkPath::isPath(const QUrl& address)
     return address.scheme().isEmpty() || address.isLocalFile();
 }
 
+QString LinkPath::typed(const QUrl& address)
+{
+    return address.isLocalFile() ? address.toLocalFile() : withoutScheme(address);
+}
+
 QString LinkPath::of(const QUrl& address)
 {
-    const QString decoded = address.isLocalFile() ? address.toLocalFile() : withoutScheme(address);
-    const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(decoded));
+    const QString path = typed(address);
+    if (!path.startsWith(QLatin1Char('/')))
+        return QString();
     QString found = QStringLiteral("/");
-    const QStringList names = path.split(QLatin1Char('/'));
-    for (const QString& name : names)
-        found = QDir(found).filePath(entryFor(QDir(found), name));
+    const QStringList names = QDir::cleanPath(path).split(QLatin1Char('/'));
+    for (int i = 0; i < names.size(); ++i) {
+        found = QDir(found).filePath(entryFor(QDir(found), names.at(i)));
+        // Below nothing there is nothing to look for, and a path may be typed as long as one likes.
+        if (i + 1 < names.size() && !QFileInfo::exists(found))
+            return found + QLatin1Char('/') + names.mid(i + 1).join(QLatin1Char('/'));
+    }
     return found;
 }

@@ -10,6 +10,7 @@
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
 #include "PluginContainer.h"
+#include "ShownText.h"
 
 MenuManager::MenuManager(const PluginContainer& container)
     : m_container(container)
@@ -63,7 +64,7 @@ void MenuManager::addLinks(const PluginWith<IQuickLinkPlugin>& plugin)
 
 void MenuManager::setTexts(QAction* action)
 {
-    const QString tip = tr("Open %1").arg(action->data().toString());
+    const QString tip = tr("Open %1").arg(ShownText::isolatedName(action->data().toString()));
     // A name that looks like markup is shown as it stands.
     action->setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
     action->setStatusTip(tip);

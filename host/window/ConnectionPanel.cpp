@@ -11,6 +11,7 @@
 
 #include "ConnectionMonitor.h"
 #include "Heading.h"
+#include "ShownText.h"
 
 static QLabel* newValue()
 {
@@ -18,6 +19,8 @@ static QLabel* newValue()
     // A name or operator that looks like markup is shown as it stands.
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Nor does a long one make the window wide.
+    label->setMinimumWidth(1);
     return label;
 }
 
@@ -82,8 +85,9 @@ void ConnectionPanel::setRow(QLabel* value, const QString& caption, const QStrin
     const int index = m_rows->indexOf(value);
     QLabel* const label = static_cast<QLabel*>(m_rows->itemAt(index - 1)->widget());
     label->setText(caption);
-    value->setText(text);
-    value->setAccessibleName(caption + QLatin1Char(' ') + text);
+    const QString shown = ShownText::onOneLine(ShownText::shortened(text));
+    value->setText(shown);
+    value->setAccessibleName(caption + QLatin1Char(' ') + shown);
     label->setVisible(!text.isEmpty());
     value->setVisible(!text.isEmpty());
 }

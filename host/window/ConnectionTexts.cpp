@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include "ConnectionMonitor.h"
+#include "ShownText.h"
 
 using Reach = ConnectionState::Reach;
 
@@ -26,8 +27,10 @@ QString ConnectionTexts::state() const
 
 QString ConnectionTexts::summary() const
 {
-    const QString name = m_monitor.state().name;
-    return name.isEmpty() ? state() : tr("%1: %2", "state and name of the connection").arg(state(), name);
+    const QString name = ShownText::onOneLine(ShownText::shortened(m_monitor.state().name));
+    return name.isEmpty()
+               ? state()
+               : tr("%1: %2", "state and name of the connection").arg(state(), ShownText::isolatedName(name));
 }
 
 QString ConnectionTexts::hint() const
@@ -44,19 +47,17 @@ QString ConnectionTexts::hint() const
     return m_kind == ConnectionKind::Mobile ? tr("Waiting for mobile broadband.") : tr("Waiting for a connection.");
 }
 
-QString ConnectionTexts::since() const
+QString ConnectionTexts::since(const QDate& today) const
 {
     const QDateTime time = m_monitor.upSince();
     if (!time.isValid())
         return m_monitor.state().isUp ? tr("before this program started") : QString();
     const QLocale locale;
-    return time.date() == QDate::currentDate() ? locale.toString(time.time(), QLocale::ShortFormat)
-                                               : locale.toString(time, QLocale::ShortFormat);
+    return time.date() == today ? locale.toString(time.time(), QLocale::ShortFormat)
+                                : locale.toString(time, QLocale::ShortFormat);
 }
 
 QString ConnectionTexts::missingService() const
 {
-    if (m_kind == ConnectionKind::Manual || !m_monitor.isManual())
-        return QString();
-    return m_monitor.lacksService() ? tr("NetworkManager is not running") : tr("Built without NetworkManager");
+    return m_monitor.lacksService() ? tr("NetworkManager is not running") : QString();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QString>
 
 #include "ConnectionKind.h"
@@ -28,8 +29,8 @@ public:
     /** What keeps the user from the Internet, or what is waited for; empty where there is nothing to say. */
     QString hint() const;
 
-    /** Since when the connection is up; empty while it is not. */
-    QString since() const;
+    /** Since when the connection is up, as said on this day; empty while it is not. */
+    QString since(const QDate& today = QDate::currentDate()) const;
 
     /** Why the user has to press a button although a service was asked for; empty while it is there. */
     QString missingService() const;

@@ -17,13 +17,30 @@ static QString nameOf(const QString& language)
     return name.isEmpty() ? language : locale.toUpper(name.at(0)) + name.mid(1);
 }
 
+static QString withoutCountry(const QString& language)
+{
+    return language.section(QLatin1Char('_'), 0, 0);
+}
+
+/** With its country, as its speakers call that, where languages has the language of more than one. */
+static QString nameAmong(const QStringList& languages, const QString& language)
+{
+    const QString base = withoutCountry(language);
+    int countries = 0;
+    for (const QString& other : languages)
+        countries += withoutCountry(other) == base ? 1 : 0;
+    if (countries < 2)
+        return nameOf(language);
+    return QStringLiteral("%1 (%2)").arg(nameOf(base), QLocale(language).nativeCountryName());
+}
+
 LanguageMenu::LanguageMenu(const QStringList& languages, const QString& current)
     : m_group(new QActionGroup(this))
 {
     m_system = add(QString(), current);
     addSeparator();
     for (const QString& language : languages)
-        add(language, current)->setText(nameOf(language));
+        add(language, current)->setText(nameAmong(languages, language));
     setTexts();
     connect(m_group, &QActionGroup::triggered, this,
             [this](const QAction* action) { Q_EMIT languageChosen(action->data().toString()); });

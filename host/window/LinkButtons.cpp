@@ -74,6 +74,8 @@ QPushButton* LinkButtons::newButton(QAction* action)
     button->setAccessibleDescription(action->statusTip());
     button->setToolTip(action->toolTip());
     button->setStatusTip(action->statusTip());
+    // Return presses it as well as the space bar.
+    button->setAutoDefault(true);
     button->installEventFilter(this);
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
     return button;

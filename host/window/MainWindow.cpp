@@ -5,6 +5,7 @@
 
 #include "MainWindow.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
@@ -15,10 +16,13 @@
 #include "ConnectionPanel.h"
 #include "Heading.h"
 #include "LinkButtons.h"
+#include "OfferLine.h"
+#include "ShownText.h"
 
 MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     : m_linkButtons(new LinkButtons)
     , m_linkHeading(newHeading(1))
+    , m_offerLine(new OfferLine)
     , m_permanentStatus(new QLabel)
 {
     // Without a title of its own the window is shown with the program's name, but a screen reader does not hear it.
@@ -29,6 +33,7 @@ MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     column->addSpacing(column->spacing());
     column->addWidget(m_linkHeading);
     column->addWidget(m_linkButtons, 1);
+    column->addWidget(m_offerLine);
     setCentralWidget(content);
     statusBar()->addPermanentWidget(m_permanentStatus);
     buildMenus(languageMenu);
@@ -39,6 +44,13 @@ MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
 
 void MainWindow::setLinks(const QList<QAction*>& actions)
 {
+    // The plug-in may keep the former ones.
+    const QList<QAction*> former = m_linkMenu->actions();
+    for (QAction* action : former)
+        action->setShortcut(QKeySequence());
+    // The first nine are within reach of the keyboard.
+    for (int i = 0; i < actions.size() && i < 9; ++i)
+        actions.at(i)->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
     m_linkMenu->clear();
     m_linkMenu->addActions(actions);
     if (actions.isEmpty())
@@ -53,7 +65,10 @@ QMenu& MainWindow::linkMenu()
 
 void MainWindow::showNotLoaded(const QStringList& files)
 {
-    statusBar()->showMessage(tr("Not loaded: %1").arg(files.join(QStringLiteral(", "))));
+    QStringList names;
+    for (const QString& file : files)
+        names.append(ShownText::isolatedPath(file));
+    statusBar()->showMessage(tr("Plug-ins not loaded: %1").arg(names.join(QStringLiteral(", "))));
 }
 
 void MainWindow::setPermanentStatus(const QString& text)

@@ -8,6 +8,7 @@
 
 class ConnectionPanel;
 class LinkButtons;
+class OfferLine;
 class QAction;
 class QLabel;
 class QMenu;
@@ -27,6 +28,15 @@ public:
     /** The menu of the quick links, which stays the window's. */
     QMenu& linkMenu();
 
+    /** Whether the Edit menu offers to undo, and to redo, a change of the links. */
+    void setSteps(bool canUndo, bool canRedo);
+
+    /** The line below the links that offers to put something right; it stays the window's. */
+    OfferLine& offerLine() { return *m_offerLine; }
+
+    /** Whether the Tools menu offers to see the plug-ins that are left out. */
+    void setLeftOutPlugins(bool areThere);
+
     /** Names the files of plug-ins that were not loaded in the status bar, until something else is said there. */
     void showNotLoaded(const QStringList& files);
 
@@ -39,6 +49,15 @@ Q_SIGNALS:
 
     /** The user wants to see the settings. */
     void settingsRequested();
+
+    /** The user wants to see the plug-ins that are left out. */
+    void leftOutPluginsRequested();
+
+    /** The user wants to take back the last change of the links. */
+    void undoRequested();
+
+    /** The user wants the change again that was taken back last. */
+    void redoRequested();
 
     /** The user wants to end the program. */
     void quitRequested();
@@ -59,16 +78,21 @@ private:
 
     LinkButtons* m_linkButtons = nullptr;
     QLabel* m_linkHeading = nullptr;
+    OfferLine* m_offerLine = nullptr;
     QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
 
     QMenu* m_connectionMenu = nullptr;
     QMenu* m_linkMenu = nullptr;
+    QMenu* m_editMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_viewMenu = nullptr;
     QMenu* m_helpMenu = nullptr;
     QAction* m_quit = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QAction* m_settings = nullptr;
+    QAction* m_leftOutPlugins = nullptr;
     QAction* m_showStatusBar = nullptr;
     QAction* m_about = nullptr;
     QAction* m_noLinks = nullptr;

@@ -25,9 +25,18 @@ void MainWindow::buildMenus(QMenu* languageMenu)
     m_noLinks = new QAction(this);
     m_noLinks->setEnabled(false);
 
+    m_editMenu = menuBar()->addMenu(QString());
+    m_undo = m_editMenu->addAction(QString(), this, &MainWindow::undoRequested);
+    m_undo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Z")));
+    m_redo = m_editMenu->addAction(QString(), this, &MainWindow::redoRequested);
+    m_redo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
+    setSteps(false, false);
+
     m_toolsMenu = menuBar()->addMenu(QString());
     m_settings = m_toolsMenu->addAction(QString(), this, &MainWindow::settingsRequested);
     m_settings->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
+    m_leftOutPlugins = m_toolsMenu->addAction(QString(), this, &MainWindow::leftOutPluginsRequested);
+    setLeftOutPlugins(false);
 
     m_viewMenu = menuBar()->addMenu(QString());
     m_showStatusBar = m_viewMenu->addAction(QString());
@@ -41,22 +50,42 @@ void MainWindow::buildMenus(QMenu* languageMenu)
     m_about = m_helpMenu->addAction(QString(), this, &MainWindow::showAbout);
 }
 
+void MainWindow::setSteps(bool canUndo, bool canRedo)
+{
+    m_undo->setEnabled(canUndo);
+    m_redo->setEnabled(canRedo);
+}
+
+void MainWindow::setLeftOutPlugins(bool areThere)
+{
+    m_leftOutPlugins->setVisible(areThere);
+}
+
 void MainWindow::setTexts()
 {
     m_connectionMenu->setTitle(tr("&Connection"));
     m_quit->setText(tr("&Quit"));
-    m_quit->setStatusTip(tr("Close the program"));
+    m_quit->setStatusTip(tr("Quit the program"));
     m_linkMenu->setTitle(tr("&Quick Links"));
     m_noLinks->setText(tr("No quick links"));
+    m_editMenu->setTitle(tr("&Edit"));
+    m_undo->setText(tr("&Undo"));
+    m_undo->setStatusTip(tr("Take back the last change of the quick links"));
+    m_redo->setText(tr("&Redo"));
+    m_redo->setStatusTip(tr("Make the change again that was taken back"));
     m_toolsMenu->setTitle(tr("&Tools"));
     m_settings->setText(tr("&Settings…"));
     m_settings->setStatusTip(tr("Add, change and order quick links"));
+    m_leftOutPlugins->setText(tr("&Plug-ins Left Out…"));
+    m_leftOutPlugins->setStatusTip(tr("See which plug-ins crashed or hung, and load them again"));
     m_viewMenu->setTitle(tr("&View"));
     m_showStatusBar->setText(tr("&Status Bar"));
     m_helpMenu->setTitle(tr("&Help"));
     m_about->setText(tr("&About Vellum Connect"));
     m_linkHeading->setText(tr("Quick Links"));
     m_linkButtons->setAccessibleName(tr("Quick Links"));
+    // In each language all menus are in sight.
+    setMinimumWidth(menuBar()->sizeHint().width());
 }
 
 void MainWindow::showAbout()

@@ -10,8 +10,14 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
+#include "HistoryPage.h"
+#include "LinkPageKeys.h"
+#include "OfferLine.h"
 #include "PageArea.h"
 
 SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent)
@@ -19,6 +25,7 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     , m_pages(SettingsPage::of(plugins))
     , m_list(new QListWidget)
     , m_area(new PageArea)
+    , m_offerLine(new OfferLine)
     , m_hint(new QLabel)
 {
     QVBoxLayout* const column = new QVBoxLayout(this);
@@ -29,13 +36,15 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setMinimumSize(320, 120);
     row->addWidget(m_hint);
+    column->addWidget(m_offerLine);
+    connect(m_offerLine, &OfferLine::offered, this, [this] {
+        if (isVisible()) {
+            layout()->activate();
+            growToPage();
+        }
+    });
 
-    for (int i = 0; i < m_pages.size(); ++i)
-        m_list->addItem(QString());
-    setTexts();
-    m_list->setVisible(!m_pages.isEmpty());
-    m_area->setVisible(!m_pages.isEmpty());
-    m_hint->setVisible(m_pages.isEmpty());
+    listPages();
     connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
 
     QDialogButtonBox* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -46,6 +55,43 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDialog::reject);
     column->addWidget(buttons);
+}
+
+void SettingsDialog::setHistory(HistoryPage* page)
+{
+    m_history = page;
+    page->setParent(m_area->pageParent());
+    page->hide();
+    m_list->clear();
+    listPages();
+}
+
+void SettingsDialog::listPages()
+{
+    const int count = int(m_pages.size()) + (m_history ? 1 : 0);
+    for (int i = 0; i < count; ++i)
+        m_list->addItem(QString());
+    setTexts();
+    m_list->setVisible(count > 0);
+    m_area->setVisible(count > 0);
+    m_hint->setVisible(count == 0);
+}
+
+void SettingsDialog::leavePages()
+{
+    m_shownLast = m_shown;
+    showPage(-1);
+    const QSignalBlocker blocker(m_list);
+    m_list->clear();
+    m_pages.clear();
+}
+
+void SettingsDialog::setPlugins(const QList<PluginWith<ISettingUIPlugin>>& plugins)
+{
+    m_pages = SettingsPage::of(plugins);
+    listPages();
+    if (m_shownLast >= 0 && m_list->count() > 0)
+        m_list->setCurrentRow(std::min(m_shownLast, m_list->count() - 1));
 }
 
 void SettingsDialog::accept()
@@ -77,7 +123,7 @@ bool SettingsDialog::allAgree(bool (SettingsPage::*question)() const)
 void SettingsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (m_shown < 0 && !m_pages.isEmpty())
+    if (m_shown < 0 && m_list->count() > 0)
         m_list->setCurrentRow(0);
 }
 
@@ -95,23 +141,41 @@ void SettingsDialog::setTexts()
     m_list->setAccessibleName(tr("Pages"));
     for (int i = 0; i < m_pages.size(); ++i)
         m_list->item(i)->setText(m_pages.at(i).caption());
+    if (m_history && m_list->count() > m_pages.size())
+        m_list->item(int(m_pages.size()))->setText(m_history->caption());
     m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
 }
 
 void SettingsDialog::showPage(int index)
 {
-    if (m_shown >= 0)
+    if (m_history)
+        m_history->hide();
+    if (m_shown >= 0 && m_shown < m_pages.size())
         m_pages.at(m_shown).hide();
     m_area->setPage(nullptr);
     m_shown = index;
     if (m_shown < 0)
         return;
-    m_area->setPage(m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect()));
+    m_area->setPage(shown());
     growToPage();
+}
+
+/** Builds and shows the page whose turn it is. */
+QWidget* SettingsDialog::shown()
+{
+    if (m_shown < m_pages.size()) {
+        QWidget* const page = m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect());
+        LinkPageKeys::addTo(page);
+        return page;
+    }
+    m_history->show();
+    return m_history;
 }
 
 void SettingsDialog::growToPage()
 {
     const QSize missing = (m_area->sizeHint() - m_area->size()).expandedTo(QSize(0, 0));
-    resize((size() + missing).boundedTo(screen()->availableSize()));
+    // The desktop may still be at giving the window its size.
+    if (!missing.isNull())
+        resize((size() + missing).boundedTo(screen()->availableSize()));
 }

@@ -8,11 +8,14 @@
 
 #include "SettingsPage.h"
 
+class HistoryPage;
+class OfferLine;
 class PageArea;
 class QLabel;
 class QListWidget;
 
-/** The settings: a list of the plug-ins' pages and the page chosen there. Made anew each time it is opened. */
+/** The settings: a list of the plug-ins' pages and the program's own, and the page chosen there. Made anew each time it
+ * is opened. */
 class SettingsDialog : public QDialog
 {
     Q_OBJECT
@@ -20,6 +23,18 @@ class SettingsDialog : public QDialog
 public:
     /** Offers the pages of plugins, which must stay loaded while the dialog is open. parent may be null. */
     SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent);
+
+    /** Offers page, which becomes the dialog's, below those of the plug-ins. */
+    void setHistory(HistoryPage* page);
+
+    /** The line below the pages that offers to put something right; it stays the dialog's. */
+    OfferLine& offerLine() { return *m_offerLine; }
+
+    /** Leaves the page that is shown and asks no plug-in for anything any more, until setPlugins(). */
+    void leavePages();
+
+    /** Offers the pages of plugins in place of the former ones, and shows the one that was shown before, if any. */
+    void setPlugins(const QList<PluginWith<ISettingUIPlugin>>& plugins);
 
     /** Closes when every plug-in agrees; else shows the page of the one that does not. */
     void accept() override;
@@ -36,13 +51,18 @@ protected:
 
 private:
     bool allAgree(bool (SettingsPage::*question)() const);
+    void listPages();
     void setTexts();
     void showPage(int index);
+    QWidget* shown();
     void growToPage();
 
     QList<SettingsPage> m_pages;
-    int m_shown = -1; ///< index of the page in the area
+    HistoryPage* m_history = nullptr;
+    int m_shown = -1;     ///< index of the page in the area
+    int m_shownLast = -1; ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
+    OfferLine* m_offerLine = nullptr;
     QLabel* m_hint = nullptr; ///< stands where there are no pages
 };

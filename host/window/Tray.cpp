@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QWidget>
 
+#include "BringToFront.h"
 #include "ConnectionIcon.h"
 
 Tray::Tray(QWidget& window, QMenu& linkMenu)
@@ -14,7 +15,7 @@ Tray::Tray(QWidget& window, QMenu& linkMenu)
 {
     m_menu.addMenu(&linkMenu);
     m_menu.addSeparator();
-    m_show = m_menu.addAction(QString(), this, &Tray::showWindow);
+    m_show = m_menu.addAction(QString(), this, [this] { bringToFront(&m_window); });
     m_quit = m_menu.addAction(QString(), this, &Tray::quitRequested);
     setTexts();
     m_icon.setContextMenu(&m_menu);
@@ -45,7 +46,7 @@ void Tray::tellThatItKeepsRunning()
         return;
     m_hasToldThatItKeepsRunning = true;
     m_icon.showMessage(QGuiApplication::applicationDisplayName(),
-                       tr("The program goes on here. Click the icon to see its window."));
+                       tr("Vellum Connect keeps running here. Click the icon to show its window."));
 }
 
 void Tray::setTexts()
@@ -66,13 +67,5 @@ void Tray::toggleWindow()
     if (m_window.isVisible() && !m_window.isMinimized())
         m_window.hide();
     else
-        showWindow();
-}
-
-void Tray::showWindow()
-{
-    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
-    m_window.show();
-    m_window.raise();
-    m_window.activateWindow();
+        bringToFront(&m_window);
 }

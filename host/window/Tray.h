@@ -34,7 +34,6 @@ private:
     void setTexts();
     bool eventFilter(QObject* object, QEvent* event) override;
     void toggleWindow();
-    void showWindow();
 
     QWidget& m_window;
     QMenu m_menu;

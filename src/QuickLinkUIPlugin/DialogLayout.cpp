@@ -14,15 +14,13 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "DialogLengthLimits.h"
 #include "Pointers.h"
 #include "QuickLinkSettingNewEditDlg.h"
 #include "Trace.h"
 
 namespace
 {
-const int nameLength = 49;    // characters
-const int targetLength = 261; // characters of a path, parameters or an address
-
 void addSpacer(QVBoxLayout* layout, int height)
 {
     layout->addItem(new QSpacerItem(50, height, QSizePolicy::Expanding, QSizePolicy::Minimum));
@@ -31,7 +29,7 @@ void addSpacer(QVBoxLayout* layout, int height)
 void fixTargetEdit(QLineEdit* edit, int width)
 {
     edit->setFixedSize(width, 24);
-    edit->setMaxLength(targetLength);
+    DialogLengthLimits::limitTarget(edit);
 }
 
 /** Ends a panel with its two launch options and gives it its layout. */
@@ -140,7 +138,7 @@ void QuickLinkSettingNewEditDlg::setDisplayLayout()
     m_nameLbl->setFixedWidth(51);
     m_nameLbl->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_appNameEdit->setFixedHeight(23);
-    m_appNameEdit->setMaxLength(nameLength);
+    DialogLengthLimits::limitName(m_appNameEdit);
     m_nameLayout->setContentsMargins(0, 0, 30, 5);
     m_nameLayout->setSpacing(24);
     m_nameLayout->addWidget(m_nameLbl);

@@ -49,9 +49,10 @@ public:
      * Replaces the file by one with the given records, which are read only and stay the caller's.
      *
      * keepCurrentId 0 says that a record was appended and advances the counter m_currentId by one. A record
-     * without an id is written with the counter's value less one; in memory it keeps its empty id. The old
-     * file is removed first and there is no copy: after FileNotOpened the links exist in memory only. A full
-     * disk is not noticed.
+     * without an id is written with the counter's value less one; in memory it keeps its empty id. Characters
+     * that the file cannot hold are left out of it (StoreText). The old file is removed first and there is no copy:
+     * after FileNotOpened the links exist in memory only. When writing fails later, as on a full disk, only a trace
+     * says so; the answer is Done.
      */
     int SaveToConfigFile(QuickLinkRecordList* records, int keepCurrentId);
 

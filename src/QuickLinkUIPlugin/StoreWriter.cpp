@@ -8,6 +8,7 @@
 
 #include "LinkAttributes.h"
 #include "QuickLinkXmlParse.h"
+#include "StoreText.h"
 #include "Trace.h"
 
 namespace
@@ -49,16 +50,41 @@ public:
     void write(const QuickLinkRecord& record, const QString& id)
     {
         m_writer.writeEmptyElement(m_item);
-        m_writer.writeAttribute(m_names[0], id);
+        writeText(0, id);
         for (int i = 1; i < LinkAttributes::count; ++i)
-            m_writer.writeAttribute(m_names[i], record.*LinkAttributes::all[i].field);
+            writeText(i, record.*LinkAttributes::all[i].field);
     }
 
 private:
+    void writeText(int attribute, const QString& text)
+    {
+        if (StoreText::isWritable(text))
+            m_writer.writeAttribute(m_names[attribute], text);
+        else
+            m_writer.writeAttribute(m_names[attribute], StoreText::writable(text));
+    }
+
     QXmlStreamWriter& m_writer;
     const QString m_item;
     QString m_names[LinkAttributes::count];
 };
+
+void traceWriteError(const QFile& file)
+{
+    TRACE("Error write file: %s", file.errorString().toUtf8().constData());
+}
+
+/** Closes the file, with a trace when something of what was written to it has not arrived. */
+void closeWritten(QFile& file, const QXmlStreamWriter& writer)
+{
+    // The last text is written by flush(); close() would do it as well, but with Qt 4.8 without a word when it fails.
+    const bool isFlushed = file.flush() && !writer.hasError();
+    if (!isFlushed)
+        traceWriteError(file);
+    file.close();
+    if (isFlushed && file.error() != QFile::NoError)
+        traceWriteError(file);
+}
 } // namespace
 
 int QuickLinkXmlParse::SaveToConfigFile(QuickLinkRecordList* records, int keepCurrentId)
@@ -95,7 +121,7 @@ int QuickLinkXmlParse::SaveToConfigFile(QuickLinkRecordList* records, int keepCu
     writer.writeEndElement();
     writer.writeEndElement();
     writer.writeEndDocument();
-    file.close();
+    closeWritten(file, writer);
     TRACE("%s : %s: %s: Exit", Trace::now(), __FILE__, __func__);
     return Done;
 }
@@ -105,7 +131,7 @@ void QuickLinkXmlParse::writeHeader(QXmlStreamWriter& writer) const
     writer.writeStartElement(QLatin1String("function"));
     // Always visible, whatever was read: a save brings a hidden page back.
     writer.writeTextElement(QLatin1String("Visible"), QLatin1String("1"));
-    writer.writeTextElement(QLatin1String("CurrentID"), m_currentId);
+    writer.writeTextElement(QLatin1String("CurrentID"), StoreText::writable(m_currentId));
     writer.writeEndElement();
     writer.writeStartElement(QLatin1String("type"));
     writeType(writer, " 0", "IDS_LINK_TYPE_APPLICATION");

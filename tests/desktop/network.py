@@ -4,6 +4,7 @@
 """NetworkManager, ModemManager and logind as the program meets them on the system bus, played by dbusmock."""
 
 import os
+import signal
 import subprocess
 import sys
 
@@ -37,13 +38,21 @@ class _Service:
         self._process.wait()
         wait_for(lambda: not self._bus.name_has_owner(self.name), f"the end of {self.name}")
 
+    def stop(self):
+        """It keeps its name and says nothing more, until `go_on`."""
+        self._process.send_signal(signal.SIGSTOP)
+
+    def go_on(self):
+        self._process.send_signal(signal.SIGCONT)
+
     def close(self):
+        self.go_on()
         end(self._process)
         self._bus.close()
 
 
 class NetworkManager(_Service):
-    """NetworkManager with one modem, "wwan0", and one cable, "eth0", which are not connected."""
+    """NetworkManager with a modem, "wwan0", a cable, "eth0", and a telephone by Bluetooth, which are not connected."""
 
     FULL, LIMITED, PORTAL = 4, 3, 2
 
@@ -51,7 +60,9 @@ class NetworkManager(_Service):
         super().__init__("org.freedesktop.NetworkManager", "--template", "networkmanager")
         self._manager = self.at(MANAGER)
         self._devices = {"gsm": self._add_device("modem", "cdc-wdm0", "wwan0", 8, MODEM),
-                         "802-3-ethernet": self._add_device("cable", "eth0", "eth0", 1, "cable")}
+                         "802-3-ethernet": self._add_device("cable", "eth0", "eth0", 1, "cable"),
+                         "bluetooth": self._add_device("telephone", "bnep0", "bnep0", 5, "telephone")}
+        self._manager.AddProperty(self.name, "PrimaryConnection", dbus.ObjectPath("/"))
         self._connections = {}  # stored ones: (name, kind) -> path
         self._number = 0
 
@@ -69,22 +80,22 @@ class NetworkManager(_Service):
         self._manager.EmitSignal(self.name, "DeviceAdded", "o", [path])
         return path
 
-    def activate(self, name, kind="gsm"):
-        """Brings a connection up at once; returns its path, for the other calls."""
-        return self._activate(name, kind, 2)
+    def activate(self, name, kind="gsm", **settings):
+        """Brings a connection up at once; returns its path, for the other calls. Settings are those of its kind."""
+        return self._activate(name, kind, 2, **settings)
 
     def start_to_activate(self, name, kind="gsm"):
         """Begins to bring a connection up; `set_state` goes on."""
         return self._activate(name, kind, 1)
 
-    def _activate(self, name, kind, state):
+    def _activate(self, name, kind, state, **settings):
         self._number += 1
-        stored = self._connections.get((name, kind)) or self._store(name, kind)
+        stored = self._connections.get((name, kind)) or self._store(name, kind, settings)
         return self._manager.AddActiveConnection([self._devices[kind]], stored, "/", str(self._number),
                                                  dbus.UInt32(state))
 
-    def _store(self, name, kind):
-        settings = {"connection": {"id": name, "type": kind, "uuid": f"00000000-{name}-{kind}"}, kind: {}}
+    def _store(self, name, kind, own):
+        settings = {"connection": {"id": name, "type": kind, "uuid": f"00000000-{name}-{kind}"}, kind: own}
         path = self.at(SETTINGS, "org.freedesktop.NetworkManager.Settings").AddConnection(
             dbus.Dictionary({section: dbus.Dictionary(values, signature="sv") for section, values in settings.items()},
                             signature="sa{sv}"))
@@ -93,8 +104,37 @@ class NetworkManager(_Service):
 
     def set_state(self, connection, state):
         """Goes on to state 1 (activating), 2 (activated), 3 (deactivating) or 4 (deactivated)."""
-        self._manager.SetProperty(connection, "org.freedesktop.NetworkManager.Connection.Active", "State",
-                                  dbus.UInt32(state))
+        self._set(connection, "State", dbus.UInt32(state))
+
+    def set_default_route(self, connection, is_default):
+        """Says whether the connection has a default route, as it has at first."""
+        self._set(connection, "Default", is_default)
+
+    def set_primary(self, connection):
+        """Says which connection the traffic takes; none at first."""
+        self._manager.SetProperty(MANAGER, self.name, "PrimaryConnection", dbus.ObjectPath(connection))
+
+    def _set(self, connection, name, value):
+        self._manager.SetProperty(connection, "org.freedesktop.NetworkManager.Connection.Active", name, value)
+
+    def say(self, name, value):
+        """Gives a property of NetworkManager itself any value of any type."""
+        self._manager.SetProperty(MANAGER, self.name, name, value)
+
+    def flood(self, count):
+        """Says that something changed, so many times as fast as it can; returns before the last one."""
+        # A hundred at a time, so that it answers questions, too.
+        self._manager.AddMethod(self.name, "Flood", "", "", "\n".join((
+            f"def emit(mock=self, left=[{count}]):",
+            "    import dbus",
+            "    for _ in range(min(100, left[0])):",
+            f"        mock.EmitSignal(dbus.PROPERTIES_IFACE, 'PropertiesChanged', 'sa{{sv}}as', ['{self.name}', "
+            "{'State': dbus.UInt32(70)}, dbus.Array([], signature='s')])",
+            "    left[0] -= 100",
+            "    return left[0] > 0",
+            "from gi.repository import GLib",
+            "GLib.idle_add(emit)")))
+        self.at(MANAGER, self.name).Flood()
 
     def take_down(self, connection, kind="gsm"):
         self._manager.RemoveActiveConnection(self._devices[kind], connection)

@@ -20,7 +20,9 @@ class Opened:
     def calls(self):
         """The arguments of every call so far, in order."""
         # Process numbers tell the order of the calls better than the times at which the processes got so far.
-        records = sorted(self._records(), key=_process_number)
+        records = list(self._records())
+        turn = _turn(map(_process_number, records))
+        records.sort(key=lambda record: (_process_number(record) < turn, _process_number(record)))
         return [record.read_text(encoding="utf-8").split("\0")[:-1] for record in records]
 
     def process_numbers(self):
@@ -37,6 +39,13 @@ class Opened:
 
     def _records(self):
         return self._folder.glob("*.call")
+
+
+def _turn(numbers):
+    """The number below which processes are later than those above: the system begins anew behind its highest one."""
+    numbers = sorted(numbers)
+    half = int(Path("/proc/sys/kernel/pid_max").read_text(encoding="ascii")) // 2
+    return half if numbers and numbers[-1] - numbers[0] > half else 0
 
 
 def _process_number(record):

@@ -57,12 +57,26 @@ class Scenario(unittest.TestCase):
 
     def start(self, *arguments, **environment):
         """Starts the program and waits for its window and for its word that the start is complete."""
-        self.program = Program([PROGRAM, "--data-dir", str(self.data), *arguments], self.folder / "log",
+        self.launch(*arguments, **environment)
+        self.window = self.application.main_window(TITLE)
+        self.wait_for_log("notification 258 sent")
+
+    def launch(self, *arguments, wrapper=(), **environment):
+        """Starts the program, by a command that becomes it where there is a `wrapper`, and waits for no window."""
+        self.program = Program([*wrapper, PROGRAM, "--data-dir", str(self.data), *arguments], self.folder / "log",
                                **self.opened.environment, **environment)
         self.addCleanup(self.program.close)
         self.application = Application(self.program)
-        self.window = self.application.main_window(TITLE)
-        self.wait_for_log("notification 258 sent")
+
+    def message_about(self, target):
+        """Waits for a message of the program in which the target stands."""
+        def is_there():
+            for window in self.application.windows():
+                if window.name != TITLE and any(target in text for text in window.names("label")):
+                    return window
+            return None
+
+        return wait_for(is_there, f"a message about {target}")
 
     def wait_for_log(self, line, count=1):
         """Waits until the program has said something this many times."""

@@ -5,6 +5,7 @@
 
 import ctypes
 import os
+import re
 import signal
 import subprocess
 import tempfile
@@ -12,6 +13,8 @@ import tempfile
 from waiting import wait_for
 
 _libc = ctypes.CDLL(None)
+SANITIZER_OPTIONS = ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
+_FINDING = re.compile(r"ERROR: \w+Sanitizer|^\S+:\d+:\d+: runtime error: ")
 
 
 def die_with_parent():
@@ -70,7 +73,7 @@ class Session:
     def _set_environment(home):
         """Nothing of the real user's desktop may reach in, and nothing of the tests out."""
         kept = {name: value for name, value in os.environ.items()
-                if name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS") or name.startswith("VELLUM_")}
+                if name in ("PATH", *SANITIZER_OPTIONS) or name.startswith("VELLUM_")}
         runtime = os.path.join(home, "runtime")
         os.mkdir(runtime, 0o700)
         os.environ.clear()
@@ -137,4 +140,7 @@ class Program:
             return text.read()
 
     def close(self):
+        """AssertionError when a sanitizer has found something; a program that ends by itself says what it leaks."""
         end(self._process)
+        found = next((line for line in self.output().splitlines() if _FINDING.search(line)), None)
+        assert not found, f"a sanitizer has found something: {found}\n{self.output()}"

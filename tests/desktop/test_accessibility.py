@@ -31,7 +31,7 @@ class Accessibility(SettingsScenario):
     def test_main_window(self):
         self.assertEqual(self.labels(self.window), {
             "push button": ["Connect", "News & weather", "Mail"],
-            "menu item": ["Connection", "Quick Links", "Tools", "View", "Help"]})
+            "menu item": ["Connection", "Quick Links", "Edit", "Tools", "View", "Help"]})
         self.assertEqual(self.window.name, TITLE)
 
     def test_descriptions_are_plain_text(self):
@@ -55,7 +55,7 @@ class Accessibility(SettingsScenario):
                 shown = self.labels(dialog.window)
                 self.assertEqual(shown["text"], fields[kind])
                 self.assertEqual(shown["combo box"], ["Type:"])
-                self.assertEqual(shown["check box"], ["Open when the program starts", "Open when connected"])
+                self.assertEqual(shown["check box"], ["Open when Vellum Connect starts", "Open when connected"])
                 self.assertEqual(shown["page tab"], [kind])
                 buttons = ["Browse…", "OK", "Cancel"] if kind == TYPES[0] else ["OK", "Cancel"]
                 self.assertEqual(shown["push button"], buttons)

@@ -94,6 +94,7 @@ class Connection(ConnectionScenario):
         network = self.play(NetworkManager())
         self.start_marked()
         cable = network.activate("Cable", "802-3-ethernet")
+        network.activate("Local network", "bluetooth", type="panu")
         network.activate("Mobile plan")
         self.expect_opened(1)
         network.take_down(cable, "802-3-ethernet")
@@ -125,6 +126,23 @@ class Connection(ConnectionScenario):
         self.window.find("label", "Connection: Mobile plan")
         self.wait_for_log("another connection took over")
         self.expect_opened(1)
+
+    def test_shows_the_connection_that_the_traffic_takes(self):
+        self.play(ModemManager("Northern Mobile"))
+        network = self.play(NetworkManager())
+        self.start_marked("--connection", "any")
+        mobile = network.start_to_activate("Mobile plan")
+        self.expect_heading("Connecting…")
+        cable = network.activate("Cable", "802-3-ethernet")
+        self.window.find("label", "Connection: Cable")
+        network.set_state(mobile, ACTIVATED)
+        network.set_primary(mobile)
+        self.window.find("label", "Operator: Northern Mobile")
+        network.set_primary(cable)
+        self.window.find("label", "Connection: Cable")
+        wait_for(lambda: not self.window.all("label", "Operator: Northern Mobile"), "the end of the operator")
+        network.set_default_route(cable, False)
+        self.window.find("label", "Connection: Mobile plan")
 
     def test_waits_for_the_internet(self):
         network = self.play(NetworkManager())

@@ -10,6 +10,7 @@ import unittest
 from pathlib import Path
 
 from links import APPLICATION, EMAIL, INTERNET, link, save
+from session import SANITIZER_OPTIONS
 
 PROGRAM = os.environ["VELLUM_PROGRAM"]
 
@@ -28,7 +29,8 @@ class CommandLine(unittest.TestCase):
     def run_program(self, *arguments):
         """With nothing that leads to a display."""
         environment = {"PATH": os.environ["PATH"], "HOME": str(self.home), "LC_ALL": "C.UTF-8",
-                       "XDG_RUNTIME_DIR": str(self.home / "runtime")}
+                       "XDG_RUNTIME_DIR": str(self.home / "runtime"),
+                       **{name: os.environ[name] for name in SANITIZER_OPTIONS if name in os.environ}}
         return subprocess.run([PROGRAM, *arguments], env=environment, stdin=subprocess.DEVNULL, capture_output=True,
                               text=True, timeout=60, check=False)
 

@@ -103,6 +103,27 @@ class Menu(Scenario):
         self.message_about(path)
         self.assertEqual(self.opened.calls(), [])
 
+    def test_unusual_address_is_asked_about_once(self):
+        address = "sms:+4930123"
+        self.start_with(link(0, "Text", EMAIL, address), link(1, "Write", EMAIL, "mailto:"))
+        self.pick("Text")
+        question = self.message_about(address)
+        self.pick("Write")
+        self.expect_calls(["mailto:"])
+        self.assertTrue(question.is_showing())
+        question.find("push button", "Yes").click()
+        self.application.wait_until_gone(question)
+        self.expect_calls(["mailto:"], [address])
+        self.pick("Text")
+        self.expect_calls(["mailto:"], [address], [address])
+
+    def test_script_is_refused(self):
+        self.start_with(link(0, "Script", EMAIL, "javascript:alert(1)"))
+        self.pick("Script")
+        message = self.message_about("javascript:alert(1)")
+        self.assertTrue(any("never opened" in text for text in message.names("label")))
+        self.assertEqual(self.opened.calls(), [])
+
     def test_ampersand_shows(self):
         self.start_with(link(0, "News & Weather", INTERNET, "http://news.example.org/"),
                         link(1, "Q&A", INTERNET, "http://qa.example.org/"))
@@ -145,16 +166,6 @@ class Menu(Scenario):
         for pid in opened:
             with self.subTest(pid=pid):
                 self.assertTrue(Path(f"/proc/{pid}/exe").exists())
-
-    def message_about(self, target):
-        """Waits for a message of the program in which the target stands."""
-        def is_there():
-            for window in self.application.windows():
-                if window.name != TITLE and any(target in text for text in window.names("label")):
-                    return window
-            return None
-
-        return wait_for(is_there, f"a message about {target}")
 
 
 if __name__ == "__main__":

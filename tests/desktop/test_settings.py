@@ -27,7 +27,7 @@ class Settings(SettingsScenario):
         dialog.browse(application)
         self.assertEqual(dialog.field("Program file:").text, str(application))
         dialog.field("Parameters:").type("--new window")
-        dialog.tick("Open when the program starts")
+        dialog.tick("Open when Vellum Connect starts")
         dialog.close()
         notes = link(2, "Notes", APPLICATION, str(application), para="--new window", startmobile=1)
         self.expect_file(3, link(0, *PORTAL), link(1, *MAIL), notes)
@@ -64,7 +64,7 @@ class Settings(SettingsScenario):
         dialog = settings.new()
         dialog.field("Name:").type("Ghost")
         dialog.field("Program file:").type(str(self.folder / "no such file"))
-        self.assertIn("This program file does not exist", dialog.refused())
+        self.assertIn("There is no such program file", dialog.refused())
         dialog.close("Cancel")
         self.expect_file(5, link(0, *PORTAL), link(1, *MAIL), notes, write, news)
 
@@ -114,15 +114,18 @@ class Settings(SettingsScenario):
         self.expect_file(1, link(0, *MAIL))
         self.expect_menu("Mail")
 
-    def test_order_alone_does_not_reach_the_menu(self):
+    def test_order_reaches_the_menu_when_the_settings_close(self):
         self.start_with(link(0, *PORTAL), link(1, *MAIL))
         settings = self.open_settings()
         settings.select("Mail")
         settings.press("Up")
         settings.wait_for_links("Mail", "Portal")
         self.expect_file(2, link(1, *MAIL), link(0, *PORTAL))
+        # The plug-in tells the menu of no change of order.
+        self.assertEqual(self.names_on_buttons(), ["Portal", "Mail"])
         settings.close()
-        self.assertEqual(self.links_in_menu(), ["Portal", "Mail"])
+        self.expect_menu("Mail", "Portal")
+        self.assertEqual(self.links_in_menu(), ["Mail", "Portal"])
 
     def test_delete_is_asked_first(self):
         self.start_with(link(0, *PORTAL), link(1, *MAIL))

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// Where the dialog's widgets lie: layouts, margins, spacings, items in order, fixed sizes and length limits.
+// Where the dialog's widgets lie: layouts, margins, spacings, items in order and fixed sizes.
 
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,7 +14,6 @@
 #include "DialogTexts.h"
 #include "FakeHost.h"
 #include "OpenDialog.h"
-#include "RecordingTrace.h"
 #include "Test.h"
 
 class DialogLayoutTest : public QObject
@@ -34,8 +31,6 @@ private Q_SLOTS:
     void browseButtonTakesTheRest();
     void types();
     void emailPanelHasNoInput();
-    void lengthLimit_data();
-    void lengthLimit();
 };
 
 namespace
@@ -238,33 +233,6 @@ void DialogLayoutTest::emailPanelHasNoInput()
     const OpenDialog dialog;
     QVERIFY(dialog->m_EmailTab->findChildren<QLineEdit*>().isEmpty());
     QCOMPARE(dialog->m_EmailTab->findChildren<QWidget*>().size(), 3);
-}
-
-void DialogLayoutTest::lengthLimit_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("limit");
-    QTest::newRow("m_appNameEdit") << 0 << 49;
-    QTest::newRow("m_appPathEdit") << 0 << 261;
-    QTest::newRow("m_appParamEdit") << 0 << 261;
-    QTest::newRow("m_EditUrlName") << 2 << 261;
-}
-
-void DialogLayoutTest::lengthLimit()
-{
-    QFETCH(int, type);
-    QFETCH(int, limit);
-    const RecordingTrace quiet;
-    OpenDialog dialog;
-    dialog.chooseType(type);
-    QLineEdit* const edit = dialog.find<QLineEdit>(QTest::currentDataTag());
-    const QString text = QString(limit, 'a') + "bc";
-    QTest::keyClicks(edit, text);
-    QCOMPARE(edit->text(), QString(limit, 'a'));
-    edit->clear();
-    QApplication::clipboard()->setText(text);
-    QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(edit->text(), QString(limit, 'a'));
 }
 
 REGISTER_TEST(DialogLayoutTest)

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void readsTheAction_data();
     void readsTheAction();
     void readsValues();
+    void readsTheLanguageBesideAnError();
     void readsTheKindOfConnection_data();
     void readsTheKindOfConnection();
     void refusesInOneLine_data();
@@ -31,7 +32,7 @@ static CommandLine parsed(const QStringList& arguments)
     QVector<char*> argv;
     for (QByteArray& text : texts)
         argv.append(text.data());
-    return CommandLine::parse(argv.size(), argv.data());
+    return CommandLine::parse(CommandLine::arguments(argv.size(), argv.data()));
 }
 
 void CommandLineTest::readsTheAction_data()
@@ -65,6 +66,14 @@ void CommandLineTest::readsValues()
     QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
 }
 
+void CommandLineTest::readsTheLanguageBesideAnError()
+{
+    const CommandLine line = parsed({"--data-dir=/d", "--language", "de", "--sing"});
+    QCOMPARE(int(line.action), int(CommandLine::Refuse));
+    QCOMPARE(line.language, "de");
+    QCOMPARE(line.dataFolder, "/d");
+}
+
 void CommandLineTest::readsTheKindOfConnection_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -93,6 +102,7 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::newRow("argument") << QStringList{"a\nb"} << "\"a b\"";
     QTest::newRow("no value") << QStringList{"--language"} << "--language";
     QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
+    QTest::newRow("empty kind") << QStringList{"--connection="} << "\"--connection\"";
     QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";
     QTest::newRow("value too much") << QStringList{"--list-links=1"} << "--list-links";
     QTest::newRow("error beside help") << QStringList{"--help", "--sing"} << "sing";
@@ -106,6 +116,7 @@ void CommandLineTest::refusesInOneLine()
     QCOMPARE(int(line.action), int(CommandLine::Refuse));
     QVERIFY2(line.error.contains(named), qPrintable(line.error));
     QVERIFY(!line.error.contains('\n'));
+    QVERIFY2(line.error.endsWith(" Try --help."), qPrintable(line.error));
 }
 
 void CommandLineTest::helpNamesEveryOption_data()

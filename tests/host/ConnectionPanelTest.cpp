@@ -53,7 +53,10 @@ private Q_SLOTS:
     void hasARowForAllThatIsKnown_data();
     void hasARowForAllThatIsKnown();
     void saysSinceWhen();
+    void saysTheDayOfAFormerDay();
     void showsANameAsItStands();
+    void hugeNamesStayInTheirPlace();
+    void noButtonBeforeTheServiceIsKnown();
     void buttonIsThereWhereOnlyTheUserKnows_data();
     void buttonIsThereWhereOnlyTheUserKnows();
     void buttonTellsTheMonitor();
@@ -196,6 +199,16 @@ void ConnectionPanelTest::saysSinceWhen()
     QCOMPARE(texts(), QStringList({"Connected", "Since:", QLocale().toString(time, QLocale::ShortFormat)}));
 }
 
+void ConnectionPanelTest::saysTheDayOfAFormerDay()
+{
+    show(false);
+    m_source->become("a");
+    const QDateTime time = m_monitor->upSince();
+    const ConnectionTexts texts(*m_monitor, ConnectionKind::Any);
+    QCOMPARE(texts.since(time.date()), QLocale().toString(time.time(), QLocale::ShortFormat));
+    QCOMPARE(texts.since(time.date().addDays(1)), QLocale().toString(time, QLocale::ShortFormat));
+}
+
 void ConnectionPanelTest::showsANameAsItStands()
 {
     show(false);
@@ -209,6 +222,34 @@ void ConnectionPanelTest::showsANameAsItStands()
         QCOMPARE(label->textFormat(), Qt::PlainText);
     }
     QCOMPARE(found, 1);
+}
+
+void ConnectionPanelTest::hugeNamesStayInTheirPlace()
+{
+    show(false);
+    m_source->become(up(Reach::Full, "Home"));
+    const int width = m_panel->minimumSizeHint().width();
+    ConnectionState huge = up(Reach::Full, QString(100000, 'W') + "\nnext line");
+    huge.device = QString(100000, 'W');
+    huge.operatorName = QString("a\nb\u202ec");
+    m_source->become(huge);
+    QVERIFY2(m_panel->minimumSizeHint().width() <= width, qPrintable(QString::number(width)));
+    const QStringList shown = texts();
+    for (const QString& text : shown)
+        QVERIFY2(text.size() < 200 && !text.contains('\n'), qPrintable(text));
+    QVERIFY(shown.contains("a b c"));
+    QVERIFY(ConnectionTexts(*m_monitor, ConnectionKind::Any).summary().size() < 200);
+}
+
+void ConnectionPanelTest::noButtonBeforeTheServiceIsKnown()
+{
+    m_source->known = false;
+    show(false, ConnectionKind::Mobile);
+    QVERIFY(!button()->isVisible());
+    QCOMPARE(texts(), QStringList({"Not connected", "Waiting for mobile broadband."}));
+    m_source->known = true;
+    m_source->setAvailable(false);
+    QVERIFY(button()->isVisible());
 }
 
 void ConnectionPanelTest::buttonIsThereWhereOnlyTheUserKnows_data()
@@ -250,6 +291,9 @@ void ConnectionPanelTest::summaryIsOneLine_data()
     QTest::addColumn<ConnectionState>("state");
     QTest::addColumn<QString>("summary");
     QTest::newRow("up with name") << up(Reach::Full, "Home") << "Connected: Home";
+    const QString arabic = codePoint(0x0627);
+    QTest::newRow("up with name from right to left")
+        << up(Reach::Full, arabic) << "Connected: " + codePoint(0x2068) + arabic + codePoint(0x2069);
     QTest::newRow("up without name") << up() << "Connected";
     QTest::newRow("down") << ConnectionState() << "Not connected";
 }
@@ -265,24 +309,24 @@ void ConnectionPanelTest::summaryIsOneLine()
 void ConnectionPanelTest::saysThatAServiceIsMissing_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("isBuiltIn");
+    QTest::addColumn<bool>("isKnown");
     QTest::addColumn<bool>("isAvailable");
     QTest::addColumn<QString>("text");
     QTest::newRow("there") << int(ConnectionKind::Any) << true << true << QString();
     QTest::newRow("gone") << int(ConnectionKind::Any) << true << false << "NetworkManager is not running";
-    QTest::newRow("not built in") << int(ConnectionKind::Mobile) << false << false << "Built without NetworkManager";
-    QTest::newRow("not asked for") << int(ConnectionKind::Manual) << false << false << QString();
+    QTest::newRow("not known yet") << int(ConnectionKind::Mobile) << false << false << QString();
+    QTest::newRow("not asked for") << int(ConnectionKind::Manual) << true << false << QString();
 }
 
 void ConnectionPanelTest::saysThatAServiceIsMissing()
 {
     QFETCH(int, kind);
-    QFETCH(bool, isBuiltIn);
+    QFETCH(bool, isKnown);
     QFETCH(bool, isAvailable);
     QFETCH(QString, text);
-    show(!isBuiltIn, ConnectionKind(kind));
-    if (isBuiltIn)
-        m_source->setAvailable(isAvailable);
+    m_source->known = isKnown;
+    m_source->available = isAvailable;
+    show(ConnectionKind(kind) == ConnectionKind::Manual, ConnectionKind(kind));
     QCOMPARE(ConnectionTexts(*m_monitor, ConnectionKind(kind)).missingService(), text);
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void handsOverTheTarget();
     void saysWhyItFailed_data();
     void saysWhyItFailed();
+    void takesALateEndForNoFailure();
     void saysThatItWasEndedFromOutside();
     void saysWhatIsMissing();
     void runsCutOff();
@@ -45,15 +46,19 @@ private:
 };
 } // namespace
 
-/** Runs xdg-open to its end. The reason why it failed; empty where it did not. */
-static QString reasonOfRun(const QString& target)
+/** Runs an opener, which is given away, to its end. The reason why it failed; empty where it did not. */
+static QString reasonOf(const QPointer<DesktopOpener>& opener)
 {
-    const QPointer<DesktopOpener> opener = new DesktopOpener(target);
     QStringList reasons;
     QObject::connect(opener.data(), &DesktopOpener::failed, QCoreApplication::instance(),
                      [&reasons](const QString& reason) { reasons.append(reason); });
     opener->start();
     return QTest::qWaitFor([&] { return !opener; }, 30000) ? reasons.join('\n') : "it does not delete itself";
+}
+
+static QString reasonOfRun(const QString& target)
+{
+    return reasonOf(new DesktopOpener(target));
 }
 
 void DesktopOpenerTest::handsOverTheTarget_data()
@@ -91,6 +96,14 @@ void DesktopOpenerTest::saysWhyItFailed()
     const RecordingDesktop desktop;
     desktop.answer(exitCode);
     QTEST(reasonOfRun("/x"), "reason");
+    QCOMPARE(desktop.opened().size(), 1);
+}
+
+void DesktopOpenerTest::takesALateEndForNoFailure()
+{
+    const RecordingDesktop desktop;
+    desktop.answer(4);
+    QCOMPARE(reasonOf(new DesktopOpener("/x", 0)), QString());
     QCOMPARE(desktop.opened().size(), 1);
 }
 

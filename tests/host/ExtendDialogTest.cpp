@@ -24,6 +24,7 @@ private Q_SLOTS:
     void standsInTheMiddleOfItsParent();
     void isCentredAtEveryShow();
     void staysWhereTheDesktopBringsItBack();
+    void staysWhereItIsWithoutAParent();
     void hasATitleBarWithCloseButton();
     void isModal();
     void closes_data();
@@ -161,6 +162,15 @@ void ExtendDialogTest::staysWhereTheDesktopBringsItBack()
     QSpontaneKeyEvent::setSpontaneous(&broughtBack);
     qApp->notify(m_frame, &broughtBack);
     QCOMPARE(m_frame->pos(), QPoint(7, 9));
+}
+
+void ExtendDialogTest::staysWhereItIsWithoutAParent()
+{
+    ExtendDialog frame(nullptr, Qt::WindowCloseButtonHint, 1, false);
+    frame.move(70, 90);
+    frame.show();
+    QVERIFY(frame.isVisible());
+    QCOMPARE(frame.pos(), QPoint(70, 90));
 }
 
 void ExtendDialogTest::hasATitleBarWithCloseButton()

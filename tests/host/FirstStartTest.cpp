@@ -64,9 +64,11 @@ void FirstStartTest::copiesMissingDefaults()
 {
     write("defaults" + configFile, "default");
     write("defaults/plugins/Other/deep/file", "other");
-    FirstStart::copyDefaults(defaults(), user());
+    write("defaults/plugins/Other/.hidden", "hidden");
+    QVERIFY(FirstStart::copyDefaults(defaults(), user()));
     QCOMPARE(read("user" + configFile), "default");
     QCOMPARE(read("user/plugins/Other/deep/file"), "other");
+    QCOMPARE(read("user/plugins/Other/.hidden"), "hidden");
     // No temporary file is left beside it.
     QCOMPARE(QDir(user() + "/plugins/Some").entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
@@ -75,7 +77,7 @@ void FirstStartTest::neverOverwrites()
 {
     write("defaults" + configFile, "default");
     write("user" + configFile, "own");
-    FirstStart::copyDefaults(defaults(), user());
+    QVERIFY(FirstStart::copyDefaults(defaults(), user()));
     QCOMPARE(read("user" + configFile), "own");
 }
 
@@ -86,13 +88,13 @@ void FirstStartTest::neverReplacesADeadLink()
     QVERIFY(QDir().mkpath(QFileInfo(target).path()));
     QVERIFY(QFile::link("/no/such/file", target));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be copied to .*config\\.xml"));
-    FirstStart::copyDefaults(defaults(), user());
+    QVERIFY(!FirstStart::copyDefaults(defaults(), user()));
     QCOMPARE(QFileInfo(target).symLinkTarget(), "/no/such/file");
 }
 
 void FirstStartTest::doesNothingWithoutDefaults()
 {
-    FirstStart::copyDefaults(defaults(), user());
+    QVERIFY(FirstStart::copyDefaults(defaults(), user()));
     QVERIFY(!QFileInfo::exists(user()));
 }
 
@@ -100,6 +102,10 @@ void FirstStartTest::saysWhatCannotBeMade()
 {
     write("user", "a file where a folder should be");
     write("lib/Some/libSome.so", "");
+    write("defaults" + configFile, "default");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("folder .*user/plugins/Some cannot be made"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be copied to .*config\\.xml"));
+    QVERIFY(!FirstStart::copyDefaults(defaults(), user()));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("folder .*user/plugins/Some cannot be made"));
     FirstStart::makePluginFolders(m_folder->filePath("lib"), user());
     QVERIFY(QFileInfo(user()).isFile());

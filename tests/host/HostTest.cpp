@@ -3,23 +3,29 @@
 
 // The program put together: what plug-ins meet from the start to the end.
 
+#include <QDesktopServices>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QUrl>
 
 #include "ConnectionPanel.h"
 #include "FakePlugin.h"
+#include "FakeTranslator.h"
 #include "Host.h"
 #include "IDialupUIService.h"
 #include "INotifyService.h"
+#include "MessageOnScreen.h"
 #include "PluginFixture.h"
+#include "RecordingDesktop.h"
 #include "Startup.h"
 #include "Test.h"
 #include "Translator.h"
 #include "UserFolder.h"
+#include "UserSettings.h"
 
 class HostTest : public QObject
 {
@@ -35,17 +41,26 @@ private Q_SLOTS:
     void tellsTheStartOfAWindowThatIsPutAway();
     void tellsWhatTheUserSaysOfTheConnection();
     void tellsTheLanguage();
+    void showsTheMenuInTheLanguage();
+    void turnsTheWindowWithTheLanguage();
     void servesPluginsThatNotifyTheMenu();
+    void asksBeforeItOpensLinksOfOtherSchemes();
+    void handsBackTheAnswerOfWhoIsNotified();
     void namesWhatWasNotLoaded();
+    void keepsTheOrderOfFilesNotLoaded();
+    void namesItsVersion();
     void takesPluginsDownOnceAndAfterTheWindow_data();
     void takesPluginsDownOnceAndAfterTheWindow();
+    void takesTheMenuDownBeforeThePlugins();
 
 private:
     bool eventFilter(QObject* object, QEvent* event) override;
     void showWindow();
     static QMainWindow* window();
     static QStringList menuTexts();
+    static INotifyService* notifyService();
     void setLinks(int plugin, const QStringList& names) const;
+    void saveLinks(const QByteArray& addresses) const;
     static QMenu* linkMenu() { return window()->menuBar()->actions().at(1)->menu(); }
 
     std::unique_ptr<PluginFolder> m_folder;
@@ -99,6 +114,17 @@ void HostTest::setLinks(int plugin, const QStringList& names) const
     m_host->container().plugins().at(plugin)->setProperty("links", names);
 }
 
+/** Saves a file of links with these addresses, one between two blanks each. */
+void HostTest::saveLinks(const QByteArray& addresses) const
+{
+    const QString folder = m_userFolder->path() + "/plugins/QuickLinkUIPlugin";
+    QVERIFY(QDir().mkpath(folder));
+    QByteArray items;
+    for (const QByteArray& address : addresses.split(' '))
+        items += "<item url='" + address + "'/>";
+    writeFile(folder + "/config.xml", "<tovadoc><menu>" + items + "</menu></tovadoc>", QFile::Permissions(0x6644));
+}
+
 QMainWindow* HostTest::window()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -116,6 +142,12 @@ QStringList HostTest::menuTexts()
     for (const QAction* entry : entries)
         texts.append(entry->text());
     return texts;
+}
+
+INotifyService* HostTest::notifyService()
+{
+    return qobject_cast<INotifyService*>(
+        Startup::GetPluginContainer()->GetPlugin("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412", 0x2011));
 }
 
 void HostTest::preparesThePluginsFolders()
@@ -203,16 +235,67 @@ void HostTest::tellsTheLanguage()
                                         "FakeFirst Notify 1024 0 0", "FakeSecond Notify 1024 0 0"}));
 }
 
+void HostTest::showsTheMenuInTheLanguage()
+{
+    setLinks(0, {"a"});
+    showWindow();
+    const FakeTranslator other;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("shown in English$"));
+    m_host->setLanguage("de");
+    QCOMPARE(linkMenu()->actions().constFirst()->statusTip(), "*Open a");
+}
+
+void HostTest::turnsTheWindowWithTheLanguage()
+{
+    showWindow();
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("shown in English$"));
+    m_host->setLanguage("de");
+    QCOMPARE(window()->layoutDirection(), Qt::LeftToRight);
+}
+
 void HostTest::servesPluginsThatNotifyTheMenu()
 {
     showWindow();
     QCOMPARE(menuTexts(), QStringList("No quick links"));
     setLinks(0, {"new"});
-    INotifyService* const service = qobject_cast<INotifyService*>(
-        Startup::GetPluginContainer()->GetPlugin("8B42D0E5-1C7F-4A93-9E26-5D8F03B7C412", 0x2011));
-    QVERIFY(service);
-    QCOMPARE(service->Notify("MenuMgrPlugin", 2309, 0, 0), 0);
+    QVERIFY(notifyService());
+    QCOMPARE(notifyService()->Notify("MenuMgrPlugin", 2309, 0, 0), 0);
     QCOMPARE(menuTexts(), QStringList("new"));
+}
+
+void HostTest::asksBeforeItOpensLinksOfOtherSchemes()
+{
+    const RecordingDesktop desktop;
+    saveLinks("sms:1 mailto:");
+    showWindow();
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    QVERIFY(notice());
+    clickButton(notice(), QMessageBox::Yes);
+    QTRY_COMPARE(desktop.opened(), QStringList("sms:1"));
+    QVERIFY(UserSettings::isAgreed("sms:1"));
+    QTRY_VERIFY(!notice());
+    // Only once.
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    QVERIFY(!notice());
+    QTRY_COMPARE(int(desktop.opened().size()), 2);
+
+    // A link that came later.
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
+    QVERIFY(!QDesktopServices::openUrl(QUrl("geo:1,2")));
+    saveLinks("geo:1,2");
+    QCOMPARE(notifyService()->Notify("MenuMgrPlugin", 2309, 0, 0), 0);
+    QVERIFY(QDesktopServices::openUrl(QUrl("geo:1,2")));
+    QVERIFY(notice());
+    QVERIFY(notice()->text().endsWith("geo:1,2"));
+}
+
+void HostTest::handsBackTheAnswerOfWhoIsNotified()
+{
+    m_host->container().plugins().at(1)->setProperty("answer", 5);
+    QVERIFY(notifyService());
+    QCOMPARE(notifyService()->Notify("FakeSecond", 1, 2, 3), 5);
+    QCOMPARE(takeEvents(), QStringList("FakeSecond Notify 1 2 3"));
 }
 
 void HostTest::namesWhatWasNotLoaded()
@@ -224,7 +307,33 @@ void HostTest::namesWhatWasNotLoaded()
     }
     m_host->loadPlugins(broken.path());
     showWindow();
-    QCOMPARE(window()->statusBar()->currentMessage(), "Not loaded: libBrokenOne.so, libBrokenTwo.so");
+    QCOMPARE(window()->statusBar()->currentMessage(), "Plug-ins not loaded: libBrokenOne.so, libBrokenTwo.so");
+}
+
+void HostTest::keepsTheOrderOfFilesNotLoaded()
+{
+    const PluginFolder broken;
+    broken.write("Broken", "no library");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Plug-in refused: "));
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    m_host->loadPlugins(broken.path());
+    showWindow();
+    const QString text = window()->statusBar()->currentMessage();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(text, "Plug-ins not loaded: " + codePoint(0x2066) + "libBroken.so" + codePoint(0x2069));
+}
+
+void HostTest::namesItsVersion()
+{
+    QCoreApplication::setApplicationVersion("1.2.3");
+    showWindow();
+    QString text;
+    whenMessageShows([&text](QMessageBox* box) {
+        text = box->text();
+        box->close();
+    });
+    window()->menuBar()->actions().constLast()->menu()->actions().constLast()->trigger();
+    QVERIFY2(text.contains("Vellum Connect 1.2.3"), qPrintable(text));
 }
 
 void HostTest::takesPluginsDownOnceAndAfterTheWindow_data()
@@ -244,6 +353,22 @@ void HostTest::takesPluginsDownOnceAndAfterTheWindow()
     m_host.reset();
     QCOMPARE(takeEvents(), QStringList({"FakeSecond OnDestroy, 0 windows", "FakeFirst OnDestroy, 0 windows"}));
     QVERIFY(!Startup::GetPluginContainer());
+}
+
+/** What an entry has from its plug-in may lie in the plug-in's library. */
+void HostTest::takesTheMenuDownBeforeThePlugins()
+{
+    setLinks(0, {"a"});
+    showWindow();
+    const QPointer<QAction> entry = linkMenu()->actions().constFirst();
+    bool isPluginGone = false, wasEntryThere = true;
+    connect(m_host->container().plugins().at(0), &QObject::destroyed, this, [&] {
+        isPluginGone = true;
+        wasEntryThere = entry;
+    });
+    m_host.reset();
+    QVERIFY(isPluginGone);
+    QVERIFY(!wasEntryThere);
 }
 
 REGISTER_TEST(HostTest)

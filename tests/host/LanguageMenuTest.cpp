@@ -19,6 +19,7 @@ class LanguageMenuTest : public QObject
 private Q_SLOTS:
     void namesEachInItsOwnLanguage_data();
     void namesEachInItsOwnLanguage();
+    void namesTheCountryWhereItTellsTwoApart();
     void offersTheSystemsFirst();
     void marksTheCurrentOne_data();
     void marksTheCurrentOne();
@@ -66,6 +67,16 @@ void LanguageMenuTest::namesEachInItsOwnLanguage()
     const LanguageMenu menu({language}, QString());
     QCOMPARE(choices(menu).size(), 2);
     QTEST(choices(menu).constLast()->text(), "name");
+}
+
+void LanguageMenuTest::namesTheCountryWhereItTellsTwoApart()
+{
+    const LanguageMenu menu({"pl", "pt", "pt_PT", "zh_CN"}, QString());
+    QStringList names;
+    for (const QAction* action : choices(menu).mid(1))
+        names.append(action->text());
+    QCOMPARE(names, QStringList() << "Polski" << QString::fromUtf8("Português (Brasil)")
+                                  << QString::fromUtf8("Português (Portugal)") << QString::fromUtf8("简体中文"));
 }
 
 void LanguageMenuTest::offersTheSystemsFirst()

@@ -6,9 +6,12 @@
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QUrl>
 
+#include "ChildProcesses.h"
+#include "CommonUtils.h"
 #include "LinkOpener.h"
 #include "MessageOnScreen.h"
 #include "ProcessLimits.h"
@@ -32,6 +35,13 @@ private Q_SLOTS:
     void tellsWhatCannotBeOpened();
     void tellsWhatTheDesktopCannotOpen();
     void leavesOtherSchemesAlone();
+    void takesOverFurtherSchemes();
+    void opensOtherSchemesOnlyWithTheUsersConsent();
+    void asksOnlyOnceForAnAddress();
+    void saysThatItCannotAskMore();
+    void neverOpensScripts_data();
+    void neverOpensScripts();
+    void tellsAllFailuresInOneNotice();
     void givesTheSchemesBack();
 
 private:
@@ -42,7 +52,8 @@ private:
 
 void LinkOpenerTest::cleanup()
 {
-    delete notice();
+    while (QMessageBox* const box = notice())
+        delete box;
 }
 
 /** Makes a file of this kind, or not, and answers where it is. */
@@ -71,6 +82,7 @@ void LinkOpenerTest::handsAddressesToTheDesktop_data()
     QTest::newRow("ftp") << "ftp://example.org/file";
     QTest::newRow("mail") << "mailto:";
     QTest::newRow("mail to somebody") << "mailto:someone@example.org?subject=a%20b";
+    QTest::newRow("telephone") << "tel:+49301234";
 }
 
 void LinkOpenerTest::handsAddressesToTheDesktop()
@@ -175,17 +187,138 @@ void LinkOpenerTest::leavesOtherSchemesAlone()
     const RecordingDesktop desktop;
     const LinkOpener opener;
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
-    QVERIFY(!QDesktopServices::openUrl(QUrl("tel:123")));
+    QVERIFY(!QDesktopServices::openUrl(QUrl("sms:1")));
     QVERIFY(!notice());
+}
+
+void LinkOpenerTest::takesOverFurtherSchemes()
+{
+    const RecordingDesktop desktop;
+    LinkOpener opener;
+    opener.takeOver({"sms", "geo", "sms", "http"});
+    opener.takeOver({"sms"});
+    for (const char* address : {"sms:1", "SMS:2", "geo:1,2"}) {
+        QVERIFY(QDesktopServices::openUrl(QUrl(address)));
+        QVERIFY2(notice(), address);
+    }
+    QCOMPARE(messageCount(), 1);
+    QCOMPARE(desktop.opened(), QStringList());
+}
+
+void LinkOpenerTest::opensOtherSchemesOnlyWithTheUsersConsent()
+{
+    const RecordingDesktop desktop;
+    LinkOpener opener;
+    opener.takeOver({"sms"});
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    QPointer<QMessageBox> question = notice();
+    QVERIFY(question);
+    QCOMPARE(question->text(), "Open this address with the program for \"sms\" links?\n\nsms:1");
+    clickButton(question, QMessageBox::No);
+    QTRY_VERIFY(!question);
+    QCoreApplication::processEvents();
+    QVERIFY(!hasChildProcesses());
+    QCOMPARE(messageCount(), 0);
+    QVERIFY(QDesktopServices::openUrl(QUrl(QString::fromUtf8("sms:\303\251 1"))));
+    question = notice();
+    QVERIFY(question);
+    // What is shown is what is opened.
+    QVERIFY(question->text().endsWith("\n\nsms:%C3%A9%201"));
+    clickButton(question, QMessageBox::Yes);
+    QTRY_COMPARE(desktop.opened(), QStringList("sms:%C3%A9%201"));
+}
+
+void LinkOpenerTest::asksOnlyOnceForAnAddress()
+{
+    QStringList agreed{"sms:1"};
+    const RecordingDesktop desktop;
+    LinkOpener opener({[&agreed](const QString& address) { return agreed.contains(address); },
+                       [&agreed](const QString& address) {
+                           agreed.append(address);
+                       }});
+    opener.takeOver({"sms"});
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    QVERIFY(!notice());
+    QTRY_COMPARE(desktop.opened(), QStringList("sms:1"));
+    // Spelt exactly so.
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1?")));
+    QVERIFY(notice());
+    clickButton(notice(), QMessageBox::Yes);
+    QTRY_COMPARE(int(desktop.opened().size()), 2);
+    QCOMPARE(agreed, QStringList({"sms:1", "sms:1?"}));
+    QTRY_VERIFY(!notice());
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1?")));
+    QVERIFY(!notice());
+    QTRY_COMPARE(int(desktop.opened().size()), 3);
+}
+
+void LinkOpenerTest::saysThatItCannotAskMore()
+{
+    LinkOpener opener;
+    opener.takeOver({"sms"});
+    for (int i = 0; i <= 201; ++i)
+        QVERIFY(QDesktopServices::openUrl(QUrl(QString("sms:%1").arg(i))));
+    QCOMPARE(messageCount(), 2);
+    const auto isNotice = [](QMessageBox* box) {
+        return box->icon() == QMessageBox::Warning;
+    };
+    QMessageBox* box = notice();
+    if (!isNotice(box)) {
+        box->hide();
+        box = notice();
+    }
+    QVERIFY(isNotice(box));
+    QCOMPARE(box->text(), "Too many questions wait for an answer to ask about this address, too:\n\nsms:201");
+}
+
+void LinkOpenerTest::neverOpensScripts_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("script") << "javascript:alert(1)";
+    QTest::newRow("capitals") << "JavaScript:alert(1)";
+    QTest::newRow("other script") << "vbscript:x";
+    QTest::newRow("page") << "data:text/html,x";
+}
+
+void LinkOpenerTest::neverOpensScripts()
+{
+    QFETCH(QString, address);
+    // Not even where somebody agreed to everything.
+    LinkOpener opener({[](const QString&) { return true; },
+                       [](const QString&) {
+                       }});
+    opener.takeOver({"javascript", "vbscript", "data"});
+    QVERIFY(QDesktopServices::openUrl(QUrl(address)));
+    QVERIFY(!hasChildProcesses());
+    QVERIFY(notice());
+    QCOMPARE(notice()->text(), "Addresses that are themselves a script or a page are never opened:\n\n" +
+                                   QString(QUrl(address).toEncoded()));
+}
+
+void LinkOpenerTest::tellsAllFailuresInOneNotice()
+{
+    const RecordingDesktop desktop;
+    desktop.answer(3);
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(QUrl("program")));
+    CommonUtils::OpenUrl("x:y");
+    CommonUtils::OpenUrl("www.a.example");
+    QVERIFY(QDesktopServices::openUrl(QUrl("/no/such/file")));
+    QTRY_VERIFY(notice()->text().contains("No program was found that opens this:\n"));
+    QVERIFY(notice()->text().endsWith(" http://www.a.example"));
+    QCOMPARE(messageCount(), 1);
+    QCOMPARE(int(notice()->text().split('\n').size()), 8); // four reasons with a target each
 }
 
 void LinkOpenerTest::givesTheSchemesBack()
 {
     const RecordingDesktop desktop;
     {
-        const LinkOpener opener;
+        LinkOpener opener;
+        opener.takeOver({"sms"});
     }
-    for (const char* address : {"/", "file:///", "mailto:", "http://a", "https://a", "ftp://a"}) {
+    for (const char* address : {"/", "file:///", "mailto:", "http://a", "https://a", "ftp://a", "tel:1", "data:,x",
+                                "javascript:x", "vbscript:x", "sms:1"}) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not support"));
         QVERIFY2(!QDesktopServices::openUrl(QUrl(address)), address);
     }

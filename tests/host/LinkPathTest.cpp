@@ -21,7 +21,9 @@ private Q_SLOTS:
     void namesTheFile();
     void takesTheEncodedNameWhereOnlyThatExists_data();
     void takesTheEncodedNameWhereOnlyThatExists();
-    void countsFromTheCurrentFolder();
+    void looksNoFurtherThanThereIsAnything();
+    void beginsAtTheRoot_data();
+    void beginsAtTheRoot();
 };
 
 void LinkPathTest::knowsPaths_data()
@@ -103,9 +105,40 @@ void LinkPathTest::takesTheEncodedNameWhereOnlyThatExists()
     QCOMPARE(LinkPath::of(QUrl(folder.filePath(typed))), folder.filePath(found));
 }
 
-void LinkPathTest::countsFromTheCurrentFolder()
+void LinkPathTest::looksNoFurtherThanThereIsAnything()
 {
-    QCOMPARE(LinkPath::of(QUrl("-x")), QDir::current().absoluteFilePath("-x"));
+    // A folder for each of these names would be looked through otherwise, which takes minutes.
+    const QString path = "/no/such" + QString("/%20").repeated(500000);
+    QCOMPARE(LinkPath::of(QUrl(path)), "/no/such" + QString("/ ").repeated(500000));
+}
+
+void LinkPathTest::beginsAtTheRoot_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("name") << "a%20b"
+                          << "a b";
+    QTest::newRow("option") << "-x"
+                            << "-x";
+    QTest::newRow("home") << "~/x"
+                          << "~/x";
+    QTest::newRow("blank before") << " /x"
+                                  << " /x";
+    QTest::newRow("above") << "../x"
+                           << "../x";
+    QTest::newRow("query") << "x?y#z"
+                           << "x?y#z";
+    QTest::newRow("file:") << "file:x"
+                           << "x";
+    QTest::newRow("file: and nothing") << "file:" << QString();
+}
+
+void LinkPathTest::beginsAtTheRoot()
+{
+    QFETCH(QString, address);
+    QTEST(LinkPath::typed(QUrl(address)), "typed");
+    QCOMPARE(LinkPath::of(QUrl(address)), QString());
 }
 
 REGISTER_TEST(LinkPathTest)

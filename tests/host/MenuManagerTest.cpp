@@ -170,6 +170,10 @@ void MenuManagerTest::showsTheNameAsItStands_data()
                                   << "%1"
                                   << "Open %1"
                                   << "Open %1";
+    // In its own direction.
+    const QString arabic = codePoint(0x0627) + " (1)";
+    const QString isolated = "Open " + codePoint(0x2068) + arabic + codePoint(0x2069);
+    QTest::newRow("from right to left") << arabic << arabic << isolated << isolated;
 }
 
 void MenuManagerTest::showsTheNameAsItStands()

@@ -3,7 +3,6 @@
 
 // What reaches the browser, and what the user is told about the rest.
 
-#include <QAbstractButton>
 #include <QDesktopServices>
 #include <QPointer>
 #include <QTimer>
@@ -41,12 +40,6 @@ private:
 };
 
 static const char* const schemes[] = {"http", "https", "ftp", "file", "javascript", "mailto"};
-
-static void clickOk(QMessageBox* box)
-{
-    QVERIFY(QTest::qWaitForWindowExposed(box));
-    clickThroughWindow(box->button(QMessageBox::Ok));
-}
 
 void OpenUrlTest::init()
 {
@@ -108,7 +101,7 @@ void OpenUrlTest::refuses()
     QVERIFY(box->text().contains("https"));
     QVERIFY(!box->windowTitle().isEmpty());
     QCOMPARE(box->icon(), QMessageBox::Warning);
-    clickOk(box);
+    clickButton(box, QMessageBox::Ok);
     QTRY_VERIFY(!box);
 }
 
@@ -122,7 +115,8 @@ void OpenUrlTest::tellsWhenNothingOpens()
     qputenv("PATH", path);
     QMessageBox* const box = notice();
     QVERIFY(box);
-    QVERIFY(box->text().contains("www.example.com"));
+    // As the user wrote it.
+    QVERIFY2(box->text().endsWith("\n\nwww.example.com"), qPrintable(box->text()));
     QVERIFY(box->text().contains("No program"));
 }
 
@@ -157,7 +151,7 @@ void OpenUrlTest::noticeCanBeClosedOverAModalMessage()
         box = notice();
         wasShown = box;
         if (box)
-            clickOk(box);
+            clickButton(box, QMessageBox::Ok);
         isGone = QTest::qWaitFor([&] { return !box; });
         modal->close();
     });

@@ -10,6 +10,9 @@
 
 #include "FakePlugin.h"
 #include "FakeTranslator.h"
+#include "HistoryPage.h"
+#include "LinkHistory.h"
+#include "OfferLine.h"
 #include "PageArea.h"
 #include "SettingsDialog.h"
 #include "Test.h"
@@ -25,9 +28,12 @@ private Q_SLOTS:
     void listsPluginsWithACaption();
     void leavesOutInactivePages();
     void saysThatThereAreNoPages();
+    void showsTheHistoryAmongThePages();
+    void growsByALineThatComesIn();
     void showsTheFirstPage();
     void leavesAPageForAnother();
     void growsToThePage();
+    void doesNotGrowOverTheScreen();
     void givesThePageTheWholeArea();
     void closesWhenAllAgree_data() { addWaysToClose(); }
     void closesWhenAllAgree();
@@ -152,6 +158,42 @@ void SettingsDialogTest::saysThatThereAreNoPages()
     QCOMPARE(takeEvents(), QStringList());
 }
 
+void SettingsDialogTest::showsTheHistoryAmongThePages()
+{
+    const QTemporaryDir folder;
+    const LinkHistory history(folder.path(), folder.filePath("history"));
+    make(m_mail.get());
+    HistoryPage* const page = new HistoryPage(history);
+    m_dialog->setHistory(page);
+    QCOMPARE(captions(), QStringList({"My Mail", "History"}));
+    m_dialog->show();
+    QVERIFY(!page->isVisible());
+    list()->setCurrentRow(1);
+    QVERIFY(page->isVisible());
+    QCOMPARE(takeEvents(), QStringList({"Mail shown", "Mail hidden"}));
+    // It stays while the plug-ins are taken down and started again.
+    m_dialog->leavePages();
+    QVERIFY(!page->isVisible());
+    m_dialog->setPlugins({});
+    QCOMPARE(captions(), QStringList({"History"}));
+    QVERIFY(page->isVisible());
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+}
+
+void SettingsDialogTest::growsByALineThatComesIn()
+{
+    m_mail->setProperty("pageSize", QSize(600, 400));
+    make(m_mail.get());
+    open();
+    PageArea* const area = m_dialog->findChild<PageArea*>();
+    const int before = area->height();
+    m_dialog->offerLine().offer("Something to put right.");
+    QTRY_VERIFY(m_dialog->offerLine().isVisible());
+    QTRY_COMPARE(area->height(), before);
+    QTRY_VERIFY(!area->verticalScrollBar()->isVisible());
+}
+
 void SettingsDialogTest::showsTheFirstPage()
 {
     make(m_mail.get(), m_links.get());
@@ -186,6 +228,15 @@ void SettingsDialogTest::growsToThePage()
     const QSize grown = m_dialog->size();
     list()->setCurrentRow(0);
     QCOMPARE(m_dialog->size(), grown);
+}
+
+void SettingsDialogTest::doesNotGrowOverTheScreen()
+{
+    open();
+    const QSize screen = screenArea(m_dialog.get()).size();
+    m_links->setProperty("pageSize", screen + QSize(100, 100));
+    list()->setCurrentRow(1);
+    QCOMPARE(m_dialog->size(), screen);
 }
 
 void SettingsDialogTest::givesThePageTheWholeArea()

@@ -29,13 +29,15 @@ private Q_SLOTS:
     void mustBeAnsweredWhenNotClosable_data();
     void mustBeAnsweredWhenNotClosable();
     void showsWhatItWasGiven();
+    void showsTheIconAskedFor_data();
+    void showsTheIconAskedFor();
     void showsMarkupAsItStands();
     void showsDetails();
     void translatesBareKeys_data();
     void translatesBareKeys();
     void isReadableByAScreenReader();
     void hasAnOkButtonAtLeast();
-    void hasATitleBarWhateverTheFlags();
+    void hasATitleBarBesideTheFlagsAskedFor();
 };
 
 static int show(QWidget* parent, const QString& first, const QString& second, const QString& third,
@@ -173,22 +175,43 @@ void ShowMessageTest::mustBeAnsweredWhenNotClosable()
 
 void ShowMessageTest::showsWhatItWasGiven()
 {
-    QWidget parent;
+    QWidget window;
+    QWidget* const parent = new QWidget(&window);
     QStringList seen;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
     QWidget* seenParent = nullptr;
     whenMessageShows([&](QMessageBox* box) {
-        icon = box->icon();
         seenParent = box->parentWidget();
         seen << box->windowTitle() << box->text() << box->button(QMessageBox::Ok)->text()
              << box->button(QMessageBox::Cancel)->text() << box->button(QMessageBox::Ignore)->text()
              << box->defaultButton()->text();
         box->close();
     });
-    show(&parent, "A", "B", "C");
+    show(parent, "A", "B", "C");
     QCOMPARE(seen, QString("Title Text A B C A").split(' '));
-    QCOMPARE(icon, QMessageBox::Question);
-    QCOMPARE(seenParent, &parent);
+    QCOMPARE(seenParent, parent);
+}
+
+void ShowMessageTest::showsTheIconAskedFor_data()
+{
+    QTest::addColumn<int>("icon");
+    QTest::newRow("none") << int(QMessageBox::NoIcon);
+    QTest::newRow("information") << int(QMessageBox::Information);
+    QTest::newRow("question") << int(QMessageBox::Question);
+    QTest::newRow("warning") << int(QMessageBox::Warning);
+    QTest::newRow("critical") << int(QMessageBox::Critical);
+}
+
+void ShowMessageTest::showsTheIconAskedFor()
+{
+    QFETCH(int, icon);
+    int seen = -1;
+    whenMessageShows([&](QMessageBox* box) {
+        seen = box->icon();
+        box->close();
+    });
+    CommonUtils::ShowMessage(QMessageBox::Icon(icon), nullptr, QString(), "Text", "A", QString(), QString(), false,
+                             Qt::WindowFlags(), nullptr, QString(), true);
+    QCOMPARE(seen, icon);
 }
 
 void ShowMessageTest::showsMarkupAsItStands()
@@ -273,14 +296,16 @@ void ShowMessageTest::hasAnOkButtonAtLeast()
     QCOMPARE(count, 1);
 }
 
-void ShowMessageTest::hasATitleBarWhateverTheFlags()
+void ShowMessageTest::hasATitleBarBesideTheFlagsAskedFor()
 {
     Qt::WindowFlags flags;
     whenMessageShows([&](QMessageBox* box) {
         flags = box->windowFlags();
         box->close();
     });
-    show(nullptr, "A", QString(), QString());
+    CommonUtils::ShowMessage(QMessageBox::Information, nullptr, "Title", "Text", "A", QString(), QString(), false,
+                             Qt::WindowStaysOnTopHint, nullptr, QString(), true);
+    QVERIFY(flags & Qt::WindowStaysOnTopHint);
     QVERIFY(flags & Qt::WindowTitleHint);
     QVERIFY(flags & Qt::WindowCloseButtonHint);
     QCOMPARE(flags & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Dialog));

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 
 #include "ProcessLimits.h"
 #include "RecordingTrace.h"
@@ -20,6 +21,9 @@ private Q_SLOTS:
     void keepsTheLanguage_data();
     void keepsTheLanguage();
     void knowsNoneAtFirst();
+    void keepsAgreedAddresses();
+    void knowsAddressesByTheirExactSpelling_data();
+    void knowsAddressesByTheirExactSpelling();
     void makesTheMissingFolder();
     void warnsWhenItCannotBeKept();
 };
@@ -67,6 +71,46 @@ void UserSettingsTest::knowsNoneAtFirst()
     const OwnFolder folder;
     QCOMPARE(UserSettings::language(), QString());
     QVERIFY(!QFileInfo::exists(OwnFolder::file()));
+}
+
+void UserSettingsTest::keepsAgreedAddresses()
+{
+    const OwnFolder folder;
+    QVERIFY(!UserSettings::isAgreed("sms:1"));
+    QVERIFY(!UserSettings::isAgreed(QString()));
+    UserSettings::setLanguage("de");
+    // What a settings file writes in another way: lists, percent signs, quotes, backslashes.
+    const QStringList addresses{"sms:1", "x:%00%2C,;\"'\\@Invalid()", "x:[a]=b", "sms:" + QString(5000, '1')};
+    for (const QString& address : addresses)
+        UserSettings::addAgreed(address);
+    UserSettings::addAgreed("sms:1");
+    for (const QString& address : addresses)
+        QVERIFY2(UserSettings::isAgreed(address), qPrintable(address));
+    QCOMPARE(UserSettings::language(), "de");
+    // Each once, and not only in this process.
+    QCOMPARE(QSettings(OwnFolder::file(), QSettings::IniFormat).value("agreedAddresses").toStringList(), addresses);
+}
+
+void UserSettingsTest::knowsAddressesByTheirExactSpelling_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("capitals") << "SMS:1";
+    QTest::newRow("longer") << "sms:12";
+    QTest::newRow("shorter") << "sms:";
+    QTest::newRow("blank") << "sms:1 ";
+    QTest::newRow("both") << "sms:1,sms:2";
+    QTest::newRow("encoded") << "sms:%31";
+}
+
+void UserSettingsTest::knowsAddressesByTheirExactSpelling()
+{
+    QFETCH(QString, address);
+    const OwnFolder folder;
+    UserSettings::addAgreed("sms:1");
+    UserSettings::addAgreed("sms:2");
+    QVERIFY(!UserSettings::isAgreed(address));
+    QVERIFY(UserSettings::isAgreed("sms:2"));
 }
 
 void UserSettingsTest::makesTheMissingFolder()

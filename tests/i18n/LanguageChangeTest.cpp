@@ -227,15 +227,16 @@ void LanguageChangeTest::windowFollows_data()
     QTest::addColumn<QString>("changed");
     QTest::newRow("main window")
         << "main"
-        << "&About Vellum Connect; &Connection; &Help; &Language; &Quick Links; &Quit; "
-           "&Settings…; &Status Bar; &System Language; &Tools; &View; Co&nnect; Not connected; "
+        << "&About Vellum Connect; &Connection; &Edit; &Help; &Language; &Plug-ins Left Out…; &Quick Links; &Quit; "
+           "&Redo; "
+           "&Settings…; &Status Bar; &System Language; &Tools; &Undo; &View; Co&nnect; Not connected; "
            "Press Connect when your connection is up.; Quick Links";
     QTest::newRow("page") << "page"
                           << "&Down; &Edit…; &New…; &Up; Cancel; De&lete; Links open in this order:; Quick Links; "
                              "Quick Links; Settings; Type";
     QTest::newRow("Edit dialog") << "m_editBtn"
-                                 << "Application; Application; Browse…; Cancel; E-mail; Open when connected; "
-                                    "Open when the program starts; Parameters:; Program file:; Type:";
+                                 << "Application; Application; Browse…; Cancel; E-mail; Open when Vellum Connect "
+                                    "starts; Open when connected; Parameters:; Program file:; Type:";
     QTest::newRow("New dialog stays") << "m_newBtn" << QString();
 }
 

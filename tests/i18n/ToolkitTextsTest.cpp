@@ -35,6 +35,8 @@ static const struct {
                      {"QPlatformTheme", "&Yes"},
                      {"QMessageBox", "Show Details..."},
                      {"QCommandLineParser", "Options:"},
+                     {"QCommandLineParser", "Unknown option '%1'."},
+                     {"QCommandLineParser", "Missing value after '%1'."},
                      {"QLineEdit", "&Paste"},
                      {"QLineEdit", "Select All"},
                      {"QWidgetTextControl", "&Copy"},

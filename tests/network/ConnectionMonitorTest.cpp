@@ -19,6 +19,13 @@ private Q_SLOTS:
     void tellsWhatIsTrueAtThatMoment();
     void wasUpBefore();
     void asksOnceMoreBeforeItTells();
+    void waitsForTheAnswer();
+    void goneWhileItAsks_data();
+    void goneWhileItAsks();
+    void anotherOneWhileItAsks();
+    void serviceIsGoneWhileItAsks();
+    void waitsUntilTheServiceIsKnown_data();
+    void waitsUntilTheServiceIsKnown();
     void tellsDownWhenItStaysAway();
     void knowsSinceWhen();
     void userTellsWithoutService();
@@ -101,6 +108,105 @@ void ConnectionMonitorTest::asksOnceMoreBeforeItTells()
     QCOMPARE(m_told.size(), 1);
 }
 
+void ConnectionMonitorTest::waitsForTheAnswer()
+{
+    start();
+    m_source->answersAtOnce = false;
+    m_source->become("a");
+    QCOMPARE(m_source->questions, 1);
+    m_source->become("a", ConnectionState::Reach::Portal);
+    QCOMPARE(m_source->questions, 1);
+    QCOMPARE(m_told, QStringList());
+    Q_EMIT m_source->answered(true);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+    // An answer to nothing.
+    Q_EMIT m_source->answered(true);
+    Q_EMIT m_source->answered(false);
+    QCOMPARE(m_told.size(), 1);
+}
+
+void ConnectionMonitorTest::goneWhileItAsks_data()
+{
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("no") << false;
+    QTest::newRow("a late yes") << true;
+}
+
+void ConnectionMonitorTest::goneWhileItAsks()
+{
+    QFETCH(const bool, answer);
+    start();
+    m_source->answersAtOnce = false;
+    m_source->become("a");
+    m_source->become(QString());
+    Q_EMIT m_source->answered(answer);
+    QVERIFY(!m_monitor->findChild<QTimer*>()->isActive());
+    m_source->answersAtOnce = true;
+    m_source->become("a");
+    // It was never told, so this is no hand-over.
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::anotherOneWhileItAsks()
+{
+    start();
+    m_source->answersAtOnce = false;
+    m_source->become("a");
+    m_source->become("b");
+    m_source->answersAtOnce = true;
+    Q_EMIT m_source->answered(false);
+    QCOMPARE(m_source->questions, 2);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::serviceIsGoneWhileItAsks()
+{
+    start();
+    m_source->answersAtOnce = false;
+    m_source->become("a");
+    m_source->setAvailable(false);
+    Q_EMIT m_source->answered(false);
+    QVERIFY(!m_monitor->findChild<QTimer*>()->isActive());
+    m_monitor->setManuallyUp(true);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::waitsUntilTheServiceIsKnown_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::addColumn<QString>("id");
+    QTest::newRow("up") << true << "a";
+    QTest::newRow("down") << true << QString();
+    QTest::newRow("not there") << false << QString();
+}
+
+void ConnectionMonitorTest::waitsUntilTheServiceIsKnown()
+{
+    QFETCH(const bool, isThere);
+    QFETCH(const QString, id);
+    m_source->known = false;
+    m_source->available = false;
+    start();
+    QVERIFY(!m_monitor->isManual());
+    QVERIFY(!m_monitor->lacksService());
+    QVERIFY(!m_monitor->state().isUp);
+    m_monitor->setManuallyUp(true);
+    m_source->current.isUp = !id.isEmpty();
+    m_source->current.id = id;
+    m_source->known = true;
+    m_source->setAvailable(isThere);
+    QCOMPARE(m_monitor->isManual(), !isThere);
+    QCOMPARE(m_monitor->lacksService(), !isThere);
+    QCOMPARE(m_monitor->state().isUp, !id.isEmpty());
+    // It was so before the program was there.
+    QVERIFY(!m_monitor->upSince().isValid());
+    QCOMPARE(m_told, QStringList());
+    m_source->setAvailable(true);
+    m_source->become("b");
+    QCOMPARE(m_told.size(), id.isEmpty() ? 1 : 0);
+    QCOMPARE(m_monitor->upSince().isValid(), true);
+}
+
 void ConnectionMonitorTest::tellsDownWhenItStaysAway()
 {
     start();
@@ -137,8 +243,10 @@ void ConnectionMonitorTest::userTellsWithoutService()
     monitor.setManuallyUp(true);
     QCOMPARE(told.size(), 1);
     QVERIFY(monitor.state().isUp);
+    QVERIFY(monitor.upSince().isValid());
     monitor.setManuallyUp(false);
     QVERIFY(!monitor.state().isUp);
+    QVERIFY(!monitor.upSince().isValid());
 }
 
 void ConnectionMonitorTest::userIsNotAskedWhileThereIsAService()

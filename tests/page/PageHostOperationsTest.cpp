@@ -40,6 +40,7 @@ private Q_SLOTS:
 
     void area_data();
     void area();
+    void withoutAParent();
     void settingDialogIsTheWindow();
     void result_data();
     void result();
@@ -91,6 +92,19 @@ void PageHostOperationsTest::area()
         QCOMPARE(m_page.linkNames(), "a b");
         QCOMPARE(m_page.enabledButtons(), "New Edit Delete Down");
     }
+}
+
+void PageHostOperationsTest::withoutAParent()
+{
+    m_page.beginHidden(links("a b"));
+    QRect area(0, 0, 450, 400);
+    const RecordingTrace trace;
+    QCOMPARE(m_page.page->ShowSettingDialog(nullptr, area), 1);
+    QVERIFY(m_page.page->m_pageWidget->isWindow());
+    QVERIFY(m_page.page->m_pageWidget->isVisible());
+    QCOMPARE(m_page.linkNames(), "a b");
+    // The toolkit would complain of a missing sender.
+    QCOMPARE(trace.warningLines.filter("connect"), QStringList());
 }
 
 void PageHostOperationsTest::settingDialogIsTheWindow()

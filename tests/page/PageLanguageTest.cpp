@@ -65,7 +65,7 @@ QStringList PageLanguageTest::texts() const
     for (const auto& entry : widgetTexts)
         shownTexts << widget->findChild<QWidget*>(entry.name)->property("text").toString();
     return shownTexts << widget->findChild<QTabWidget*>()->tabText(0) << m_page.table()->horizontalHeaderItem(0)->text()
-                      << m_page.table()->horizontalHeaderItem(1)->text();
+                      << m_page.table()->horizontalHeaderItem(1)->text() << m_page.table()->accessibleName();
 }
 
 QStringList PageLanguageTest::textsIn(const QString& language)
@@ -74,7 +74,7 @@ QStringList PageLanguageTest::textsIn(const QString& language)
     for (const auto& entry : widgetTexts)
         expected << language + ':' + entry.key;
     return expected << language + ":IDS_LINK_SETTING_TAB" << language + ":IDS_LINK_SETTING_NAME"
-                    << language + ":IDS_LINK_SETTING_TYPE";
+                    << language + ":IDS_LINK_SETTING_TYPE" << language + ":IDS_LINK_SETTING_ORDER";
 }
 
 void PageLanguageTest::textsFollow()

@@ -86,6 +86,7 @@ void PluginIdentityTest::releaseOnlyTraces()
     QCOMPARE(trace.debugDifference(QStringList() << tracePattern("Start of %F: Release: %L: ")
                                                  << tracePattern("End of %F: Release: %L: ")),
              QString());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(alive);
     QCOMPARE(QuickLinkSettingPluginDlg::m_pInstance, single);
     QVERIFY(m_plugin.page->m_store);

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void destroyDeletesTheSingleObject();
     void destructorLeavesStoreAndList();
     void destructorLeavesTheOtherObject();
+    void destructorForgetsTheSingleObject();
     void destructorFreesTheActionMap();
 
 private:
@@ -225,6 +226,12 @@ void PluginLifecycleTest::destructorLeavesTheOtherObject()
     QVERIFY(single);
     QCOMPARE(QuickLinkSettingPluginDlg::m_pInstance, single.data());
     QuickLinkSettingPluginDlg::Destroy();
+}
+
+void PluginLifecycleTest::destructorForgetsTheSingleObject()
+{
+    delete QuickLinkSettingPluginDlg::GetInstance();
+    QVERIFY(!QuickLinkSettingPluginDlg::m_pInstance);
 }
 
 void PluginLifecycleTest::destructorFreesTheActionMap()

@@ -15,15 +15,15 @@ class Witness : public QObject
 
 public:
     struct Moment {
-        bool hasRowRecords, hasList, hasStore, storeHasList;
+        bool isForgotten, hasRowRecords, hasList, hasStore, storeHasList;
     };
 
     explicit Witness(const ShownPage& shown)
-        : m_rowRecord(shown.recordOf(0))
+        : m_members(releasedMembers(shown.page))
+        , m_rowRecord(shown.recordOf(0))
         , m_sharedList(*shown.page->m_recordList)
     {
-        const QList<PointerMember> members = releasedMembers(shown.page);
-        for (const PointerMember& member : members) {
+        for (const PointerMember& member : m_members) {
             if (member.object)
                 watch(member.object, member.name);
         }
@@ -47,17 +47,35 @@ private Q_SLOTS:
         const QString name = m_names.value(object);
         order.append(name);
         QuickLinkXmlParse* const store = QuickLinkXmlParse::m_spInstance;
-        const Moment moment = {!m_rowRecord.isFreed(), !m_sharedList.isDetached(), store != nullptr,
-                               store && store->m_recordList};
+        const Moment moment = {memberNamed(m_members, name).isNull(), !m_rowRecord.isFreed(),
+                               !m_sharedList.isDetached(), store != nullptr, store && store->m_recordList};
         moments.insert(name, moment);
     }
 
 private:
+    const QList<PointerMember> m_members;
     RecordProbe m_rowRecord;
     QuickLinkRecordList m_sharedList; ///< shared with the plug-in's list while that exists
     QMap<QObject*, QString> m_names;
 };
 } // namespace
+
+/** The host, or the user, selects another row while the page goes. */
+class SelectingHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SelectingHost(QTableWidget* shownTable)
+        : table(shownTable)
+    {
+    }
+
+    const QPointer<QTableWidget> table;
+
+public Q_SLOTS:
+    void select() { table->item(1, 0)->setSelected(true); }
+};
 
 class PluginTeardownTest : public QObject
 {
@@ -71,6 +89,8 @@ private Q_SLOTS:
     void order();
     void dataGoesInItsStep_data();
     void dataGoesInItsStep();
+    void eachIsForgottenBeforeItGoes();
+    void freedRecordsAreNotRead();
     void actionMapStays();
     void secondCallDoesNothing();
     void secondCallDestroysNewStore();
@@ -187,6 +207,30 @@ void PluginTeardownTest::dataGoesInItsStep()
     // The store must not be left with the address of a freed list.
     QCOMPARE(moment.storeHasList, hasList);
     QVERIFY(!QuickLinkXmlParse::m_spInstance);
+}
+
+/** Whoever hears that an object goes may come back in. */
+void PluginTeardownTest::eachIsForgottenBeforeItGoes()
+{
+    buildEverything();
+    Witness witness(m_page);
+    destroy();
+    QCOMPARE(static_cast<int>(witness.moments.size()), 18);
+    for (auto moment = witness.moments.constBegin(); moment != witness.moments.constEnd(); ++moment)
+        QVERIFY2(moment.value().isForgotten, qPrintable(moment.key()));
+}
+
+void PluginTeardownTest::freedRecordsAreNotRead()
+{
+    m_page.begin(links("a b"));
+    SelectingHost host(m_page.table());
+    const QSignalSpy selected(m_page.table(), SIGNAL(itemSelectionChanged()));
+    connect(m_page.page->m_gridDelegate, SIGNAL(destroyed()), &host, SLOT(select()));
+    const RecordingTrace trace;
+    destroy();
+    QVERIFY(!host.table);
+    QCOMPARE(static_cast<int>(selected.count()), 1);
+    QCOMPARE(trace.countDebug(".*enableDeleteEditButton.*"), 0);
 }
 
 void PluginTeardownTest::actionMapStays()

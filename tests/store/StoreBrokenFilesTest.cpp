@@ -68,6 +68,8 @@ private Q_SLOTS:
     void goodLinksStay();
     void encodings_data();
     void encodings();
+    void wrongByte_data();
+    void wrongByte();
     void cutAtEveryByte();
     void everyByteDamaged();
     void externalEntityIsNotRead_data();
@@ -194,6 +196,30 @@ void StoreBrokenFilesTest::encodings()
     QFETCH(QString, expected);
     QCOMPARE(readBytes(bytes), 0);
     QCOMPARE(names(), expected);
+}
+
+void StoreBrokenFilesTest::wrongByte_data()
+{
+    QTest::addColumn<int>("damaged"); // link
+    QTest::addColumn<int>("read");    // links
+    // Links of 64 bytes: 128 fill a block of 8 KiB, and the head of the file takes the place of the first.
+    QTest::newRow("first block, first link") << 0 << 0;
+    QTest::newRow("first block, last link") << 126 << 0;
+    QTest::newRow("second block, first link") << 127 << 127;
+    QTest::newRow("second block, last link") << 254 << 127;
+    QTest::newRow("third block, first link") << 255 << 255;
+}
+
+void StoreBrokenFilesTest::wrongByte()
+{
+    QFETCH(int, damaged);
+    QFETCH(int, read);
+    const QByteArray head = QByteArray("<tovadoc><menu>").leftJustified(64);
+    const QByteArray link = QByteArray("<item visible='1' name='n'/>").leftJustified(64);
+    QByteArray bytes = head + link.repeated(300) + "</menu></tovadoc>";
+    bytes[head.size() + damaged * link.size() + link.indexOf('n', 20)] = '\xff';
+    QCOMPARE(readBytes(bytes), 0);
+    QCOMPARE(int(store()->m_recordList->size()), read);
 }
 
 void StoreBrokenFilesTest::cutAtEveryByte()

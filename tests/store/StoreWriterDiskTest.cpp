@@ -24,6 +24,14 @@ QuickLinkRecordList manyLinks()
     return QuickLinkRecordList(1000, record);
 }
 
+/** The writer's trace where something could not be written. */
+QStringList writeErrorLines()
+{
+    QStringList lines = writerLines();
+    lines.insert(1, "Error write file: .+");
+    return lines;
+}
+
 /** A file system of one megabyte over a folder while it lives. */
 class SmallDisk
 {
@@ -67,8 +75,10 @@ private Q_SLOTS:
     void fileThatCannotBeOpened();
     void oldFileIsGoneAfterFailedOpen();
     void fileThatCannotBeRemovedKeepsItsTail();
-    void writeErrorsAreNotNoticed();
-    void fullDiskIsNotNoticed();
+    void writeErrorsAreOnlyTraced_data();
+    void writeErrorsAreOnlyTraced();
+    void deviceThatIsAlwaysFull();
+    void fullDiskIsOnlyTraced();
 };
 
 void StoreWriterDiskTest::fileThatCannotBeOpened_data()
@@ -165,24 +175,53 @@ void StoreWriterDiskTest::fileThatCannotBeRemovedKeepsItsTail()
     QCOMPARE(host.readConfig(), written + tail.mid(written.size()));
 }
 
-void StoreWriterDiskTest::writeErrorsAreNotNoticed()
+void StoreWriterDiskTest::writeErrorsAreOnlyTraced_data()
 {
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("limit"); // bytes
+    QTest::newRow("while text is written") << 1000 << 100000;
+    QTest::newRow("when the file is closed") << 1 << 100;
+}
+
+void StoreWriterDiskTest::writeErrorsAreOnlyTraced()
+{
+    QFETCH(int, count);
+    QFETCH(int, limit);
     FakeHost& host = FakeHost::instance();
-    QuickLinkRecordList records = manyLinks();
+    QuickLinkRecordList records = manyLinks().mid(0, count);
     store()->m_currentId = "7";
     RecordingTrace trace;
     {
-        LowerLimit smallFiles(RLIMIT_FSIZE, 100000);
+        LowerLimit smallFiles(RLIMIT_FSIZE, limit);
         QVERIFY(smallFiles.isLowered());
         QCOMPARE(store()->SaveToConfigFile(&records, 0), 0);
     }
-    QVERIFY(host.readConfig().size() <= 100000);
+    QVERIFY(host.readConfig().size() <= limit);
     QCOMPARE(store()->m_currentId, "8");
-    QCOMPARE(records.size(), 1000);
-    QCOMPARE(trace.debugDifference(writerLines()), QString());
+    QCOMPARE(records.size(), count);
+    QCOMPARE(trace.debugDifference(writeErrorLines()), QString());
+    QCOMPARE(trace.warningLines, QStringList());
 }
 
-void StoreWriterDiskTest::fullDiskIsNotNoticed()
+void StoreWriterDiskTest::deviceThatIsAlwaysFull()
+{
+    FakeHost& host = FakeHost::instance();
+    QVERIFY(QFile::link("/dev/full", host.configPath()));
+    QVERIFY(setMode(host.userFolder, 0755));
+    QVERIFY(setMode(host.configFolder(), 0555));
+    QuickLinkRecordList records(1, numbered("0", "a"));
+    RecordingTrace trace;
+    {
+        WithoutPrivileges noPrivileges;
+        if (!noPrivileges.isBound() || !QFile::exists(host.configPath()))
+            QSKIP("cannot become a user whom the folder's permissions bind");
+        QCOMPARE(store()->SaveToConfigFile(&records, 1), 0);
+    }
+    QVERIFY(QFileInfo(host.configPath()).isSymLink());
+    QCOMPARE(trace.debugDifference(writeErrorLines()), QString());
+}
+
+void StoreWriterDiskTest::fullDiskIsOnlyTraced()
 {
     FakeHost& host = FakeHost::instance();
     SmallDisk disk(host.configFolder());
@@ -190,7 +229,9 @@ void StoreWriterDiskTest::fullDiskIsNotNoticed()
         QSKIP("not allowed to mount a small file system");
     QuickLinkRecordList records = manyLinks();
     store()->m_currentId = "7";
+    RecordingTrace trace;
     QCOMPARE(store()->SaveToConfigFile(&records, 0), 0);
+    QCOMPARE(trace.debugDifference(writeErrorLines()), QString());
     QVERIFY(host.readConfig().size() <= (1 << 20));
     QCOMPARE(store()->m_currentId, "8");
     QCOMPARE(records.size(), 1000);

@@ -9,9 +9,15 @@
 class FakeSource : public ConnectionSource
 {
 public:
+    bool isKnown() const override { return known; }
     bool isAvailable() const override { return available; }
     ConnectionState state() const override { return available ? current : ConnectionState(); }
-    bool isStillUp() const override { return stillUp; }
+    void askWhetherUp() override
+    {
+        ++questions;
+        if (answersAtOnce)
+            Q_EMIT answered(stillUp);
+    }
 
     void become(const QString& id, ConnectionState::Reach reach = ConnectionState::Reach::Full)
     {
@@ -35,7 +41,10 @@ public:
         Q_EMIT availabilityChanged();
     }
 
+    bool known = true;
     bool available = true;
+    bool answersAtOnce = true;
+    int questions = 0;
     bool stillUp = false;
     ConnectionState current;
 };

@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "Test.h"
+
 /** The message on the screen that waits for no answer; null without one. */
 inline QMessageBox* notice()
 {
@@ -18,6 +20,23 @@ inline QMessageBox* notice()
             return box;
     }
     return nullptr;
+}
+
+/** How many messages are on the screen, modal or not. */
+inline int messageCount()
+{
+    int count = 0;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        count += qobject_cast<QMessageBox*>(window) && window->isVisible();
+    return count;
+}
+
+/** Presses a button of a message as the user does. */
+inline void clickButton(QMessageBox* box, QMessageBox::StandardButton button)
+{
+    QVERIFY(QTest::qWaitForWindowExposed(box));
+    clickThroughWindow(box->button(button));
 }
 
 /** Looks for a modal message from the event loop, acts on the first and goes. */
