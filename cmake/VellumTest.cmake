@@ -1,18 +1,24 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# Tests are many and run for a moment: the time that counts is the compiler's.
-# What checks copies needs an optimising one.
-set(VELLUM_TEST_OPTIONS -O0 -g0 -U_FORTIFY_SOURCE)
+# Tests are many and run for a moment: the time that counts is the compiler's. What checks copies needs an optimising
+# one; the toolkit's headers, compiled once, serve programs and libraries only if both are compiled alike.
+set(VELLUM_TEST_OPTIONS -O0 -g0 -U_FORTIFY_SOURCE -fPIC)
+
+# vellum_compile_as_test(<target>)
+#   Compiles a program or library of the tests that knows QtTest with their options and the toolkit's headers.
+function(vellum_compile_as_test target)
+    target_compile_options(${target} PRIVATE ${VELLUM_TEST_OPTIONS})
+    target_precompile_headers(${target} REUSE_FROM testmain${CMAKE_CXX_STANDARD})
+endfunction()
 
 # vellum_test_program(<name> SOURCES ... [LIBS ...])
 #   A program of test classes, which runs without a display.
 function(vellum_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_compile_options(${name} PRIVATE ${VELLUM_TEST_OPTIONS})
-    target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/Precompiled.h")
-    target_link_libraries(${name} PRIVATE testmain ${ARG_LIBS} Vellum::QtWidgets Vellum::QtTest)
+    vellum_compile_as_test(${name})
+    target_link_libraries(${name} PRIVATE testmain${CMAKE_CXX_STANDARD} ${ARG_LIBS} Vellum::QtWidgets Vellum::QtTest)
 endfunction()
 
 # vellum_test_entries(<program> <class>...)

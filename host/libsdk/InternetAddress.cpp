@@ -42,6 +42,12 @@ static bool isOpenedScheme(const QString& scheme)
     return scheme == QLatin1String("http") || scheme == QLatin1String("https") || scheme == QLatin1String("ftp");
 }
 
+/** Whether the host stays the same once written out: a browser may read a name once more, and go elsewhere. */
+static bool isHostClear(const QUrl& url)
+{
+    return !url.host().isEmpty() && QUrl::fromEncoded(url.toEncoded()).host() == url.host();
+}
+
 QUrl InternetAddress::completed(const QString& address)
 {
     QString text = address.trimmed();
@@ -60,5 +66,5 @@ QUrl InternetAddress::completed(const QString& address)
         text.replace(0, scheme.size(), scheme);
     }
     const QUrl url(text);
-    return url.isValid() && !url.host().isEmpty() ? url : QUrl();
+    return url.isValid() && isHostClear(url) ? url : QUrl();
 }
