@@ -33,11 +33,11 @@ step() {
     say "${results[-1]}"
 }
 
-# ctest_in PRESET LOG [OPTION...]: runs tests of a preset in random order and shows ctest's closing line.
+# ctest_in PRESET LOG [OPTION...]: runs tests of a preset in random order and shows ctest's closing line. Half of them wait.
 ctest_in() {
     local preset=$1 log=$2
     shift 2
-    logged "$log" ctest --preset "$preset" -j2 --schedule-random --no-tests=error "$@" || return
+    logged "$log" ctest --preset "$preset" -j4 --schedule-random --no-tests=error "$@" || return
     grep 'tests passed' "$log"
 }
 

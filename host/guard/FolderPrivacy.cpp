@@ -15,7 +15,7 @@ Q_LOGGING_CATEGORY(folderLog, "vellum.folder")
 
 namespace
 {
-const mode_t others = S_IRWXG | S_IRWXO;
+const mode_t groupAndOthers = S_IRWXG | S_IRWXO;
 
 bool isOnlyOurs(const QString& folder)
 {
@@ -41,7 +41,7 @@ FolderPrivacy::Result closeFolder(int descriptor, const QString& folder)
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0)
         return leaveOpen(folder, "it cannot be looked at");
-    if (!(status.st_mode & others))
+    if (!(status.st_mode & groupAndOthers))
         return FolderPrivacy::Private;
     if (status.st_uid != ::geteuid())
         return leaveOpen(folder, "it belongs to another user");

@@ -14,6 +14,9 @@
 namespace BusValue
 {
 
+/** The interface by which any object tells its properties (D-Bus specification, "Standard Interfaces"). */
+constexpr char properties[] = "org.freedesktop.DBus.Properties";
+
 /** A number without sign ("u"). */
 uint number(const QVariant& value);
 

@@ -14,11 +14,10 @@
 
 namespace
 {
-constexpr char service[] = "org.freedesktop.ModemManager1";
+constexpr char modemManager[] = "org.freedesktop.ModemManager1";
 constexpr char modems[] = "/org/freedesktop/ModemManager1/Modem/";
 constexpr char mobileNetwork[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 constexpr char operatorName[] = "OperatorName";
-constexpr char properties[] = "org.freedesktop.DBus.Properties";
 
 bool isInNumber(QChar character)
 {
@@ -46,22 +45,22 @@ void ModemOperator::setModem(const QString& path)
     QDBusConnection bus = QDBusConnection::systemBus();
     const QLatin1String signal("PropertiesChanged");
     if (!m_modem.isEmpty())
-        bus.disconnect(QLatin1String(service), m_modem, QLatin1String(properties), signal, this,
+        bus.disconnect(QLatin1String(modemManager), m_modem, QLatin1String(BusValue::properties), signal, this,
                        SLOT(readChange(QString, QVariantMap)));
     m_modem = modem;
     m_answer.reset();
     setName(QString());
     if (m_modem.isEmpty())
         return;
-    bus.connect(QLatin1String(service), m_modem, QLatin1String(properties), signal, this,
+    bus.connect(QLatin1String(modemManager), m_modem, QLatin1String(BusValue::properties), signal, this,
                 SLOT(readChange(QString, QVariantMap)));
     ask();
 }
 
 void ModemOperator::ask()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(service), m_modem, QLatin1String(properties),
-                                                           QStringLiteral("Get"));
+    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(modemManager), m_modem,
+                                                           QLatin1String(BusValue::properties), QStringLiteral("Get"));
     question << QLatin1String(mobileNetwork) << QLatin1String(operatorName);
     m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(question));
     connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, [this] {

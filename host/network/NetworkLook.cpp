@@ -11,7 +11,6 @@
 
 namespace
 {
-constexpr char properties[] = "org.freedesktop.DBus.Properties";
 
 QDBusMessage newQuestion(const QString& path, const char* interface, const char* method)
 {
@@ -56,7 +55,7 @@ void NetworkLook::askManager()
 {
     // No other object may stand in its place.
     m_asked.insert(NetworkFacts::manager());
-    QDBusMessage question = newQuestion(NetworkFacts::manager(), properties, "GetAll");
+    QDBusMessage question = newQuestion(NetworkFacts::manager(), BusValue::properties, "GetAll");
     question << QStringLiteral("org.freedesktop.NetworkManager");
     ask(question, [this](const QDBusMessage& answer) {
         const QVariantMap values = BusValue::map(answer);
@@ -98,7 +97,7 @@ void NetworkLook::askValues(const QString& path, const QString& interface, const
 {
     if (!isNew(path))
         return;
-    QDBusMessage question = newQuestion(path, properties, "GetAll");
+    QDBusMessage question = newQuestion(path, BusValue::properties, "GetAll");
     question << interface;
     ask(question, [this, path, next](const QDBusMessage& answer) {
         take(path, answer, BusValue::map(answer));

@@ -16,9 +16,8 @@
 
 namespace
 {
-constexpr char service[] = "org.freedesktop.NetworkManager";
+constexpr char networkManager[] = "org.freedesktop.NetworkManager";
 constexpr char active[] = "org.freedesktop.NetworkManager.Connection.Active";
-constexpr char properties[] = "org.freedesktop.DBus.Properties";
 const uint activated = 2; // NetworkManager's number
 } // namespace
 
@@ -43,17 +42,18 @@ void NetworkManagerSource::listen()
 {
     QDBusConnection bus = QDBusConnection::systemBus();
     auto* const watcher =
-        new QDBusServiceWatcher(QLatin1String(service), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+        new QDBusServiceWatcher(QLatin1String(networkManager), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
-    for (const char* const interface : {service, active})
-        bus.connect(QLatin1String(service), QString(), QLatin1String(properties), QStringLiteral("PropertiesChanged"),
-                    {QLatin1String(interface)}, QString(), this, SLOT(requestLook()));
+    for (const char* const interface : {networkManager, active})
+        bus.connect(QLatin1String(networkManager), QString(), QLatin1String(BusValue::properties),
+                    QStringLiteral("PropertiesChanged"), {QLatin1String(interface)}, QString(), this,
+                    SLOT(requestLook()));
 
     QDBusMessage question =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                                        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-    question << QLatin1String(service);
+    question << QLatin1String(networkManager);
     auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
@@ -83,8 +83,8 @@ ConnectionState NetworkManagerSource::state() const
 
 void NetworkManagerSource::askWhetherUp()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(service), m_chosen.path,
-                                                           QLatin1String(properties), QStringLiteral("Get"));
+    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(networkManager), m_chosen.path,
+                                                           QLatin1String(BusValue::properties), QStringLiteral("Get"));
     question << QLatin1String(active) << QStringLiteral("State");
     auto* const watcher =
         new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(question, NetworkLook::patience), this);

@@ -106,8 +106,6 @@ void addHosts()
     addOpened(QString::fromUtf8("http://b\303\274cher.example/"), "http://xn--bcher-kva.example/");
     addOpened(QString::fromUtf8("http://\320\260pple.example/"), "http://xn--pple-43d.example/");
     addOpened(QString::fromUtf8("http://a\343\200\202example/"), "http://a.example/");
-    // Read once it is this name, and read again another.
-    add(QString::fromUtf8("http://xn--mer-ll11\357\274\216"), noInternet, opens("http://xn--mer-ll11."));
     for (const char* address : {"http://[::1]/", "http://[::1]:8080/", "http://[::ffff:127.0.0.1]/",
                                 "http://[fe80::1%25eth0]/", "http://a.example:0/", "http://a.example:65535/"})
         addOpened(address);

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void completes();
     void refuses_data();
     void refuses();
+    void leadsToOneHost_data();
+    void leadsToOneHost();
 };
 
 void InternetAddressTest::completes_data()
@@ -121,6 +123,23 @@ void InternetAddressTest::refuses()
     QFETCH(QString, address);
     const QUrl url = InternetAddress::completed(address);
     QVERIFY2(url.isEmpty(), url.toEncoded().constData());
+}
+
+void InternetAddressTest::leadsToOneHost_data()
+{
+    QTest::addColumn<QString>("address");
+    // Some versions of the toolkit take the first for another name when they read it once more.
+    const char* const rows[] = {"http://xn--mer-ll11\357\274\216", "http://xn--mer-ll11.", "http://xn--nxasmm1c/",
+                                "http://b\303\274cher\343\200\202example/"};
+    for (const char* row : rows)
+        QTest::newRow(row) << QString::fromUtf8(row);
+}
+
+void InternetAddressTest::leadsToOneHost()
+{
+    QFETCH(QString, address);
+    const QByteArray opened = InternetAddress::completed(address).toEncoded();
+    QCOMPARE(InternetAddress::completed(QString::fromUtf8(opened)).toEncoded(), opened);
 }
 
 REGISTER_TEST(InternetAddressTest)
