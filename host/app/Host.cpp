@@ -9,12 +9,14 @@
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
+#include "EditLinkButton.h"
 #include "FirstStart.h"
 #include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
 #include "LinkSchemes.h"
 #include "MainWindow.h"
+#include "OpenedLink.h"
 #include "Places.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
@@ -36,6 +38,10 @@ Host::Host(Translator& translator)
     , m_linkOpener({&UserSettings::isAgreed, &UserSettings::addAgreed})
 {
     QObject::connect(&m_menuManager, &MenuManager::rebuilt, &m_linkOpener, [this] { takeOverLinks(); });
+    OpenedLink::setKnown({[this](const QString& name, int place) { return m_links.addressOf(name, place); },
+                          [this](const QString& address) {
+                              return m_links.nameOf(address);
+                          }});
     m_container.setGate(&m_gatekeeper);
     installPluginContainer(&m_container);
     registerComponent(HostContract::notifyService, &m_notifyService);
@@ -45,6 +51,8 @@ Host::Host(Translator& translator)
 
 Host::~Host()
 {
+    EditLinkButton::setEditor(nullptr);
+    OpenedLink::setKnown({});
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
     m_runningProgram.reset();
     m_tray.reset();
@@ -92,7 +100,9 @@ bool Host::endLinks()
 
 void Host::takeOverLinks()
 {
-    m_linkOpener.takeOver(LinkSchemes::of(LinkFile::look(m_linkKeeper.guard().file()).content));
+    const QByteArray content = LinkFile::look(m_linkKeeper.guard().file()).content;
+    m_linkOpener.takeOver(LinkSchemes::of(content));
+    m_links = LinkAddresses(content);
 }
 
 const PluginContainer& Host::container() const
@@ -114,6 +124,7 @@ void Host::showWindow(ConnectionKind kind)
     m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
+    connectMessages();
     m_menuManager.rebuild();
     // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
@@ -153,6 +164,16 @@ void Host::connectWindow()
     m_sleepWatch = std::make_unique<SleepWatch>();
     QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
     QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+/** What messages need of the window. */
+void Host::connectMessages()
+{
+    // When the message is gone, or the plug-in that showed it has its answer.
+    EditLinkButton::setEditor([this](const QString& link) {
+        QMetaObject::invokeMethod(
+            m_window.get(), [this, link] { editLink(link); }, Qt::QueuedConnection);
+    });
 }
 
 void Host::announce()
@@ -205,7 +226,17 @@ void Host::quit()
     QCoreApplication::quit();
 }
 
-void Host::showSettings()
+/** In the settings, those that are open or new ones. Whoever is asked something else answers that first. */
+void Host::editLink(const QString& link)
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (SettingsDialog* const settings = qobject_cast<SettingsDialog*>(modal))
+        settings->chooseLink(link);
+    else if (!modal)
+        showSettings(link);
+}
+
+void Host::showSettings(const QString& link)
 {
     SettingsDialog dialog(m_container.all<ISettingUIPlugin>(), m_window.get());
     LinkGuard& guard = m_linkKeeper.guard();
@@ -213,6 +244,9 @@ void Host::showSettings()
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
     dialog.setHistory(history);
+    if (!link.isEmpty())
+        QMetaObject::invokeMethod(
+            &dialog, [&dialog, link] { dialog.chooseLink(link); }, Qt::QueuedConnection);
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);

@@ -12,6 +12,7 @@
 #include "DialupService.h"
 #include "Gatekeeper.h"
 #include "HostContract.h"
+#include "LinkAddresses.h"
 #include "LinkKeeper.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
@@ -72,12 +73,14 @@ public:
 private:
     void registerComponent(const HostContract::Component& identity, QObject* component);
     void takeOverLinks();
+    void connectMessages();
     void connectWindow();
     void announce();
     void showConnection();
     void windowClosed();
     void quit();
-    void showSettings();
+    void showSettings(const QString& link = QString());
+    void editLink(const QString& link);
     void showRefusals();
     void decideAboutLeftOut(bool isLoadedAgain);
 
@@ -91,6 +94,7 @@ private:
     MenuManager m_menuManager;
     LinkKeeper m_linkKeeper;
     LinkOpener m_linkOpener;
+    LinkAddresses m_links; ///< as the menu shows them
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "HistoryPage.h"
+#include "LinkPage.h"
 #include "LinkPageKeys.h"
 #include "OfferLine.h"
 #include "PageArea.h"
@@ -75,6 +76,24 @@ void SettingsDialog::listPages()
     m_list->setVisible(count > 0);
     m_area->setVisible(count > 0);
     m_hint->setVisible(count == 0);
+}
+
+void SettingsDialog::chooseLink(const QString& name)
+{
+    for (int i = 0; i < m_pages.size(); ++i) {
+        m_list->setCurrentRow(i);
+        if (!isLinkPageShown())
+            continue;
+        const LinkPage page(m_area->pageParent());
+        return page.select(int(page.names().indexOf(name)));
+    }
+}
+
+bool SettingsDialog::isLinkPageShown() const
+{
+    // A page that the dialog has left may still be there.
+    const LinkPage page(m_area->pageParent());
+    return page.isThere() && page.table()->isVisibleTo(this);
 }
 
 void SettingsDialog::leavePages()

@@ -30,6 +30,9 @@ public:
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
 
+    /** Shows the quick links' page with the link of this name chosen; to be called when the dialog is shown. */
+    void chooseLink(const QString& name);
+
     /** Leaves the page that is shown and asks no plug-in for anything any more, until setPlugins(). */
     void leavePages();
 
@@ -56,6 +59,7 @@ private:
     void showPage(int index);
     QWidget* shown();
     void growToPage();
+    bool isLinkPageShown() const;
 
     QList<SettingsPage> m_pages;
     HistoryPage* m_history = nullptr;

@@ -8,6 +8,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include <algorithm>
+
+#include "FakeLinkPage.h"
 #include "FakePlugin.h"
 #include "FakeTranslator.h"
 #include "HistoryPage.h"
@@ -41,6 +44,7 @@ private Q_SLOTS:
     void staysForOneThatDoesNot();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
+    void choosesALink();
     void followsTheLanguage();
 
 private:
@@ -315,6 +319,32 @@ void SettingsDialogTest::asksNothingOfAPluginThatIsGone()
     press(QDialogButtonBox::Ok);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
+}
+
+/** Lets the second plug-in's page be that of the quick links, and goes back to the first one. */
+static FakeLinkPage* addLinks(SettingsDialog* dialog, QListWidget* list)
+{
+    list->setCurrentRow(1);
+    QWidget* const page = dialog->findChild<PageArea*>()->pageParent()->findChild<QWidget*>("Links");
+    FakeLinkPage* const links = new FakeLinkPage;
+    links->setParent(page);
+    links->setLinks("a b c", 0);
+    links->show();
+    list->setCurrentRow(0);
+    return links;
+}
+
+void SettingsDialogTest::choosesALink()
+{
+    open();
+    const FakeLinkPage* const links = addLinks(m_dialog.get(), list());
+    m_dialog->chooseLink("b");
+    QCOMPARE(shownPage(), "Links");
+    QCOMPARE(list()->currentRow(), 1);
+    QCOMPARE(links->table->currentRow(), 1);
+    m_dialog->chooseLink("nobody");
+    QCOMPARE(shownPage(), "Links");
+    QCOMPARE(links->table->currentRow(), 1);
 }
 
 void SettingsDialogTest::followsTheLanguage()
