@@ -16,6 +16,7 @@
 #include "LanguageMenu.h"
 #include "LinkSchemes.h"
 #include "MainWindow.h"
+#include "Notice.h"
 #include "OpenedLink.h"
 #include "Places.h"
 #include "PluginMessages.h"
@@ -51,6 +52,7 @@ Host::Host(Translator& translator)
 
 Host::~Host()
 {
+    setNoticeOutlet(nullptr);
     EditLinkButton::setEditor(nullptr);
     OpenedLink::setKnown({});
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
@@ -174,6 +176,24 @@ void Host::connectMessages()
         QMetaObject::invokeMethod(
             m_window.get(), [this, link] { editLink(link); }, Qt::QueuedConnection);
     });
+    setNoticeOutlet([this](const QString& title, const QString& text, const QString& subject, const QString& link) {
+        if (isSeen())
+            return false;
+        m_notices.add(title, text, subject, link);
+        return true;
+    });
+    MainWindow* const window = m_window.get();
+    QObject::connect(&m_notices, &DesktopNotices::windowRequested, window,
+                     [window](const QByteArray& token) { bringToFront(window, token); });
+    QObject::connect(
+        &m_notices, &DesktopNotices::editRequested, window, [this](const QString& link) { editLink(link); },
+        Qt::QueuedConnection);
+}
+
+/** Whether the user has a window of the program on the screen. */
+bool Host::isSeen() const
+{
+    return QApplication::activeWindow() || (m_window->isVisible() && !m_window->isMinimized());
 }
 
 void Host::announce()

@@ -9,6 +9,7 @@
 
 #include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
+#include "DesktopNotices.h"
 #include "DialupService.h"
 #include "Gatekeeper.h"
 #include "HostContract.h"
@@ -81,6 +82,7 @@ private:
     void quit();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
+    bool isSeen() const;
     void showRefusals();
     void decideAboutLeftOut(bool isLoadedAgain);
 
@@ -95,6 +97,7 @@ private:
     LinkKeeper m_linkKeeper;
     LinkOpener m_linkOpener;
     LinkAddresses m_links; ///< as the menu shows them
+    DesktopNotices m_notices;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

@@ -62,12 +62,29 @@ private:
     FailureList m_failures;
 };
 
+NoticeOutlet& currentOutlet()
+{
+    static NoticeOutlet outlet;
+    return outlet;
+}
+
 } // namespace
 
 void showNotice(const QString& title, const QString& text, const QString& subject, const QString& link)
+{
+    if (!currentOutlet() || !currentOutlet()(title, text, subject, link))
+        showNoticeWindow(title, text, subject, link);
+}
+
+void showNoticeWindow(const QString& title, const QString& text, const QString& subject, const QString& link)
 {
     static QPointer<Notice> last;
     if (!last || !last->isOpen())
         last = new Notice(newLooseMessage(QMessageBox::Warning, title, QString()));
     last->add(title, text, subject, link);
+}
+
+void setNoticeOutlet(const NoticeOutlet& outlet)
+{
+    currentOutlet() = outlet;
 }

@@ -34,10 +34,12 @@ private Q_SLOTS:
     void leadsToTheLink();
     void offersNothingToEdit_data();
     void offersNothingToEdit();
+    void goesAnotherWayFirst();
 };
 
 void NoticeTest::cleanup()
 {
+    setNoticeOutlet(nullptr);
     EditLinkButton::setEditor(nullptr);
     while (QMessageBox* const box = notice())
         delete box;
@@ -252,6 +254,25 @@ void NoticeTest::offersNothingToEdit()
         EditLinkButton::setEditor([](const QString&) {});
     showNotice("Title", "Gone:", "/a", link);
     QVERIFY(!notice()->findChild<EditLinkButton*>());
+}
+
+void NoticeTest::goesAnotherWayFirst()
+{
+    QStringList taken;
+    bool takes = true;
+    setNoticeOutlet([&](const QString& title, const QString& text, const QString& subject, const QString& link) {
+        taken << title << text << subject << link;
+        return takes;
+    });
+    showNotice("Title", "Gone:", "/a", "A");
+    QCOMPARE(taken, QString("Title Gone: /a A").split(' '));
+    QVERIFY(!notice());
+    takes = false;
+    showNotice("Title", "Gone:", "/b");
+    QCOMPARE(notice()->text(), "Gone:\n\n/b");
+    taken.clear();
+    showNoticeWindow("Title", "Gone:", "/c", QString());
+    QVERIFY(taken.isEmpty());
 }
 
 REGISTER_TEST(NoticeTest)
