@@ -9,6 +9,8 @@
 #include <QUrl>
 
 #include "DesktopOpener.h"
+#include "DesktopPrograms.h"
+#include "EntryRun.h"
 #include "LinkPath.h"
 #include "Notice.h"
 #include "OpenedLink.h"
@@ -87,6 +89,8 @@ void LinkOpener::openFile(const QString& path, const QString& link)
     const bool isExact = QFile::decodeName(QFile::encodeName(path)) == path;
     if (!isExact || !target.exists())
         tell(tr("There is no such file or folder, or you are not allowed to see it:"), path, link);
+    else if (target.isReadable() && DesktopPrograms::isEntry(target))
+        startEntry(path, link);
     else if (target.isFile() && target.isExecutable())
         startProgram(path, link);
     else if (!target.isReadable())
@@ -100,6 +104,13 @@ void LinkOpener::startProgram(const QString& path, const QString& link)
     ProgramRun* const program = new ProgramRun(path);
     connect(program, &ProgramRun::failed, this, [path, link](const QString& reason) { tell(reason, path, link); });
     program->start();
+}
+
+void LinkOpener::startEntry(const QString& path, const QString& link)
+{
+    EntryRun* const run = new EntryRun(path, this);
+    connect(run, &EntryRun::failed, this, [path, link](const QString& reason) { tell(reason, path, link); });
+    run->start();
 }
 
 void LinkOpener::ask(const QString& address, const QString& link)

@@ -51,6 +51,7 @@ private:
     void openPath(const QUrl& address, const QString& link);
     void openFile(const QString& path, const QString& link);
     void startProgram(const QString& path, const QString& link);
+    void startEntry(const QString& path, const QString& link);
     void ask(const QString& address, const QString& link);
     void handToDesktop(const QString& target, const QString& link);
     static void tell(const QString& reason, const QString& target, const QString& link);

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void handsFilesToTheDesktop();
     void startsPrograms_data();
     void startsPrograms();
+    void startsDesktopEntries();
     void namesTheLink_data();
     void namesTheLink();
     void tellsWhatCannotBeOpened_data();
@@ -72,6 +73,11 @@ QString LinkOpenerTest::make(const QString& kind) const
         writeScript(path, "exit 7\n");
     else if (kind == "a crashing program")
         writeScript(path, "kill -SEGV $$\n");
+    else if (kind == "entry.desktop")
+        writeFile(path,
+                  "[Desktop Entry]\nType=Application\nName=x\nExec=touch " +
+                      QFile::encodeName(m_folder.filePath("started")) + '\n',
+                  QFile::Permissions(0x7755));
     else if (kind == "a broken program")
         writeFile(path, "#!/nonexistent/interpreter\n", QFile::Permissions(0x7755));
     else if (kind == "a locked file")
@@ -144,6 +150,20 @@ void LinkOpenerTest::startsPrograms()
     QFile file(record);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(QString::fromUtf8(file.readAll()).trimmed(), m_folder.path());
+    QCOMPARE(desktop.opened(), QStringList());
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::startsDesktopEntries()
+{
+    // Executable, as one that the user trusts may be.
+    const QString path = make("entry.desktop"), record = m_folder.filePath("started");
+    QFile::remove(record);
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(QUrl(path)));
+    QTRY_VERIFY(QFile::exists(record));
+    QTRY_VERIFY(!hasChildProcesses());
     QCOMPARE(desktop.opened(), QStringList());
     QVERIFY(!notice());
 }
