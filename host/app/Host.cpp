@@ -264,6 +264,10 @@ void Host::showSettings(const QString& link)
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
     dialog.setHistory(history);
+    dialog.setParametersNote(LinkAddresses(guard.current()).haveParameters());
+    QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
+        dialog.setParametersNote(LinkAddresses(to).haveParameters());
+    });
     if (!link.isEmpty())
         QMetaObject::invokeMethod(
             &dialog, [&dialog, link] { dialog.chooseLink(link); }, Qt::QueuedConnection);

@@ -33,6 +33,9 @@ public:
     /** Shows the quick links' page with the link of this name chosen; to be called when the dialog is shown. */
     void chooseLink(const QString& name);
 
+    /** Whether a line below the quick links' page says that parameters are not handed to programs. */
+    void setParametersNote(bool isShown);
+
     /** Leaves the page that is shown and asks no plug-in for anything any more, until setPlugins(). */
     void leavePages();
 
@@ -60,6 +63,7 @@ private:
     QWidget* shown();
     void growToPage();
     bool isLinkPageShown() const;
+    void showNote();
 
     QList<SettingsPage> m_pages;
     HistoryPage* m_history = nullptr;
@@ -68,5 +72,7 @@ private:
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
     OfferLine* m_offerLine = nullptr;
+    QLabel* m_note = nullptr;
+    bool m_hasNote = false;
     QLabel* m_hint = nullptr; ///< stands where there are no pages
 };

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
     void choosesALink();
+    void saysBesideTheLinksThatParametersAreNotHandedOver();
     void followsTheLanguage();
 
 private:
@@ -345,6 +346,27 @@ void SettingsDialogTest::choosesALink()
     m_dialog->chooseLink("nobody");
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(links->table->currentRow(), 1);
+}
+
+void SettingsDialogTest::saysBesideTheLinksThatParametersAreNotHandedOver()
+{
+    open();
+    addLinks(m_dialog.get(), list());
+    const auto isSaid = [this] {
+        const QList<QLabel*> labels = m_dialog->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->isVisible() && label->text().contains("without the parameters");
+        });
+    };
+    m_dialog->setParametersNote(true);
+    QVERIFY(!isSaid());
+    list()->setCurrentRow(1);
+    QVERIFY(isSaid());
+    list()->setCurrentRow(0);
+    QVERIFY(!isSaid());
+    list()->setCurrentRow(1);
+    m_dialog->setParametersNote(false);
+    QVERIFY(!isSaid());
 }
 
 void SettingsDialogTest::followsTheLanguage()
