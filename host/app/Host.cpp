@@ -137,6 +137,8 @@ void Host::connectWindow()
 {
     MainWindow* const window = m_window.get();
     QObject::connect(&m_menuManager, &MenuManager::rebuilt, window, &MainWindow::setLinks);
+    QObject::connect(&m_menuManager, &MenuManager::rebuilt, window,
+                     [this](const QList<QAction*>& actions) { giveIcons(actions); });
     QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
     QObject::connect(window, &MainWindow::appeared, window, [this] {
         // Not before: it waits for the disk.
@@ -144,6 +146,7 @@ void Host::connectWindow()
         showRefusals();
         PluginNotifications::tellStarted(m_container);
         announce();
+        m_icons.start();
     });
     QUndoStack* const steps = &m_linkKeeper.steps().stack();
     QObject::connect(&m_linkKeeper, &LinkKeeper::settingsRequested, window, &MainWindow::settingsRequested);
@@ -166,6 +169,14 @@ void Host::connectWindow()
     m_sleepWatch = std::make_unique<SleepWatch>();
     QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
     QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+void Host::giveIcons(const QList<QAction*>& actions)
+{
+    QList<LinkIcons::Link> links;
+    for (int i = 0; i < actions.size(); ++i)
+        links.append({actions.at(i), m_links.addressOf(actions.at(i)->data().toString(), i)});
+    m_icons.setLinks(links);
 }
 
 /** What messages need of the window. */

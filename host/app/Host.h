@@ -14,6 +14,7 @@
 #include "Gatekeeper.h"
 #include "HostContract.h"
 #include "LinkAddresses.h"
+#include "LinkIcons.h"
 #include "LinkKeeper.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
@@ -75,6 +76,7 @@ private:
     void registerComponent(const HostContract::Component& identity, QObject* component);
     void takeOverLinks();
     void connectMessages();
+    void giveIcons(const QList<QAction*>& actions);
     void connectWindow();
     void announce();
     void showConnection();
@@ -98,6 +100,7 @@ private:
     LinkOpener m_linkOpener;
     LinkAddresses m_links; ///< as the menu shows them
     DesktopNotices m_notices;
+    LinkIcons m_icons;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

@@ -8,7 +8,6 @@
 #include <cstdio>
 
 #include "CommandLine.h"
-#include "ConnectionIcon.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -57,6 +56,14 @@ void describeApplication()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
 }
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/com.norvik.vellumconnect-%1.png").arg(size));
+    return icon;
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -75,7 +82,7 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(connectionIcon(true));
+    QApplication::setWindowIcon(programIcon());
     UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);

@@ -77,6 +77,8 @@ QPushButton* LinkButtons::newButton(QAction* action)
     // Return presses it as well as the space bar.
     button->setAutoDefault(true);
     button->installEventFilter(this);
+    button->setIcon(action->icon());
+    connect(action, &QAction::changed, button, [button, action] { button->setIcon(action->icon()); });
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
     return button;
 }
