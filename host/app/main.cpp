@@ -60,8 +60,8 @@ void describeApplication()
 QIcon programIcon()
 {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QStringLiteral(":/icons/com.norvik.vellumconnect-%1.png").arg(size));
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/icons/com.norvik.vellumconnect-%1.png").arg(size), QSize(size, size));
     return icon;
 }
 } // namespace
@@ -82,7 +82,6 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(programIcon());
     UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
@@ -99,6 +98,10 @@ int main(int argc, char** argv)
         return handOver(lock.owner());
     if (showsWindow)
         FolderPrivacy::keepOthersOut(UserFolder::path());
+
+    // Not before: it is read from files, which takes a moment.
+    if (showsWindow)
+        QApplication::setWindowIcon(programIcon());
 
     Host host(translator);
     if (showsWindow)
