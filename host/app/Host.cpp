@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QTimer>
 
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
@@ -183,10 +184,8 @@ void Host::giveIcons(const QList<QAction*>& actions)
 void Host::connectMessages()
 {
     // When the message is gone, or the plug-in that showed it has its answer.
-    EditLinkButton::setEditor([this](const QString& link) {
-        QMetaObject::invokeMethod(
-            m_window.get(), [this, link] { editLink(link); }, Qt::QueuedConnection);
-    });
+    EditLinkButton::setEditor(
+        [this](const QString& link) { QTimer::singleShot(0, m_window.get(), [this, link] { editLink(link); }); });
     setNoticeOutlet([this](const QString& title, const QString& text, const QString& subject, const QString& link) {
         if (isSeen())
             return false;

@@ -24,7 +24,7 @@ QIcon iconNamed(const QString& name)
 QIcon firstOf(const QStringList& names)
 {
     for (const QString& name : names) {
-        const QIcon icon = name.isEmpty() ? QIcon() : iconNamed(name);
+        QIcon icon = name.isEmpty() ? QIcon() : iconNamed(name);
         if (!icon.isNull())
             return icon;
     }
