@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QTimer>
 
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
@@ -184,8 +183,12 @@ void Host::giveIcons(const QList<QAction*>& actions)
 void Host::connectMessages()
 {
     // When the message is gone, or the plug-in that showed it has its answer.
-    EditLinkButton::setEditor(
-        [this](const QString& link) { QTimer::singleShot(0, m_window.get(), [this, link] { editLink(link); }); });
+    m_editing.setSingleShot(true);
+    QObject::connect(&m_editing, &QTimer::timeout, m_window.get(), [this] { editLink(m_linkToEdit); });
+    EditLinkButton::setEditor([this](const QString& link) {
+        m_linkToEdit = link;
+        m_editing.start(0);
+    });
     setNoticeOutlet([this](const QString& title, const QString& text, const QString& subject, const QString& link) {
         if (isSeen())
             return false;
@@ -278,9 +281,7 @@ void Host::showSettings(const QString& link)
     QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
         dialog.setParametersNote(LinkAddresses(to).haveParameters());
     });
-    if (!link.isEmpty())
-        QMetaObject::invokeMethod(
-            &dialog, [&dialog, link] { dialog.chooseLink(link); }, Qt::QueuedConnection);
+    dialog.chooseLink(link);
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
@@ -101,6 +102,8 @@ private:
     LinkAddresses m_links; ///< as the menu shows them
     DesktopNotices m_notices;
     LinkIcons m_icons;
+    QString m_linkToEdit;
+    QTimer m_editing; ///< goes off when that link is to be edited
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

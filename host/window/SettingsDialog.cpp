@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 #include "HistoryPage.h"
 #include "LinkPage.h"
@@ -85,6 +86,10 @@ void SettingsDialog::listPages()
 
 void SettingsDialog::chooseLink(const QString& name)
 {
+    if (!isVisible()) {
+        m_choice = name;
+        return;
+    }
     for (int i = 0; i < m_pages.size(); ++i) {
         m_list->setCurrentRow(i);
         if (!isLinkPageShown())
@@ -168,6 +173,8 @@ void SettingsDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (m_shown < 0 && m_list->count() > 0)
         m_list->setCurrentRow(0);
+    if (!m_choice.isEmpty())
+        chooseLink(std::exchange(m_choice, QString()));
 }
 
 void SettingsDialog::changeEvent(QEvent* event)

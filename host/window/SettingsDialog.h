@@ -30,7 +30,7 @@ public:
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
 
-    /** Shows the quick links' page with the link of this name chosen; to be called when the dialog is shown. */
+    /** Shows the quick links' page with the link of this name chosen, as soon as the dialog is shown. */
     void chooseLink(const QString& name);
 
     /** Whether a line below the quick links' page says that parameters are not handed to programs. */
@@ -67,6 +67,7 @@ private:
 
     QList<SettingsPage> m_pages;
     HistoryPage* m_history = nullptr;
+    QString m_choice;     ///< the link to be chosen when the dialog is shown
     int m_shown = -1;     ///< index of the page in the area
     int m_shownLast = -1; ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;

@@ -343,6 +343,13 @@ void SettingsDialogTest::choosesALink()
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(list()->currentRow(), 1);
     QCOMPARE(links->table->currentRow(), 1);
+    // Not before it is on the screen.
+    m_dialog->hide();
+    m_dialog->chooseLink("c");
+    QCOMPARE(links->table->currentRow(), 1);
+    m_dialog->show();
+    QCOMPARE(links->table->currentRow(), 2);
+    m_dialog->chooseLink("b");
     m_dialog->chooseLink("nobody");
     QCOMPARE(shownPage(), "Links");
     QCOMPARE(links->table->currentRow(), 1);
