@@ -9,12 +9,15 @@
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
+#include "EditLinkButton.h"
 #include "FirstStart.h"
 #include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
 #include "LinkSchemes.h"
 #include "MainWindow.h"
+#include "Notice.h"
+#include "OpenedLink.h"
 #include "Places.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
@@ -36,6 +39,10 @@ Host::Host(Translator& translator)
     , m_linkOpener({&UserSettings::isAgreed, &UserSettings::addAgreed})
 {
     QObject::connect(&m_menuManager, &MenuManager::rebuilt, &m_linkOpener, [this] { takeOverLinks(); });
+    OpenedLink::setKnown({[this](const QString& name, int place) { return m_links.addressOf(name, place); },
+                          [this](const QString& address) {
+                              return m_links.nameOf(address);
+                          }});
     m_container.setGate(&m_gatekeeper);
     installPluginContainer(&m_container);
     registerComponent(HostContract::notifyService, &m_notifyService);
@@ -45,6 +52,9 @@ Host::Host(Translator& translator)
 
 Host::~Host()
 {
+    setNoticeOutlet(nullptr);
+    EditLinkButton::setEditor(nullptr);
+    OpenedLink::setKnown({});
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
     m_runningProgram.reset();
     m_tray.reset();
@@ -92,7 +102,9 @@ bool Host::endLinks()
 
 void Host::takeOverLinks()
 {
-    m_linkOpener.takeOver(LinkSchemes::of(LinkFile::look(m_linkKeeper.guard().file()).content));
+    const QByteArray content = LinkFile::look(m_linkKeeper.guard().file()).content;
+    m_linkOpener.takeOver(LinkSchemes::of(content));
+    m_links = LinkAddresses(content);
 }
 
 const PluginContainer& Host::container() const
@@ -114,6 +126,7 @@ void Host::showWindow(ConnectionKind kind)
     m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
+    connectMessages();
     m_menuManager.rebuild();
     // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
@@ -124,6 +137,8 @@ void Host::connectWindow()
 {
     MainWindow* const window = m_window.get();
     QObject::connect(&m_menuManager, &MenuManager::rebuilt, window, &MainWindow::setLinks);
+    QObject::connect(&m_menuManager, &MenuManager::rebuilt, window,
+                     [this](const QList<QAction*>& actions) { giveIcons(actions); });
     QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
     QObject::connect(window, &MainWindow::appeared, window, [this] {
         // Not before: it waits for the disk.
@@ -131,6 +146,7 @@ void Host::connectWindow()
         showRefusals();
         PluginNotifications::tellStarted(m_container);
         announce();
+        m_icons.start();
     });
     QUndoStack* const steps = &m_linkKeeper.steps().stack();
     QObject::connect(&m_linkKeeper, &LinkKeeper::settingsRequested, window, &MainWindow::settingsRequested);
@@ -153,6 +169,44 @@ void Host::connectWindow()
     m_sleepWatch = std::make_unique<SleepWatch>();
     QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
     QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+void Host::giveIcons(const QList<QAction*>& actions)
+{
+    QList<LinkIcons::Link> links;
+    for (int i = 0; i < actions.size(); ++i)
+        links.append({actions.at(i), m_links.addressOf(actions.at(i)->data().toString(), i)});
+    m_icons.setLinks(links);
+}
+
+/** What messages need of the window. */
+void Host::connectMessages()
+{
+    // When the message is gone, or the plug-in that showed it has its answer.
+    m_editing.setSingleShot(true);
+    QObject::connect(&m_editing, &QTimer::timeout, m_window.get(), [this] { editLink(m_linkToEdit); });
+    EditLinkButton::setEditor([this](const QString& link) {
+        m_linkToEdit = link;
+        m_editing.start(0);
+    });
+    setNoticeOutlet([this](const QString& title, const QString& text, const QString& subject, const QString& link) {
+        if (isSeen())
+            return false;
+        m_notices.add(title, text, subject, link);
+        return true;
+    });
+    MainWindow* const window = m_window.get();
+    QObject::connect(&m_notices, &DesktopNotices::windowRequested, window,
+                     [window](const QByteArray& token) { bringToFront(window, token); });
+    QObject::connect(
+        &m_notices, &DesktopNotices::editRequested, window, [this](const QString& link) { editLink(link); },
+        Qt::QueuedConnection);
+}
+
+/** Whether the user has a window of the program on the screen. */
+bool Host::isSeen() const
+{
+    return QApplication::activeWindow() || (m_window->isVisible() && !m_window->isMinimized());
 }
 
 void Host::announce()
@@ -205,7 +259,17 @@ void Host::quit()
     QCoreApplication::quit();
 }
 
-void Host::showSettings()
+/** In the settings, those that are open or new ones. Whoever is asked something else answers that first. */
+void Host::editLink(const QString& link)
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (SettingsDialog* const settings = qobject_cast<SettingsDialog*>(modal))
+        settings->chooseLink(link);
+    else if (!modal)
+        showSettings(link);
+}
+
+void Host::showSettings(const QString& link)
 {
     SettingsDialog dialog(m_container.all<ISettingUIPlugin>(), m_window.get());
     LinkGuard& guard = m_linkKeeper.guard();
@@ -213,6 +277,11 @@ void Host::showSettings()
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
     dialog.setHistory(history);
+    dialog.setParametersNote(LinkAddresses(guard.current()).haveParameters());
+    QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
+        dialog.setParametersNote(LinkAddresses(to).haveParameters());
+    });
+    dialog.chooseLink(link);
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);

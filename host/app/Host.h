@@ -4,14 +4,18 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
 #include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
+#include "DesktopNotices.h"
 #include "DialupService.h"
 #include "Gatekeeper.h"
 #include "HostContract.h"
+#include "LinkAddresses.h"
+#include "LinkIcons.h"
 #include "LinkKeeper.h"
 #include "LinkOpener.h"
 #include "MenuManager.h"
@@ -72,12 +76,16 @@ public:
 private:
     void registerComponent(const HostContract::Component& identity, QObject* component);
     void takeOverLinks();
+    void connectMessages();
+    void giveIcons(const QList<QAction*>& actions);
     void connectWindow();
     void announce();
     void showConnection();
     void windowClosed();
     void quit();
-    void showSettings();
+    void showSettings(const QString& link = QString());
+    void editLink(const QString& link);
+    bool isSeen() const;
     void showRefusals();
     void decideAboutLeftOut(bool isLoadedAgain);
 
@@ -91,6 +99,11 @@ private:
     MenuManager m_menuManager;
     LinkKeeper m_linkKeeper;
     LinkOpener m_linkOpener;
+    LinkAddresses m_links; ///< as the menu shows them
+    DesktopNotices m_notices;
+    LinkIcons m_icons;
+    QString m_linkToEdit;
+    QTimer m_editing; ///< goes off when that link is to be edited
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

@@ -8,7 +8,6 @@
 #include <cstdio>
 
 #include "CommandLine.h"
-#include "ConnectionIcon.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -57,6 +56,14 @@ void describeApplication()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
 }
+
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/icons/com.norvik.vellumconnect-%1.png").arg(size), QSize(size, size));
+    return icon;
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -75,7 +82,6 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(connectionIcon(true));
     UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
@@ -92,6 +98,10 @@ int main(int argc, char** argv)
         return handOver(lock.owner());
     if (showsWindow)
         FolderPrivacy::keepOthersOut(UserFolder::path());
+
+    // Not before: it is read from files, which takes a moment.
+    if (showsWindow)
+        QApplication::setWindowIcon(programIcon());
 
     Host host(translator);
     if (showsWindow)

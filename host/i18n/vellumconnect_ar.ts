@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>لا عنوان لهذا الرابط:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>توجد مسافات قبل هذا العنوان أو بعده:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>يجب أن تُكتب بداية هذا العنوان بأحرف صغيرة:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>يجب أن يبدأ هذا العنوان بـ &quot;‎http://‎&quot; أو &quot;‎https://‎&quot;:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>ألغِ</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>&amp;تحرير الروابط…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>&amp;تحرير الرابط…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>تعذر بدء التطبيق الخاص بهذا:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -202,6 +239,11 @@
             <numerusform>و%n آخر</numerusform>
             <numerusform>و%n آخر</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -401,10 +443,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>لا يُسمح لك بفتح هذا:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>تعذر تشغيل هذا البرنامج:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -611,6 +649,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>استخدم ذاكرة لا يملكها</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>لاحظ خطأً في نفسه</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>قسم على صفر أو ما شابه</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>وصل إلى تعليمة لا يعرفها المعالج</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>طلب من النظام ما هو ممنوع</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>انتهى هذا البرنامج فورًا برمز الخطأ %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>تعطل هذا البرنامج (الإشارة %1، %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>أنهى النظام أو برنامج آخر هذا البرنامج (الإشارة %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>تعذر تشغيل هذا البرنامج:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -810,6 +890,10 @@
     <message>
         <source>Pages</source>
         <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>تبدأ البرامج دون المعاملات الموجودة في روابطها.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Dieser Link hat keine Adresse:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Vor oder hinter dieser Adresse stehen Leerzeichen:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>Der Anfang dieser Adresse muss kleingeschrieben sein:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Diese Adresse braucht „http://“ oder „https://“ am Anfang:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Nur Internetadressen (http, https und ftp) werden geöffnet. Dies ist keine:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Nur Internetadressen (http, https und ftp) werden geöffnet. Dies ist keine:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>Links &amp;bearbeiten…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>Link &amp;bearbeiten…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>Die Anwendung hierzu konnte nicht gestartet werden:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>und %n weitere</numerusform>
             <numerusform>und %n weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -381,10 +423,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Sie dürfen dies nicht öffnen:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Dieses Programm konnte nicht gestartet werden:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>es benutzte Speicher, den es nicht hat</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>es bemerkte einen eigenen Fehler</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>es teilte durch null oder Ähnliches</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>es kam zu einem Befehl, den der Prozessor nicht kennt</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>es verlangte vom System Verbotenes</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Dieses Programm endete sofort mit dem Fehlercode %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Dieses Programm ist abgestürzt (Signal %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Dieses Programm wurde vom System oder von einem anderen Programm beendet (Signal %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Dieses Programm konnte nicht gestartet werden:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -790,6 +870,10 @@
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Programme starten ohne die Parameter, die ein Link für sie hat.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -380,10 +422,6 @@
     </message>
     <message>
         <source>You are not allowed to open this:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -789,6 +869,10 @@
     </message>
     <message>
         <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

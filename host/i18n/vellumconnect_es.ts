@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Este enlace no tiene dirección:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Hay espacios delante o detrás de esta dirección:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>El comienzo de esta dirección debe escribirse en minúsculas:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Esta dirección necesita «http://» o «https://» al principio:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>&amp;Editar enlaces…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>&amp;Editar enlace…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>No se pudo iniciar la aplicación de esta entrada:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>y %n más</numerusform>
             <numerusform>y %n más</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -381,10 +423,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>No tiene permiso para abrir esto:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>No se pudo iniciar este programa:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>usó memoria que no tiene</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>advirtió un error propio</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>dividió por cero o algo parecido</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>llegó a una instrucción que el procesador no conoce</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>pidió al sistema algo prohibido</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Este programa terminó enseguida con el código de error %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Este programa falló (señal %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>El sistema u otro programa terminó este programa (señal %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>No se pudo iniciar este programa:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -790,6 +870,10 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Los programas se inician sin los parámetros que tiene su enlace.</translation>
     </message>
 </context>
 <context>

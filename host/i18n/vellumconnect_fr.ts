@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Ce lien n’a pas d’adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Il y a des espaces avant ou après cette adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>Le début de cette adresse doit être écrit en minuscules&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Cette adresse doit commencer par «&#xa0;http://&#xa0;» ou «&#xa0;https://&#xa0;»&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>Modi&amp;fier les liens…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>Modi&amp;fier le lien…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>L’application correspondante n’a pas pu être lancée&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>et %n autre</numerusform>
             <numerusform>et %n autres</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -381,10 +423,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Vous n’avez pas le droit d’ouvrir ceci&#xa0;:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Ce programme n’a pas pu être lancé&#xa0;:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>il a utilisé de la mémoire qu’il n’a pas</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>il a remarqué une erreur de sa part</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>il a divisé par zéro ou fait un calcul semblable</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>il est arrivé à une instruction inconnue du processeur</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>il a demandé au système ce qui est interdit</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Ce programme s’est terminé aussitôt avec le code d’erreur %1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Ce programme a planté (signal %1, %2)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Ce programme a été arrêté par le système ou par un autre programme (signal %1)&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Ce programme n’a pas pu être lancé&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -790,6 +870,10 @@
     <message>
         <source>Pages</source>
         <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Les programmes démarrent sans les paramètres que contient leur lien.</translation>
     </message>
 </context>
 <context>

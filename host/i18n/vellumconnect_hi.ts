@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hi" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>इस लिंक में कोई पता नहीं है:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>इस पते के पहले या बाद में रिक्त स्थान हैं:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>इस पते की शुरुआत छोटे अक्षरों में लिखी होनी चाहिए:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>इस पते की शुरुआत में &quot;http://&quot; या &quot;https://&quot; होना चाहिए:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>केवल इंटरनेट पते (http, https और ftp) खोले जाते हैं। यह ऐसा पता नहीं है:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>रद्द करें</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>केवल इंटरनेट पते (http, https और ftp) खोले जाते हैं। यह ऐसा पता नहीं है:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>लिंक संपादित करें (&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>लिंक संपादित करें (&amp;E)…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>इसका ऐप्लिकेशन शुरू नहीं हो सका:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>और %n अन्य</numerusform>
             <numerusform>और %n अन्य</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -381,10 +423,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>आपको इसे खोलने की अनुमति नहीं है:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>यह प्रोग्राम शुरू नहीं हो सका:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>इसने ऐसी मेमोरी का उपयोग किया जो इसकी नहीं है</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>इसे अपनी ही एक गलती मिली</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>इसने शून्य से भाग या वैसा ही कुछ किया</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>इसे ऐसा निर्देश मिला जिसे प्रोसेसर नहीं जानता</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>इसने सिस्टम से वर्जित चीज़ माँगी</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>यह प्रोग्राम त्रुटि कोड %1 के साथ तुरंत समाप्त हो गया:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>यह प्रोग्राम क्रैश हो गया (सिग्नल %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>सिस्टम या किसी दूसरे प्रोग्राम ने यह प्रोग्राम समाप्त किया (सिग्नल %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>यह प्रोग्राम शुरू नहीं हो सका:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -790,6 +870,10 @@
     <message>
         <source>Pages</source>
         <translation>पृष्ठ</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>प्रोग्राम उन पैरामीटर के बिना शुरू होते हैं जो उनके लिंक में हैं।</translation>
     </message>
 </context>
 <context>

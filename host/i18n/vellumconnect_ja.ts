@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>このリンクにはアドレスがありません:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>このアドレスの前または後ろに空白があります:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>このアドレスの先頭は小文字で書く必要があります:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>このアドレスの先頭には「http://」または「https://」が必要です:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>開けるのはインターネットアドレス (http、https、ftp) だけです。これは該当しません:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>開けるのはインターネットアドレス (http、https、ftp) だけです。これは該当しません:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>リンクを編集(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>リンクを編集(&amp;E)…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>これに対応するアプリを起動できませんでした:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -197,6 +234,11 @@
         <translation>
             <numerusform>他 %n 件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -376,10 +418,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>これを開く権限がありません:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>このプログラムを起動できませんでした:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -586,6 +624,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>自分のものではないメモリを使いました</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>自身の誤りに気付きました</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>ゼロで割るなどの計算をしました</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>プロセッサーが知らない命令に達しました</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>禁じられていることをシステムに求めました</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>このプログラムはエラー コード %1 ですぐに終了しました:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>このプログラムはクラッシュしました (シグナル %1、%2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>このプログラムはシステムまたは別のプログラムによって終了されました (シグナル %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>このプログラムを起動できませんでした:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -785,6 +865,10 @@
     <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>プログラムは、リンクにあるパラメーターなしで起動します。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Ten odnośnik nie ma adresu:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Przed tym adresem lub za nim są spacje:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>Początek tego adresu musi być napisany małymi literami:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Ten adres musi się zaczynać od „http://” lub „https://”:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Anuluj</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>&amp;Edytuj odnośniki…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>&amp;Edytuj odnośnik…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>Nie można uruchomić aplikacji tego wpisu:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -199,6 +236,11 @@
             <numerusform>i jeszcze %n</numerusform>
             <numerusform>i jeszcze %n</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -386,10 +428,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Brak uprawnień do otwarcia:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Nie udało się uruchomić tego programu:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -596,6 +634,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>użył pamięci, której nie ma</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>zauważył własny błąd</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>podzielił przez zero lub podobnie</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>natrafił na rozkaz, którego procesor nie zna</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>zażądał od systemu czegoś zabronionego</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Ten program zakończył się od razu z kodem błędu %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Ten program uległ awarii (sygnał %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Ten program został zakończony przez system lub inny program (sygnał %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Nie udało się uruchomić tego programu:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -795,6 +875,10 @@
     <message>
         <source>Pages</source>
         <translation>Strony</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Programy uruchamiają się bez parametrów, które ma ich odnośnik.</translation>
     </message>
 </context>
 <context>

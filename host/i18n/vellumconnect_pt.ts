@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Este atalho não tem endereço:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Há espaços antes ou depois deste endereço:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>O início deste endereço deve ser escrito em letras minúsculas:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Este endereço precisa de &quot;http://&quot; ou &quot;https://&quot; no início:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Somente endereços da Internet (http, https e ftp) são abertos. Este não é um deles:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Somente endereços da Internet (http, https e ftp) são abertos. Este não é um deles:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>&amp;Editar atalhos…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>&amp;Editar atalho…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>Não foi possível iniciar o aplicativo deste item:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -198,6 +235,11 @@
             <numerusform>e mais %n</numerusform>
             <numerusform>e mais %n</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -381,10 +423,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Você não tem permissão para abrir isto:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Não foi possível iniciar este programa:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -591,6 +629,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>usou memória que não tem</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>percebeu um erro próprio</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>dividiu por zero ou algo parecido</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>chegou a uma instrução que o processador não conhece</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>pediu ao sistema algo proibido</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Este programa terminou imediatamente com o código de erro %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Este programa falhou (sinal %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Este programa foi encerrado pelo sistema ou por outro programa (sinal %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Não foi possível iniciar este programa:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -790,6 +870,10 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Os programas são iniciados sem os parâmetros que o atalho tem para eles.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>У этой ссылки нет адреса:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Перед этим адресом или после него стоят пробелы:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>Начало этого адреса должно быть написано строчными буквами:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>В начале этого адреса должно быть «http://» или «https://»:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Открываются только интернет-адреса (http, https и ftp). Это не такой адрес:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Отмена</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Открываются только интернет-адреса (http, https и ftp). Это не такой адрес:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>&amp;Изменить ссылки…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>&amp;Изменить ссылку…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>Не удалось запустить приложение этого ярлыка:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -199,6 +236,11 @@
             <numerusform>и ещё %n</numerusform>
             <numerusform>и ещё %n</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -386,10 +428,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Недостаточно прав для открытия:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Не удалось запустить эту программу:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -596,6 +634,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>она обратилась к чужой памяти</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>она заметила собственную ошибку</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>она разделила на ноль или сделала подобное</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>она дошла до команды, неизвестной процессору</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>она потребовала от системы запрещённого</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Эта программа сразу завершилась с кодом ошибки %1:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Эта программа аварийно завершилась (сигнал %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Эту программу завершила система или другая программа (сигнал %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Не удалось запустить эту программу:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -795,6 +875,10 @@
     <message>
         <source>Pages</source>
         <translation>Страницы</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Программы запускаются без параметров, указанных в их ссылках.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>Bu kısayolun adresi yok:</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>Bu adresin önünde veya arkasında boşluk var:</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>Bu adresin başı küçük harflerle yazılmalıdır:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>Bu adresin başında &quot;http://&quot; veya &quot;https://&quot; olmalıdır:</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>Yalnızca internet adresleri (http, https ve ftp) açılır. Bu bir internet adresi değil:</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>Yalnızca internet adresleri (http, https ve ftp) açılır. Bu bir internet adresi değil:</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>Kısayolları &amp;düzenle…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>Kısayolu &amp;düzenle…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>Bunun uygulaması başlatılamadı:</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -197,6 +234,11 @@
         <translation>
             <numerusform>ve %n tane daha</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -376,10 +418,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Bunu açma izniniz yok:</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>Bu program başlatılamadı:</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -586,6 +624,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>kendisine ait olmayan belleği kullandı</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>kendi hatasını fark etti</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>sıfıra böldü ya da benzerini yaptı</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>işlemcinin bilmediği bir komuta geldi</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>sistemden yasak olanı istedi</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>Bu program hemen %1 hata koduyla sona erdi:</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>Bu program çöktü (sinyal %1, %2):</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>Bu program sistem veya başka bir program tarafından sonlandırıldı (sinyal %1):</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>Bu program başlatılamadı:</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -785,6 +865,10 @@
     <message>
         <source>Pages</source>
         <translation>Sayfalar</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>Programlar, kısayollarındaki parametreler olmadan başlar.</translation>
     </message>
 </context>
 <context>

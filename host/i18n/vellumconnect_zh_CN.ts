@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddressProblem</name>
+    <message>
+        <source>This link has no address:</source>
+        <translation>此链接没有地址：</translation>
+    </message>
+    <message>
+        <source>There are blanks before or behind this address:</source>
+        <translation>此地址前面或后面有空格：</translation>
+    </message>
+    <message>
+        <source>The beginning of this address must be written in small letters:</source>
+        <translation>此地址的开头必须用小写字母书写：</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <translation>此地址的开头需要“http://”或“https://”：</translation>
+    </message>
+    <message>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <translation>只能打开互联网地址（http、https 和 ftp）。这不是互联网地址：</translation>
+    </message>
+</context>
+<context>
     <name>AddressQuestions</name>
     <message>
         <source>Open this address with the program for &quot;%1&quot; links?</source>
@@ -82,10 +105,6 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>取消</translation>
-    </message>
-    <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
-        <translation>只能打开互联网地址（http、https 和 ftp）。这不是互联网地址：</translation>
     </message>
 </context>
 <context>
@@ -187,6 +206,24 @@
     </message>
 </context>
 <context>
+    <name>EditLinkButton</name>
+    <message>
+        <source>&amp;Edit Links…</source>
+        <translation>编辑链接(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Link…</source>
+        <translation>编辑链接(&amp;E)…</translation>
+    </message>
+</context>
+<context>
+    <name>EntryRun</name>
+    <message>
+        <source>The application of this could not be started:</source>
+        <translation>无法启动与此对应的应用程序：</translation>
+    </message>
+</context>
+<context>
     <name>FailureList</name>
     <message>
         <source>Not opened</source>
@@ -197,6 +234,11 @@
         <translation>
             <numerusform>还有 %n 项</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a link and its address</comment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -376,10 +418,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>您无权打开此项：</translation>
-    </message>
-    <message>
-        <source>This program could not be started:</source>
-        <translation>无法启动此程序：</translation>
     </message>
     <message>
         <source>Not opened</source>
@@ -586,6 +624,48 @@
     </message>
 </context>
 <context>
+    <name>ProgramEnd</name>
+    <message>
+        <source>it used memory that it does not have</source>
+        <translation>它使用了不属于它的内存</translation>
+    </message>
+    <message>
+        <source>it noticed a mistake of its own</source>
+        <translation>它发现了自身的错误</translation>
+    </message>
+    <message>
+        <source>it divided by zero or the like</source>
+        <translation>它除以零或进行了类似的运算</translation>
+    </message>
+    <message>
+        <source>it came to an instruction that the processor does not know</source>
+        <translation>它遇到了处理器不认识的指令</translation>
+    </message>
+    <message>
+        <source>it asked the system for what is forbidden</source>
+        <translation>它向系统请求了被禁止的操作</translation>
+    </message>
+    <message>
+        <source>This program ended at once, with the error code %1:</source>
+        <translation>此程序立即结束，错误代码为 %1：</translation>
+    </message>
+    <message>
+        <source>This program crashed (signal %1, %2):</source>
+        <translation>此程序崩溃了（信号 %1，%2）：</translation>
+    </message>
+    <message>
+        <source>This program was ended by the system or by another program (signal %1):</source>
+        <translation>此程序被系统或其他程序结束（信号 %1）：</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRun</name>
+    <message>
+        <source>This program could not be started:</source>
+        <translation>无法启动此程序：</translation>
+    </message>
+</context>
+<context>
     <name>PutBackOffer</name>
     <message>
         <source>&quot;%1&quot; no longer opens by itself.</source>
@@ -785,6 +865,10 @@
     <message>
         <source>Pages</source>
         <translation>页面</translation>
+    </message>
+    <message>
+        <source>Programs start without the parameters that a link has for them.</source>
+        <translation>程序启动时不会使用其链接中的参数。</translation>
     </message>
 </context>
 <context>

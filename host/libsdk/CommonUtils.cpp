@@ -9,8 +9,10 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+#include "AddressProblem.h"
 #include "InternetAddress.h"
 #include "Notice.h"
+#include "OpenedLink.h"
 #include "UserFolder.h"
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -23,11 +25,11 @@ void CommonUtils::OpenUrl(QString url)
     const QUrl completed = InternetAddress::completed(url);
     if (!completed.isEmpty() && QDesktopServices::openUrl(completed))
         return;
-    const char* const reason =
-        completed.isEmpty()
-            ? QT_TRANSLATE_NOOP("CommonUtils",
-                                "Only Internet addresses (http, https and ftp) are opened. This is not one:")
-            : QT_TRANSLATE_NOOP("CommonUtils", "No program could be started for this address:");
+    // A plug-in may not have been able to hand over the address of its link.
+    const QString address = url.isEmpty() && OpenedLink::current() ? OpenedLink::current()->address() : url;
     showNotice(QCoreApplication::translate("CommonUtils", "Address not opened"),
-               QCoreApplication::translate("CommonUtils", reason), url);
+               completed.isEmpty()
+                   ? AddressProblem::sentence(address)
+                   : QCoreApplication::translate("CommonUtils", "No program could be started for this address:"),
+               address, OpenedLink::nameFor(url));
 }

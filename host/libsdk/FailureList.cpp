@@ -15,18 +15,22 @@ FailureList::FailureList()
     : m_count(0)
     , m_sharesTitle(true)
     , m_hasLongSubject(false)
+    , m_hasSeveralLinks(false)
 {
 }
 
-void FailureList::add(const QString& title, const QString& reason, const QString& subject)
+void FailureList::add(const QString& title, const QString& reason, const QString& subject, const QString& link)
 {
     if (m_count == 0)
         m_title = title;
     m_sharesTitle = m_sharesTitle && title == m_title;
     ++m_count;
+    if (m_link.isEmpty())
+        m_link = link;
+    m_hasSeveralLinks = m_hasSeveralLinks || (!link.isEmpty() && link != m_link);
     if (m_kept.size() == keptAtMost)
         return;
-    const Failure failure = {reason, m_count == 1 ? subject : subject.left(longestLine)};
+    const Failure failure = {reason, m_count == 1 ? subject : subject.left(longestLine), link};
     m_kept.append(failure);
     m_hasLongSubject = m_hasLongSubject || !ShownText::detailsOf(subject).isEmpty();
 }
@@ -38,8 +42,11 @@ QString FailureList::title() const
 
 QString FailureList::text() const
 {
-    if (m_count == 1)
-        return ShownText::withSubject(m_kept.first().reason, m_kept.first().subject);
+    if (m_count == 1) {
+        const Failure& failure = m_kept.first();
+        const QString subject = ShownText::isolatedPath(ShownText::shortened(failure.subject));
+        return failure.reason + QLatin1String("\n\n") + named(failure, subject);
+    }
     const QString text = lines(shownAtMost, true);
     return m_count > shownAtMost ? text + QLatin1Char('\n') + tr("and %n more", nullptr, m_count - shownAtMost) : text;
 }
@@ -54,6 +61,15 @@ QString FailureList::details() const
     return m_count > keptAtMost ? all + QLatin1Char('\n') + QChar(0x2026) : all;
 }
 
+/** A subject as it is shown, with the name of the link before it. */
+QString FailureList::named(const Failure& failure, const QString& subject)
+{
+    if (failure.link.isEmpty())
+        return subject;
+    const QString name = ShownText::isolatedName(ShownText::onOneLine(ShownText::shortened(failure.link)));
+    return subject.isEmpty() ? name : tr("%1: %2", "name of a link and its address").arg(name, subject);
+}
+
 /** The subjects of the first failures, a line each, below the reason that one or several in a row share. */
 QString FailureList::lines(int count, bool isShortened) const
 {
@@ -65,7 +81,7 @@ QString FailureList::lines(int count, bool isShortened) const
         const QString subject = failure.subject.left(longestLine);
         const QString shown = ShownText::onOneLine(isShortened ? ShownText::shortened(subject) : subject);
         // A long line takes several on the screen: the dot tells where one begins.
-        lines.append(QString(QChar(0x2022)) + QLatin1Char(' ') + ShownText::isolatedPath(shown));
+        lines.append(QString(QChar(0x2022)) + QLatin1Char(' ') + named(failure, ShownText::isolatedPath(shown)));
     }
     return lines.join(QLatin1String("\n"));
 }

@@ -6,11 +6,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
 
+#include "AddressProblem.h"
 #include "Change.h"
 #include "CommonUtils.h"
+#include "EditLinkButton.h"
+#include "FailureList.h"
+#include "OpenedLink.h"
 #include "PlainMessage.h"
 
 namespace
@@ -49,17 +54,52 @@ void addButton(QMessageBox* box, QMessageBox::StandardButton number, const QStri
         box->addButton(number)->setText(buttonText(key));
 }
 
+/** The link that the quick links refuse with this text to open, which says neither which it is nor why; else null. */
+const OpenedLink* refusedLink(const QString& text)
+{
+    const QString refusal =
+        Change::tr(QLatin1String("IDS_LINK_SETTING_INVALID_URL"), QLatin1String("QuickLinkUIPlugin"));
+    return text == refusal ? OpenedLink::current() : nullptr;
+}
+
+/** The window in which the user picked a link; null where it is none of this program's, such as the desktop's tray. */
+QWidget* windowOfUser()
+{
+    if (QWidget* const active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString title, QString text, QString firstButton,
                              QString secondButton, QString thirdButton, bool beep, QFlags<Qt::WindowType> flags,
                              QDialog** dialogOut, QString details, bool closable)
 {
+    FailureList refused;
+    if (const OpenedLink* const link = refusedLink(text)) {
+        refused.add(title, AddressProblem::sentence(link->address()), link->address(), link->name());
+        text = refused.text();
+        details = refused.details();
+        // The page that the quick links name may stand in no window any more.
+        parent = windowOfUser();
+    }
     // On the heap: with its parent it may be deleted while it is open.
     const QPointer<QMessageBox> box = newPlainMessage(icon, parent, title, text, flags);
     addButton(box, QMessageBox::Ok, firstButton);
     addButton(box, QMessageBox::Cancel, secondButton);
     addButton(box, QMessageBox::Ignore, thirdButton);
+    EditLinkButton* edit = nullptr;
+    if (EditLinkButton::isOfferedFor(refused.link())) {
+        edit = new EditLinkButton;
+        edit->setLink(refused.link(), false);
+        box->addButton(edit, QMessageBox::ActionRole);
+    }
     const QMessageBox::StandardButton closed = secondButton.isEmpty() ? QMessageBox::Ok : QMessageBox::Cancel;
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(closed);
@@ -78,6 +118,8 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString ti
     const int answer = box->exec();
     if (dialogOut)
         *dialogOut = nullptr;
+    if (edit && box && box->clickedButton() == edit)
+        edit->edit();
     const bool isButton = box && box->button(QMessageBox::StandardButton(answer));
     delete box;
     return isButton ? answer : closed;

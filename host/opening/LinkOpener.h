@@ -21,9 +21,9 @@ struct AgreedAddresses {
 };
 
 /**
- * Opens what QDesktopServices::openUrl() is called with: programs directly, everything else by the desktop, unusual
- * addresses after the user has agreed (SchemeRules). What was opened outlives this program, and what could not be
- * opened is told to the user without blocking the caller.
+ * Opens what QDesktopServices::openUrl() is called with: programs directly, applications by their desktop entries,
+ * everything else by the desktop, unusual addresses after the user has agreed (SchemeRules). What was opened outlives
+ * this program, and what could not be opened is told to the user without blocking the caller.
  */
 class LinkOpener : public QObject
 {
@@ -47,12 +47,14 @@ public Q_SLOTS:
     void open(const QUrl& address);
 
 private:
-    void openPath(const QUrl& address);
-    void openFile(const QString& path);
-    void startProgram(const QString& path);
-    void ask(const QString& address);
-    void handToDesktop(const QString& target);
-    static void tell(const QString& reason, const QString& target);
+    // link is the name of the link whose target it is, for what is told of it; empty for none.
+    void openPath(const QUrl& address, const QString& link);
+    void openFile(const QString& path, const QString& link);
+    void startProgram(const QString& path, const QString& link);
+    void startEntry(const QString& path, const QString& link);
+    void ask(const QString& address, const QString& link);
+    void handToDesktop(const QString& target, const QString& link);
+    static void tell(const QString& reason, const QString& target, const QString& link);
 
     const AgreedAddresses m_agreed;
     QSet<QString> m_schemes; ///< those taken over

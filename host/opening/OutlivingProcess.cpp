@@ -15,8 +15,8 @@ static QSet<const OutlivingProcess*>& running()
     return *all;
 }
 
-/** Runs in the child, where only calls are allowed that a signal handler may make: see fork(2), signal-safety(7). */
-static void cutOff()
+/** Only with calls that a signal handler may make: see fork(2), signal-safety(7). */
+void OutlivingProcess::cutOff()
 {
     // In a session of its own, what ends this program's terminal does not end what was opened.
     ::setsid();

@@ -22,6 +22,12 @@ public:
     OutlivingProcess(const QString& program, const QStringList& arguments);
     ~OutlivingProcess() override;
 
+    /**
+     * Cuts the process in which it is called off from this program, as said above. Only for a child between fork and
+     * exec.
+     */
+    static void cutOff();
+
     /** How many of these objects there are: the runs whose end has not been dealt with yet. */
     static int count();
 

@@ -9,6 +9,7 @@
 #include "HostContract.h"
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
+#include "OpenedLink.h"
 #include "PluginContainer.h"
 #include "ShownText.h"
 
@@ -58,7 +59,7 @@ void MenuManager::addLinks(const PluginWith<IQuickLinkPlugin>& plugin)
     const int count = plugin.interface->GetQuickLinkRecordSize();
     for (int i = 0; i < count; ++i) {
         if (QAction* const theirs = plugin.interface->GetActionFromQuickLink(i))
-            m_actions.append(newAction(plugin, theirs));
+            m_actions.append(newAction(plugin, theirs, i));
     }
 }
 
@@ -70,15 +71,18 @@ void MenuManager::setTexts(QAction* action)
     action->setStatusTip(tip);
 }
 
-QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs)
+/** The host's action for a plug-in's own one, which is in this place of the plug-in's list. */
+QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs, int place)
 {
     const QString name = LinkName::onOneLine(theirs->text());
     QAction* const action = new QAction(LinkName::withAmpersands(name), this);
     action->setData(name);
     setTexts(action);
-    connect(action, &QAction::triggered, this, [plugin, theirs = QPointer<QAction>(theirs)] {
-        if (plugin.object && theirs)
-            plugin.interface->LaunchQuickLinkAction(theirs);
+    connect(action, &QAction::triggered, this, [plugin, place, theirs = QPointer<QAction>(theirs)] {
+        if (!plugin.object || !theirs)
+            return;
+        const OpenedLink link(theirs->text(), place);
+        plugin.interface->LaunchQuickLinkAction(theirs);
     });
     return action;
 }

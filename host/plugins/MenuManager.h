@@ -48,7 +48,7 @@ Q_SIGNALS:
 private:
     void addLinks(const PluginWith<IQuickLinkPlugin>& plugin);
     static void setTexts(QAction* action);
-    QAction* newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs);
+    QAction* newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs, int place);
 
     const PluginContainer& m_container;
     QList<QAction*> m_actions;

@@ -15,6 +15,7 @@ namespace
 {
 const int columns = 2;
 const int longestName = 17; // in wide letters; the rest is in the tool tip
+const int iconGap = 4;      // pixels that the toolkit leaves between icon and text
 
 QLabel* newHint(const QString& text)
 {
@@ -65,8 +66,9 @@ QPushButton* LinkButtons::newButton(QAction* action)
     font.setPointSizeF(font.pointSizeF() + 1);
     button->setFont(font);
     const QFontMetrics metrics(font);
-    button->setText(LinkName::withAmpersands(
-        metrics.elidedText(name, Qt::ElideRight, longestName * metrics.horizontalAdvance(QLatin1Char('m')))));
+    // With room for an icon, which comes later.
+    const int width = longestName * metrics.horizontalAdvance(QLatin1Char('m')) - button->iconSize().width() - iconGap;
+    button->setText(LinkName::withAmpersands(metrics.elidedText(name, Qt::ElideRight, width)));
     button->setMinimumHeight(3 * metrics.height());
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setAccessibleName(name);
@@ -77,6 +79,8 @@ QPushButton* LinkButtons::newButton(QAction* action)
     // Return presses it as well as the space bar.
     button->setAutoDefault(true);
     button->installEventFilter(this);
+    button->setIcon(action->icon());
+    connect(action, &QAction::changed, button, [button, action] { button->setIcon(action->icon()); });
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
     return button;
 }

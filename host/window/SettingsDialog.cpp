@@ -14,8 +14,10 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 #include "HistoryPage.h"
+#include "LinkPage.h"
 #include "LinkPageKeys.h"
 #include "OfferLine.h"
 #include "PageArea.h"
@@ -26,6 +28,7 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     , m_list(new QListWidget)
     , m_area(new PageArea)
     , m_offerLine(new OfferLine)
+    , m_note(new QLabel)
     , m_hint(new QLabel)
 {
     QVBoxLayout* const column = new QVBoxLayout(this);
@@ -36,6 +39,10 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setMinimumSize(320, 120);
     row->addWidget(m_hint);
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->setWordWrap(true);
+    m_note->hide();
+    column->addWidget(m_note);
     column->addWidget(m_offerLine);
     connect(m_offerLine, &OfferLine::offered, this, [this] {
         if (isVisible()) {
@@ -75,6 +82,47 @@ void SettingsDialog::listPages()
     m_list->setVisible(count > 0);
     m_area->setVisible(count > 0);
     m_hint->setVisible(count == 0);
+}
+
+void SettingsDialog::chooseLink(const QString& name)
+{
+    if (!isVisible()) {
+        m_choice = name;
+        return;
+    }
+    for (int i = 0; i < m_pages.size(); ++i) {
+        m_list->setCurrentRow(i);
+        if (!isLinkPageShown())
+            continue;
+        const LinkPage page(m_area->pageParent());
+        return page.select(int(page.names().indexOf(name)));
+    }
+}
+
+void SettingsDialog::setParametersNote(bool isShown)
+{
+    m_hasNote = isShown;
+    showNote();
+}
+
+bool SettingsDialog::isLinkPageShown() const
+{
+    // A page that the dialog has left may still be there.
+    const LinkPage page(m_area->pageParent());
+    return page.isThere() && page.table()->isVisibleTo(this);
+}
+
+/** Where it belongs, which may need more room. */
+void SettingsDialog::showNote()
+{
+    const bool isShown = m_hasNote && isLinkPageShown();
+    if (isShown == !m_note->isHidden())
+        return;
+    m_note->setVisible(isShown);
+    if (isShown && isVisible()) {
+        layout()->activate();
+        growToPage();
+    }
 }
 
 void SettingsDialog::leavePages()
@@ -125,6 +173,8 @@ void SettingsDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (m_shown < 0 && m_list->count() > 0)
         m_list->setCurrentRow(0);
+    if (!m_choice.isEmpty())
+        chooseLink(std::exchange(m_choice, QString()));
 }
 
 void SettingsDialog::changeEvent(QEvent* event)
@@ -137,6 +187,7 @@ void SettingsDialog::changeEvent(QEvent* event)
 void SettingsDialog::setTexts()
 {
     setWindowTitle(tr("Settings"));
+    m_note->setText(tr("Programs start without the parameters that a link has for them."));
     m_hint->setText(tr("None of the loaded plug-ins has settings."));
     m_list->setAccessibleName(tr("Pages"));
     for (int i = 0; i < m_pages.size(); ++i)
@@ -157,6 +208,7 @@ void SettingsDialog::showPage(int index)
     if (m_shown < 0)
         return;
     m_area->setPage(shown());
+    showNote();
     growToPage();
 }
 

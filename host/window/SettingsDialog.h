@@ -30,6 +30,12 @@ public:
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
 
+    /** Shows the quick links' page with the link of this name chosen, as soon as the dialog is shown. */
+    void chooseLink(const QString& name);
+
+    /** Whether a line below the quick links' page says that parameters are not handed to programs. */
+    void setParametersNote(bool isShown);
+
     /** Leaves the page that is shown and asks no plug-in for anything any more, until setPlugins(). */
     void leavePages();
 
@@ -56,13 +62,18 @@ private:
     void showPage(int index);
     QWidget* shown();
     void growToPage();
+    bool isLinkPageShown() const;
+    void showNote();
 
     QList<SettingsPage> m_pages;
     HistoryPage* m_history = nullptr;
+    QString m_choice;     ///< the link to be chosen when the dialog is shown
     int m_shown = -1;     ///< index of the page in the area
     int m_shownLast = -1; ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
     OfferLine* m_offerLine = nullptr;
+    QLabel* m_note = nullptr;
+    bool m_hasNote = false;
     QLabel* m_hint = nullptr; ///< stands where there are no pages
 };

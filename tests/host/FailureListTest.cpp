@@ -23,6 +23,9 @@ private Q_SLOTS:
     void keepsALineALine();
     void sharesATitle();
     void keepsTheOrderOfPaths();
+    void namesTheLink();
+    void keepsTheNameOfALinkInItsLine();
+    void knowsTheLinks();
 };
 
 /** A list of this many failures: "Gone: /0", "Gone: /1" and so on. */
@@ -158,6 +161,42 @@ void FailureListTest::keepsTheOrderOfPaths()
     QCOMPARE(one, "Gone:\n\n" + isolated);
     QCOMPARE(several.section('\n', 1, 1), QString::fromUtf8("• ") + isolated);
     QCOMPARE(details.section('\n', 1, 1), QString::fromUtf8("• ") + isolated);
+}
+
+void FailureListTest::namesTheLink()
+{
+    FailureList list;
+    list.add("Title", "Gone:", "/a", "My Link");
+    QCOMPARE(list.text(), "Gone:\n\nMy Link: /a");
+    list.add("Title", "Gone:", "/b");
+    list.add("Title", "No address:", QString(), "100% Other");
+    QCOMPARE(list.text(), QString::fromUtf8("Gone:\n• My Link: /a\n• /b\nNo address:\n• 100% Other"));
+    const QString longSubject(200, 'x');
+    list.add("Title", "Gone:", longSubject, "Long");
+    QVERIFY(list.details().endsWith(QString::fromUtf8("• Long: ") + longSubject));
+}
+
+void FailureListTest::keepsTheNameOfALinkInItsLine()
+{
+    FailureList list;
+    list.add("Title", "Gone:", "/a", "Two\nlines " + QString(200, 'x'));
+    QCOMPARE(int(list.text().split('\n').size()), 3);
+    QVERIFY(list.text().size() < 150);
+}
+
+void FailureListTest::knowsTheLinks()
+{
+    FailureList list;
+    QCOMPARE(list.link(), QString());
+    list.add("Title", "Gone:", "/0");
+    list.add("Title", "Gone:", "/a", "A");
+    list.add("Title", "Gone:", "/a", "A");
+    list.add("Title", "Gone:", "/0");
+    QCOMPARE(list.link(), "A");
+    QVERIFY(!list.hasSeveralLinks());
+    list.add("Title", "Gone:", "/b", "B");
+    QCOMPARE(list.link(), "A");
+    QVERIFY(list.hasSeveralLinks());
 }
 
 REGISTER_TEST(FailureListTest)

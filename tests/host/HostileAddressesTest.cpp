@@ -13,6 +13,7 @@
 #include "Test.h"
 
 static const char noInternet[] = "Only Internet addresses (http, https and ftp) are opened. This is not one:";
+static const char noAddress[] = "This link has no address:";
 static const char itself[] = "Addresses that are themselves a script or a page are never opened:";
 static const char invalid[] = "This is no valid address:";
 static const char relative[] = "The path of an application or file must begin with \"/\":";
@@ -83,10 +84,10 @@ void addFiles()
 
 void addWhatIsNearlyNothing()
 {
-    add("", noInternet, nowhere);
+    add("", noAddress, nowhere);
     add("file:", noInternet, nowhere);
-    add(" ", noInternet, relative);
-    add("\n", noInternet, relative);
+    add(" ", noAddress, relative);
+    add("\n", noAddress, relative);
     add(":", noInternet, invalid);
     add("://a.example", noInternet, invalid);
     for (const char* address : {"http:", "http://", "http:///x", "mailto:", "tel:"})

@@ -19,7 +19,16 @@ private Q_SLOTS:
     void showsTheNameAsItStands();
     void returnPressesAButton();
     void keepsThePressedButtonUntilLater();
+    void followsTheIcon();
+    void staysAsWideWithAnIcon();
 };
+
+static QIcon redIcon()
+{
+    QPixmap picture(64, 64);
+    picture.fill(Qt::red);
+    return QIcon(picture);
+}
 
 void LinkButtonsTest::showsTheNameAsItStands()
 {
@@ -63,6 +72,39 @@ void LinkButtonsTest::keepsThePressedButtonUntilLater()
     QVERIFY(wasKept);
     QTRY_VERIFY(!pressed);
     QVERIFY(!buttons.findChild<QPushButton*>());
+}
+
+void LinkButtonsTest::followsTheIcon()
+{
+    QAction former, later;
+    former.setIcon(redIcon());
+    LinkButtons buttons;
+    buttons.setActions({&former, &later});
+    const QList<QPushButton*> both = buttons.findChildren<QPushButton*>();
+    QCOMPARE(int(both.size()), 2);
+    QVERIFY(!both.first()->icon().isNull());
+    QVERIFY(both.last()->icon().isNull());
+    later.setIcon(redIcon());
+    QVERIFY(!both.last()->icon().isNull());
+}
+
+void LinkButtonsTest::staysAsWideWithAnIcon()
+{
+    // As wide as a name that fills its room was without one.
+    QAction action;
+    action.setData(QString(1000, 'i'));
+    action.setIcon(redIcon());
+    LinkButtons buttons;
+    buttons.setActions({&action});
+    const QPushButton* const button = buttons.findChild<QPushButton*>();
+    const QFontMetrics metrics(button->font());
+    const QString text(50, 'i');
+    QPushButton bare(text);
+    bare.setFont(button->font());
+    bare.setAutoDefault(true);
+    const int widest = bare.sizeHint().width() - metrics.horizontalAdvance(text) + 17 * metrics.horizontalAdvance('m');
+    QVERIFY2(button->sizeHint().width() <= widest,
+             qPrintable(QString("%1 > %2").arg(button->sizeHint().width()).arg(widest)));
 }
 
 REGISTER_TEST(LinkButtonsTest)

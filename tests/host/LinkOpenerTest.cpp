@@ -14,6 +14,7 @@
 #include "CommonUtils.h"
 #include "LinkOpener.h"
 #include "MessageOnScreen.h"
+#include "OpenedLink.h"
 #include "ProcessLimits.h"
 #include "RecordingDesktop.h"
 #include "Test.h"
@@ -31,6 +32,9 @@ private Q_SLOTS:
     void handsFilesToTheDesktop();
     void startsPrograms_data();
     void startsPrograms();
+    void startsDesktopEntries();
+    void namesTheLink_data();
+    void namesTheLink();
     void tellsWhatCannotBeOpened_data();
     void tellsWhatCannotBeOpened();
     void tellsWhatTheDesktopCannotOpen();
@@ -65,6 +69,15 @@ QString LinkOpenerTest::make(const QString& kind) const
         QDir().mkpath(path);
     else if (kind == "a program")
         writeScript(path, "pwd >started.new\nmv started.new started\n");
+    else if (kind == "a failing program")
+        writeScript(path, "exit 7\n");
+    else if (kind == "a crashing program")
+        writeScript(path, "kill -SEGV $$\n");
+    else if (kind == "entry.desktop")
+        writeFile(path,
+                  "[Desktop Entry]\nType=Application\nName=x\nExec=touch " +
+                      QFile::encodeName(m_folder.filePath("started")) + '\n',
+                  QFile::Permissions(0x7755));
     else if (kind == "a broken program")
         writeFile(path, "#!/nonexistent/interpreter\n", QFile::Permissions(0x7755));
     else if (kind == "a locked file")
@@ -141,6 +154,42 @@ void LinkOpenerTest::startsPrograms()
     QVERIFY(!notice());
 }
 
+void LinkOpenerTest::startsDesktopEntries()
+{
+    // Executable, as one that the user trusts may be.
+    const QString path = make("entry.desktop"), record = m_folder.filePath("started");
+    QFile::remove(record);
+    const RecordingDesktop desktop;
+    const LinkOpener opener;
+    QVERIFY(QDesktopServices::openUrl(QUrl(path)));
+    QTRY_VERIFY(QFile::exists(record));
+    QTRY_VERIFY(!hasChildProcesses());
+    QCOMPARE(desktop.opened(), QStringList());
+    QVERIFY(!notice());
+}
+
+void LinkOpenerTest::namesTheLink_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char* kind : {"nothing", "a failing program", "a broken program"})
+        QTest::newRow(kind) << kind;
+}
+
+void LinkOpenerTest::namesTheLink()
+{
+    QFETCH(QString, kind);
+    const QString path = make(kind);
+    const LinkOpener opener;
+    {
+        // It is told later.
+        const OpenedLink link("My Link", 0);
+        QVERIFY(QDesktopServices::openUrl(QUrl(path)));
+    }
+    QTRY_VERIFY(notice());
+    QVERIFY2(notice()->text().endsWith("\n\nMy Link: " + path), qPrintable(notice()->text()));
+    QTRY_VERIFY(!hasChildProcesses());
+}
+
 void LinkOpenerTest::tellsWhatCannotBeOpened_data()
 {
     QTest::addColumn<QString>("kind");
@@ -151,6 +200,10 @@ void LinkOpenerTest::tellsWhatCannotBeOpened_data()
                             << "You are not allowed to open this:";
     QTest::newRow("broken") << "a broken program"
                             << "This program could not be started:";
+    QTest::newRow("failing") << "a failing program"
+                             << "This program ended at once, with the error code 7:";
+    QTest::newRow("crashing") << "a crashing program"
+                              << "This program crashed (signal 11, it used memory that it does not have):";
 }
 
 void LinkOpenerTest::tellsWhatCannotBeOpened()
@@ -166,7 +219,7 @@ void LinkOpenerTest::tellsWhatCannotBeOpened()
         QVERIFY(user.isBound());
         QVERIFY(QDesktopServices::openUrl(QUrl(path)));
     }
-    QVERIFY(notice());
+    QTRY_VERIFY(notice());
     QCOMPARE(notice()->text(), reason + "\n\n" + path);
     QCOMPARE(notice()->windowTitle(), "Not opened");
     QCOMPARE(desktop.opened(), QStringList());

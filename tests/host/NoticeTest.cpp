@@ -11,6 +11,7 @@
 #include <QTextEdit>
 
 #include "CommonUtils.h"
+#include "EditLinkButton.h"
 #include "MessageOnScreen.h"
 #include "Notice.h"
 #include "Test.h"
@@ -30,10 +31,16 @@ private Q_SLOTS:
     void isCopiedAsItCanBeOpened();
     void detailsAreCopiedAsTheyCanBeOpened();
     void leavesAloneWhatIsCopiedElsewhere();
+    void leadsToTheLink();
+    void offersNothingToEdit_data();
+    void offersNothingToEdit();
+    void goesAnotherWayFirst();
 };
 
 void NoticeTest::cleanup()
 {
+    setNoticeOutlet(nullptr);
+    EditLinkButton::setEditor(nullptr);
     while (QMessageBox* const box = notice())
         delete box;
 }
@@ -208,6 +215,64 @@ void NoticeTest::leavesAloneWhatIsCopiedElsewhere()
     field.show();
     QVERIFY(QTest::qWaitForWindowExposed(&field));
     QTRY_COMPARE(copiedFrom(&field), text);
+}
+
+void NoticeTest::leadsToTheLink()
+{
+    QStringList edited;
+    EditLinkButton::setEditor([&edited](const QString& link) { edited.append(link); });
+    showNotice("Title", "Gone:", "/a", "A");
+    const QPointer<QMessageBox> box = notice();
+    QVERIFY(box->text().endsWith("A: /a"));
+    EditLinkButton* const button = box->findChild<EditLinkButton*>();
+    QVERIFY(button);
+    QCOMPARE(button->text(), QString::fromUtf8("&Edit Link…"));
+    // Enter closes the notice.
+    QCOMPARE(box->defaultButton(), qobject_cast<QPushButton*>(box->button(QMessageBox::Ok)));
+    showNotice("Title", "Gone:", "/b", "B");
+    QCOMPARE(button->text(), QString::fromUtf8("&Edit Links…"));
+    QCOMPARE(int(box->findChildren<EditLinkButton*>().size()), 1);
+    QVERIFY(QTest::qWaitForWindowExposed(box));
+    clickThroughWindow(button);
+    QTRY_VERIFY(!box);
+    QCOMPARE(edited, QStringList("A"));
+}
+
+void NoticeTest::offersNothingToEdit_data()
+{
+    QTest::addColumn<bool>("hasEditor");
+    QTest::addColumn<QString>("link");
+    QTest::newRow("no link") << true << QString();
+    QTest::newRow("no settings") << false << "A";
+}
+
+void NoticeTest::offersNothingToEdit()
+{
+    QFETCH(bool, hasEditor);
+    QFETCH(QString, link);
+    if (hasEditor)
+        EditLinkButton::setEditor([](const QString&) {});
+    showNotice("Title", "Gone:", "/a", link);
+    QVERIFY(!notice()->findChild<EditLinkButton*>());
+}
+
+void NoticeTest::goesAnotherWayFirst()
+{
+    QStringList taken;
+    bool takes = true;
+    setNoticeOutlet([&](const QString& title, const QString& text, const QString& subject, const QString& link) {
+        taken << title << text << subject << link;
+        return takes;
+    });
+    showNotice("Title", "Gone:", "/a", "A");
+    QCOMPARE(taken, QString("Title Gone: /a A").split(' '));
+    QVERIFY(!notice());
+    takes = false;
+    showNotice("Title", "Gone:", "/b");
+    QCOMPARE(notice()->text(), "Gone:\n\n/b");
+    taken.clear();
+    showNoticeWindow("Title", "Gone:", "/c", QString());
+    QVERIFY(taken.isEmpty());
 }
 
 REGISTER_TEST(NoticeTest)

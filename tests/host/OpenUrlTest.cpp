@@ -10,6 +10,7 @@
 
 #include "CommonUtils.h"
 #include "MessageOnScreen.h"
+#include "OpenedLink.h"
 #include "RecordingTrace.h"
 #include "Test.h"
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void handsOn();
     void refuses_data();
     void refuses();
+    void namesTheLink();
     void tellsWhenNothingOpens();
     void showsTheAddressAsItStands();
     void cutsOffAVeryLongAddress();
@@ -83,26 +85,51 @@ void OpenUrlTest::handsOn()
 void OpenUrlTest::refuses_data()
 {
     QTest::addColumn<QString>("address");
-    QTest::newRow("script") << "javascript:alert(1)";
-    QTest::newRow("file") << "file:///etc/passwd";
-    QTest::newRow("mail") << "mailto:someone@example.com";
-    QTest::newRow("no host") << "http:///x";
-    QTest::newRow("empty") << QString();
+    QTest::addColumn<QString>("reason");
+    const QString other = "https";
+    QTest::newRow("script") << "javascript:alert(1)" << other;
+    QTest::newRow("file") << "file:///etc/passwd" << other;
+    QTest::newRow("mail") << "mailto:someone@example.com" << other;
+    QTest::newRow("no host") << "http:///x" << other;
+    QTest::newRow("empty") << QString() << "no address";
 }
 
 void OpenUrlTest::refuses()
 {
     QFETCH(QString, address);
+    QFETCH(QString, reason);
     CommonUtils::OpenUrl(address);
     QVERIFY(m_opened.isEmpty());
     const QPointer<QMessageBox> box = notice();
     QVERIFY(box);
     QVERIFY2(box->text().endsWith("\n\n" + address), qPrintable(box->text()));
-    QVERIFY(box->text().contains("https"));
+    QVERIFY(box->text().contains(reason));
     QVERIFY(!box->windowTitle().isEmpty());
     QCOMPARE(box->icon(), QMessageBox::Warning);
     clickButton(box, QMessageBox::Ok);
     QTRY_VERIFY(!box);
+}
+
+static QString addressOfLink(const QString&, int)
+{
+    return "  http://x ";
+}
+
+void OpenUrlTest::namesTheLink()
+{
+    OpenedLink::Known known;
+    known.addressOf = addressOfLink;
+    OpenedLink::setKnown(known);
+    {
+        const OpenedLink link("My Link", 0);
+        CommonUtils::OpenUrl("x:y");
+        QVERIFY2(notice()->text().endsWith("\n\nMy Link: x:y"), qPrintable(notice()->text()));
+        delete notice();
+        // What the quick links make of an address that they cannot read.
+        CommonUtils::OpenUrl(QString());
+    }
+    OpenedLink::setKnown(OpenedLink::Known());
+    QCOMPARE(notice()->text(), "There are blanks before or behind this address:\n\nMy Link:   http://x ");
 }
 
 void OpenUrlTest::tellsWhenNothingOpens()

@@ -8,6 +8,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include <algorithm>
+
+#include "FakeLinkPage.h"
 #include "FakePlugin.h"
 #include "FakeTranslator.h"
 #include "HistoryPage.h"
@@ -41,6 +44,8 @@ private Q_SLOTS:
     void staysForOneThatDoesNot();
     void showsNoPageOfAPluginWithout();
     void asksNothingOfAPluginThatIsGone();
+    void choosesALink();
+    void saysBesideTheLinksThatParametersAreNotHandedOver();
     void followsTheLanguage();
 
 private:
@@ -315,6 +320,60 @@ void SettingsDialogTest::asksNothingOfAPluginThatIsGone()
     press(QDialogButtonBox::Ok);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(takeEvents(), QStringList({"Mail hidden", "Mail OK"}));
+}
+
+/** Lets the second plug-in's page be that of the quick links, and goes back to the first one. */
+static FakeLinkPage* addLinks(SettingsDialog* dialog, QListWidget* list)
+{
+    list->setCurrentRow(1);
+    QWidget* const page = dialog->findChild<PageArea*>()->pageParent()->findChild<QWidget*>("Links");
+    FakeLinkPage* const links = new FakeLinkPage;
+    links->setParent(page);
+    links->setLinks("a b c", 0);
+    links->show();
+    list->setCurrentRow(0);
+    return links;
+}
+
+void SettingsDialogTest::choosesALink()
+{
+    open();
+    const FakeLinkPage* const links = addLinks(m_dialog.get(), list());
+    m_dialog->chooseLink("b");
+    QCOMPARE(shownPage(), "Links");
+    QCOMPARE(list()->currentRow(), 1);
+    QCOMPARE(links->table->currentRow(), 1);
+    // Not before it is on the screen.
+    m_dialog->hide();
+    m_dialog->chooseLink("c");
+    QCOMPARE(links->table->currentRow(), 1);
+    m_dialog->show();
+    QCOMPARE(links->table->currentRow(), 2);
+    m_dialog->chooseLink("b");
+    m_dialog->chooseLink("nobody");
+    QCOMPARE(shownPage(), "Links");
+    QCOMPARE(links->table->currentRow(), 1);
+}
+
+void SettingsDialogTest::saysBesideTheLinksThatParametersAreNotHandedOver()
+{
+    open();
+    addLinks(m_dialog.get(), list());
+    const auto isSaid = [this] {
+        const QList<QLabel*> labels = m_dialog->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->isVisible() && label->text().contains("without the parameters");
+        });
+    };
+    m_dialog->setParametersNote(true);
+    QVERIFY(!isSaid());
+    list()->setCurrentRow(1);
+    QVERIFY(isSaid());
+    list()->setCurrentRow(0);
+    QVERIFY(!isSaid());
+    list()->setCurrentRow(1);
+    m_dialog->setParametersNote(false);
+    QVERIFY(!isSaid());
 }
 
 void SettingsDialogTest::followsTheLanguage()

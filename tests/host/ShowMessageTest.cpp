@@ -4,13 +4,16 @@
 // The modal message: what it shows, and what it answers however it ends.
 
 #include <QLabel>
+#include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
 
 #include "CommonUtils.h"
+#include "EditLinkButton.h"
 #include "FakeTranslator.h"
 #include "MessageOnScreen.h"
+#include "OpenedLink.h"
 #include "Test.h"
 
 /** How the user, or somebody else, ends the message. */
@@ -38,6 +41,9 @@ private Q_SLOTS:
     void isReadableByAScreenReader();
     void hasAnOkButtonAtLeast();
     void hasATitleBarBesideTheFlagsAskedFor();
+    void saysWhyALinkIsRefused();
+    void leadsToTheRefusedLink();
+    void leavesOtherMessagesAlone();
 };
 
 static int show(QWidget* parent, const QString& first, const QString& second, const QString& third,
@@ -309,6 +315,95 @@ void ShowMessageTest::hasATitleBarBesideTheFlagsAskedFor()
     QVERIFY(flags & Qt::WindowTitleHint);
     QVERIFY(flags & Qt::WindowCloseButtonHint);
     QCOMPARE(flags & Qt::WindowType_Mask, Qt::WindowFlags(Qt::Dialog));
+}
+
+static const char* const refusal = "IDS_LINK_SETTING_INVALID_URL";
+
+static int refuse(QWidget* parent, const QString& text = refusal)
+{
+    return CommonUtils::ShowMessage(QMessageBox::Information, parent, "Quick Links", text, "OK", QString(), QString(),
+                                    false, Qt::WindowCloseButtonHint, nullptr, QString(), true);
+}
+
+static QString capitals(const QString&, int)
+{
+    return "HTTP://EXAMPLE.ORG";
+}
+
+/** The link with an address in capitals while it lives. */
+class RefusedLink
+{
+public:
+    RefusedLink()
+        : m_link("My Link", 0)
+    {
+        OpenedLink::Known known;
+        known.addressOf = capitals;
+        OpenedLink::setKnown(known);
+    }
+    ~RefusedLink()
+    {
+        OpenedLink::setKnown(OpenedLink::Known());
+        EditLinkButton::setEditor(EditLinkButton::Editor());
+    }
+
+private:
+    const OpenedLink m_link;
+};
+
+void ShowMessageTest::saysWhyALinkIsRefused()
+{
+    QMainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    // The page of settings that were open before.
+    QWidget page;
+    const RefusedLink link;
+    QString text;
+    QWidget* parent = nullptr;
+    whenMessageShows([&](QMessageBox* box) {
+        text = box->text();
+        parent = box->parentWidget();
+        box->close();
+    });
+    QCOMPARE(refuse(&page), int(QMessageBox::Ok));
+    QCOMPARE(text, "The beginning of this address must be written in small letters:\n\nMy Link: HTTP://EXAMPLE.ORG");
+    QCOMPARE(parent, static_cast<QWidget*>(&window));
+}
+
+void ShowMessageTest::leadsToTheRefusedLink()
+{
+    const RefusedLink link;
+    QStringList edited;
+    bool isMessageGone = false;
+    EditLinkButton::setEditor([&](const QString& name) {
+        edited.append(name);
+        isMessageGone = !QApplication::activeModalWidget();
+    });
+    whenMessageShows([](QMessageBox* box) { box->findChild<EditLinkButton*>()->click(); });
+    QCOMPARE(refuse(nullptr), int(QMessageBox::Ok));
+    QCOMPARE(edited, QStringList("My Link"));
+    QVERIFY(isMessageGone);
+    whenMessageShows([](QMessageBox* box) { box->button(QMessageBox::Ok)->click(); });
+    refuse(nullptr);
+    QCOMPARE(int(edited.size()), 1);
+}
+
+void ShowMessageTest::leavesOtherMessagesAlone()
+{
+    QString text;
+    const auto read = [&text](QMessageBox* box) {
+        text = box->text();
+        box->close();
+    };
+    // Nobody knows which link it is about.
+    whenMessageShows(read);
+    refuse(nullptr);
+    QCOMPARE(text, refusal);
+    const RefusedLink link;
+    whenMessageShows(read);
+    refuse(nullptr, "Something else");
+    QCOMPARE(text, "Something else");
 }
 
 REGISTER_TEST(ShowMessageTest)

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "LinkItems.h"
+
+/** The user's links by their names and addresses, as they stand in their file. */
+class LinkAddresses
+{
+public:
+    /** The links of a file with this content, see LinkItems. */
+    explicit LinkAddresses(const QByteArray& content = QByteArray());
+
+    /** The address of the link of this name, by preference of the one in this place, from 0 on; empty for none. */
+    QString addressOf(const QString& name, int place) const;
+
+    /**
+     * The name of the first link with this address, as it stands in the link or as it is opened: read as a URL,
+     * completed where it is an Internet address, and encoded. Empty for none.
+     */
+    QString nameOf(const QString& address) const;
+
+    /** Whether a link has parameters. Its program starts without them. */
+    bool haveParameters() const;
+
+private:
+    QList<LinkItems::Fields> m_links;
+};
