@@ -192,7 +192,7 @@ void Host::showConnection()
 
 void Host::windowClosed()
 {
-    if (Tray::isAvailable())
+    if (m_tray->isAvailable())
         m_tray->tellThatItKeepsRunning();
     else
         quit();

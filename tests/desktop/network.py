@@ -3,55 +3,16 @@
 
 """NetworkManager, ModemManager and logind as the program meets them on the system bus, played by dbusmock."""
 
-import os
-import signal
-import subprocess
-import sys
-
 import dbus
 
-from session import die_with_parent, end
-from waiting import wait_for
+from played_service import PlayedService
 
-MOCK = "org.freedesktop.DBus.Mock"
 MANAGER = "/org/freedesktop/NetworkManager"
 SETTINGS = "/org/freedesktop/NetworkManager/Settings"
 MODEM = "/org/freedesktop/ModemManager1/Modem/0"
 
 
-class _Service:
-    """A played service on the system bus of this environment, there when the constructor returns."""
-
-    def __init__(self, name, *arguments):
-        self.name = name
-        self._process = subprocess.Popen([sys.executable, "-m", "dbusmock", *arguments], stdin=subprocess.DEVNULL,
-                                         stdout=subprocess.DEVNULL, preexec_fn=die_with_parent)
-        self._bus = dbus.bus.BusConnection(os.environ["DBUS_SYSTEM_BUS_ADDRESS"])
-        wait_for(lambda: self._bus.name_has_owner(name), f"{name} on the bus")
-
-    def at(self, path, interface=MOCK):
-        return dbus.Interface(self._bus.get_object(self.name, path), interface)
-
-    def kill(self):
-        """Ends it in the midst of whatever it does."""
-        self._process.kill()
-        self._process.wait()
-        wait_for(lambda: not self._bus.name_has_owner(self.name), f"the end of {self.name}")
-
-    def stop(self):
-        """It keeps its name and says nothing more, until `go_on`."""
-        self._process.send_signal(signal.SIGSTOP)
-
-    def go_on(self):
-        self._process.send_signal(signal.SIGCONT)
-
-    def close(self):
-        self.go_on()
-        end(self._process)
-        self._bus.close()
-
-
-class NetworkManager(_Service):
+class NetworkManager(PlayedService):
     """NetworkManager with a modem, "wwan0", a cable, "eth0", and a telephone by Bluetooth, which are not connected."""
 
     FULL, LIMITED, PORTAL = 4, 3, 2
@@ -143,7 +104,7 @@ class NetworkManager(_Service):
         self._manager.SetConnectivity(dbus.UInt32(connectivity))
 
 
-class ModemManager(_Service):
+class ModemManager(PlayedService):
     """ModemManager with one modem, registered with an operator."""
 
     _interface = "org.freedesktop.ModemManager1.Modem.Modem3gpp"
@@ -158,7 +119,7 @@ class ModemManager(_Service):
         self.at(MODEM).UpdateProperties(self._interface, {"OperatorName": operator})
 
 
-class Logind(_Service):
+class Logind(PlayedService):
     """logind, which tells of sleep."""
 
     def __init__(self):
