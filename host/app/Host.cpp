@@ -48,6 +48,9 @@ Host::~Host()
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
     m_runningProgram.reset();
     m_tray.reset();
+    // One toolkit hides the window at the end, the other does not.
+    if (m_window && m_window->isVisible())
+        keepWindowPlace();
     endLinks();
     m_pluginMessages.reset();
     m_window.reset();
@@ -112,6 +115,8 @@ void Host::showWindow(ConnectionKind kind)
         setLanguage(chosen);
     });
     m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
+    // A place that is on no screen any more is moved to one.
+    m_window->restoreGeometry(UserSettings::windowPlace());
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     m_menuManager.rebuild();
@@ -144,6 +149,7 @@ void Host::connectWindow()
     QObject::connect(m_pluginMessages.get(), &PluginMessages::decided, window,
                      [this](bool isLoadedAgain) { decideAboutLeftOut(isLoadedAgain); });
     QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
+    QObject::connect(window, &MainWindow::hidden, window, [this] { keepWindowPlace(); });
     QObject::connect(window, &MainWindow::quitRequested, window, [this] { quit(); });
     QObject::connect(m_tray.get(), &Tray::quitRequested, window, [this] { quit(); });
     QObject::connect(&m_monitor, &ConnectionMonitor::changed, window, [this] { showConnection(); });
@@ -196,6 +202,11 @@ void Host::windowClosed()
         m_tray->tellThatItKeepsRunning();
     else
         quit();
+}
+
+void Host::keepWindowPlace()
+{
+    UserSettings::setWindowPlace(m_window->saveGeometry());
 }
 
 void Host::quit()

@@ -76,6 +76,7 @@ private:
     void announce();
     void showConnection();
     void windowClosed();
+    void keepWindowPlace();
     void quit();
     void showSettings();
     void showRefusals();

@@ -101,6 +101,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
     Q_EMIT closed();
 }
 
+void MainWindow::hideEvent(QHideEvent* event)
+{
+    QMainWindow::hideEvent(event);
+    if (!event->spontaneous())
+        Q_EMIT hidden();
+}
+
 void MainWindow::appear()
 {
     if (m_hasAppeared)

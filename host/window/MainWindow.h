@@ -65,10 +65,14 @@ Q_SIGNALS:
     /** The user closed the window, which is now hidden. */
     void closed();
 
+    /** The window is hidden, by whomever; a minimised one is not. */
+    void hidden();
+
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildMenus(QMenu* languageMenu);
