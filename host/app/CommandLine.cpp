@@ -5,6 +5,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QHash>
 
@@ -26,10 +27,12 @@ public:
                      tr("Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a "
                         "default route) or manual (you press a button)."),
                      QStringLiteral("KIND"))
+        , hidden(QStringLiteral("hidden"),
+                 tr("Wait in the tray without a window; where there is no tray, the window shows."))
         , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no graphical session."))
     {
         parser.setApplicationDescription(tr("Connection manager with quick links."));
-        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, listLinks});
+        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks});
     }
 
     /** What is wrong with the arguments; empty when nothing is. */
@@ -65,7 +68,7 @@ public:
         return parser.isSet(listLinks) ? CommandLine::ListLinks : CommandLine::ShowWindow;
     }
 
-    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, listLinks;
+    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks;
     QCommandLineParser parser;
 };
 } // namespace
@@ -92,7 +95,24 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.pluginFolder = options.parser.value(options.pluginFolder);
     line.language = options.parser.value(options.language);
     line.connection = Options::kinds().value(options.parser.value(options.connection), ConnectionKind::Mobile);
+    line.isHidden = options.parser.isSet(options.hidden);
     return line;
+}
+
+QStringList CommandLine::againHidden() const
+{
+    const Options options;
+    QStringList arguments;
+    const auto add = [&arguments](const QCommandLineOption& option, const QString& value) {
+        if (!value.isEmpty())
+            arguments << QStringLiteral("--") + option.names().constFirst() << value;
+    };
+    add(options.dataFolder, dataFolder.isEmpty() ? QString() : QDir().absoluteFilePath(dataFolder));
+    add(options.pluginFolder, pluginFolder.isEmpty() ? QString() : QDir().absoluteFilePath(pluginFolder));
+    add(options.language, language);
+    if (connection != ConnectionKind::Mobile)
+        add(options.connection, Options::kinds().key(connection));
+    return arguments << QStringLiteral("--") + options.hidden.names().constFirst();
 }
 
 QString CommandLine::helpText()

@@ -18,6 +18,10 @@ struct CommandLine {
     QString pluginFolder; ///< empty for the installed one
     QString language;     ///< empty for the one chosen in the program, or else the system's
     ConnectionKind connection = ConnectionKind::Mobile;
+    bool isHidden = false; ///< the window waits in the tray
+
+    /** What asks for the same again, and for a window that waits in the tray. Paths are absolute. */
+    QStringList againHidden() const;
 
     /** What main() was given, the program's name first; the application object takes out what it knows. */
     static QStringList arguments(int argc, char** argv);

@@ -6,10 +6,12 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include "Autostart.h"
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
 #include "FirstStart.h"
+#include "GeneralPage.h"
 #include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
@@ -103,7 +105,12 @@ const PluginContainer& Host::container() const
     return m_container;
 }
 
-void Host::showWindow(ConnectionKind kind)
+void Host::setSessionArguments(const QStringList& arguments)
+{
+    m_sessionArguments = arguments;
+}
+
+void Host::showWindow(ConnectionKind kind, bool isHidden)
 {
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -122,7 +129,10 @@ void Host::showWindow(ConnectionKind kind)
     m_menuManager.rebuild();
     // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
-    m_window->show();
+    if (isHidden)
+        m_window->stayHidden();
+    else
+        m_window->show();
 }
 
 void Host::connectWindow()
@@ -223,7 +233,13 @@ void Host::showSettings()
     HistoryPage* const history = new HistoryPage(guard.history());
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
-    dialog.setHistory(history);
+    dialog.addPage(history);
+    GeneralPage* const general = new GeneralPage(Autostart::isOn());
+    QObject::connect(general, &GeneralPage::startWithSessionChosen, general, [this, general](bool isOn) {
+        const bool isDone = isOn ? Autostart::turnOn(m_sessionArguments) : Autostart::turnOff();
+        general->setStartsWithSession(Autostart::isOn(), isDone ? QString() : Autostart::file());
+    });
+    dialog.addPage(general);
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);

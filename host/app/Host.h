@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -57,11 +58,15 @@ public:
     /** The container with the loaded plug-ins. */
     const PluginContainer& container() const;
 
+    /** What the program is to be started with together with the session, when the user chooses that. */
+    void setSessionArguments(const QStringList& arguments);
+
     /**
      * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
-     * plug-ins are told of the start when the window is on the screen.
+     * plug-ins are told of the start when the window is on the screen, or at once where it is hidden: it then waits in
+     * the tray, and shows where there is none.
      */
-    void showWindow(ConnectionKind kind);
+    void showWindow(ConnectionKind kind, bool isHidden = false);
 
     /** The end of looking after the links. False where they are kept, but could not be put in place. */
     bool endLinks();
@@ -92,6 +97,7 @@ private:
     MenuManager m_menuManager;
     LinkKeeper m_linkKeeper;
     LinkOpener m_linkOpener;
+    QStringList m_sessionArguments;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

@@ -89,7 +89,7 @@ int main(int argc, char** argv)
     FolderLock lock(UserFolder::path());
     const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
     if (showsWindow && lock.take() == FolderLock::Busy)
-        return handOver(lock.owner());
+        return commandLine.isHidden ? 0 : handOver(lock.owner());
     if (showsWindow)
         FolderPrivacy::keepOthersOut(UserFolder::path());
 
@@ -99,7 +99,8 @@ int main(int argc, char** argv)
     host.loadPlugins(commandLine.pluginFolder);
     if (commandLine.action == CommandLine::ListLinks)
         return print(linkTable(host.container().all<IQuickLinkPlugin>()));
-    host.showWindow(commandLine.connection);
+    host.setSessionArguments(commandLine.againHidden());
+    host.showWindow(commandLine.connection, commandLine.isHidden);
     const int result = QApplication::exec();
     if (!host.endLinks())
         lock.leaveBehind();

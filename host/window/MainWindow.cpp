@@ -58,6 +58,11 @@ void MainWindow::setLinks(const QList<QAction*>& actions)
     m_linkButtons->setActions(actions);
 }
 
+void MainWindow::stayHidden()
+{
+    appear();
+}
+
 QMenu& MainWindow::linkMenu()
 {
     return *m_linkMenu;

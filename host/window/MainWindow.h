@@ -22,6 +22,9 @@ public:
     /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
     MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
 
+    /** In place of show(): appeared() comes all the same. */
+    void stayHidden();
+
     /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
     void setLinks(const QList<QAction*>& actions);
 
@@ -44,7 +47,7 @@ public:
     void setPermanentStatus(const QString& text);
 
 Q_SIGNALS:
-    /** The window was painted for the first time, or was minimised before it was. */
+    /** The window was painted for the first time, or will not be for now: it was minimised before, or stays hidden. */
     void appeared();
 
     /** The user wants to see the settings. */

@@ -8,9 +8,9 @@
 
 #include "SettingsPage.h"
 
-class HistoryPage;
 class OfferLine;
 class PageArea;
+class ProgramPage;
 class QLabel;
 class QListWidget;
 
@@ -24,8 +24,8 @@ public:
     /** Offers the pages of plugins, which must stay loaded while the dialog is open. parent may be null. */
     SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent);
 
-    /** Offers page, which becomes the dialog's, below those of the plug-ins. */
-    void setHistory(HistoryPage* page);
+    /** Offers page, which becomes the dialog's, below those of the plug-ins and those that were added before. */
+    void addPage(ProgramPage* page);
 
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
@@ -55,10 +55,11 @@ private:
     void setTexts();
     void showPage(int index);
     QWidget* shown();
+    ProgramPage* ownPage(int row) const;
     void growToPage();
 
     QList<SettingsPage> m_pages;
-    HistoryPage* m_history = nullptr;
+    QList<ProgramPage*> m_ownPages; ///< below those of the plug-ins
     int m_shown = -1;     ///< index of the page in the area
     int m_shownLast = -1; ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;

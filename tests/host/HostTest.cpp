@@ -39,6 +39,7 @@ private Q_SLOTS:
     void showsLinksInTheMenu();
     void tellsTheStartOnceAndAfterTheFirstPaint();
     void tellsTheStartOfAWindowThatIsPutAway();
+    void tellsTheStartOfAHiddenWindow();
     void keepsTheWindowsPlace_data();
     void keepsTheWindowsPlace();
     void bringsTheWindowBackOntoTheScreen_data();
@@ -207,6 +208,19 @@ void HostTest::tellsTheStartOfAWindowThatIsPutAway()
     window()->showNormal();
     window()->repaint();
     QTRY_VERIFY(recordedEvents().contains("painted"));
+    QCoreApplication::processEvents();
+    QCOMPARE(int(takeEvents().count(told)), 1);
+}
+
+void HostTest::tellsTheStartOfAHiddenWindow()
+{
+    const QString told = "FakeFirst Notify 258 0 0";
+    m_host->showWindow(ConnectionKind::Manual, true);
+    QTRY_VERIFY(recordedEvents().contains(told));
+    QVERIFY(window()->isHidden());
+    window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    window()->repaint();
     QCoreApplication::processEvents();
     QCOMPARE(int(takeEvents().count(told)), 1);
 }
