@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 
 namespace
@@ -46,6 +47,8 @@ public:
             if (parser.isSet(option) && parser.value(option).isEmpty())
                 return tr("Empty value after \"--%1\".").arg(option.names().constFirst());
         }
+        if (parser.isSet(pluginFolder) && !QFileInfo(parser.value(pluginFolder)).isDir())
+            return tr("There is no folder \"%1\".").arg(parser.value(pluginFolder));
         if (parser.isSet(connection) && !kinds().contains(parser.value(connection)))
             return tr("No such kind of connection: \"%1\".").arg(parser.value(connection));
         return QString();
@@ -118,6 +121,11 @@ QStringList CommandLine::againHidden() const
 QString CommandLine::helpText()
 {
     return Options().parser.helpText();
+}
+
+QString CommandLine::runningAlready(qint64 process, const QString& folder)
+{
+    return Options::tr("It is running already, as process %1, with the folder %2.").arg(process).arg(folder);
 }
 
 QString CommandLine::versionText()

@@ -35,6 +35,9 @@ struct CommandLine {
     /** The answer to --help, in the language of the installed translations. Needs the application object. */
     static QString helpText();
 
+    /** What is said where the program runs already with this folder, as the process with this number. */
+    static QString runningAlready(qint64 process, const QString& folder);
+
     /** The answer to --version. */
     static QString versionText();
 };

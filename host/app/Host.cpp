@@ -29,6 +29,12 @@
 #include "UserFolder.h"
 #include "UserSettings.h"
 
+/** The one that was asked for, or else that of the installation. */
+static QString folderOfPlugins(const QString& asked)
+{
+    return asked.isEmpty() ? Places::pluginFolder() : asked;
+}
+
 Host::Host(Translator& translator)
     : m_translator(translator)
     , m_dialupService(m_monitor)
@@ -74,20 +80,31 @@ void Host::guardLinks(bool wasInterrupted)
 
 void Host::loadPlugins(const QString& folder)
 {
-    const QString pluginFolder = folder.isEmpty() ? Places::pluginFolder() : folder;
+    const QString pluginFolder = folderOfPlugins(folder);
     const QString userFolder = UserFolder::path();
     // Later the links are the user's, who may have removed them on purpose.
     const bool isFirstStart = !m_linkKeeper.guard().history().exists();
     if (isFirstStart && !FirstStart::copyDefaults(Places::defaultsFolder(), userFolder))
         m_linkKeeper.repeatFirstStart();
     FirstStart::makePluginFolders(pluginFolder, userFolder);
-    // Its reader would wait for ever.
-    if (!m_linkKeeper.guard().isSafeToRead()) {
-        qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
-        return;
-    }
     m_gatekeeper.open(userFolder, pluginFolder);
-    m_container.loadFolder(pluginFolder);
+    loadFolder(pluginFolder);
+}
+
+void Host::lookAtPlugins(const QString& folder)
+{
+    const QString pluginFolder = folderOfPlugins(folder);
+    m_gatekeeper.look(UserFolder::path(), pluginFolder);
+    loadFolder(pluginFolder);
+}
+
+void Host::loadFolder(const QString& pluginFolder)
+{
+    // Its reader would wait for ever.
+    if (m_linkKeeper.guard().isSafeToRead())
+        m_container.loadFolder(pluginFolder);
+    else
+        qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
 }
 
 bool Host::endLinks()

@@ -55,6 +55,9 @@ public:
      */
     void loadPlugins(const QString& folder);
 
+    /** Loads them for a program that only looks: nothing is made or written in the user's folder. */
+    void lookAtPlugins(const QString& folder);
+
     /** The container with the loaded plug-ins. */
     const PluginContainer& container() const;
 
@@ -77,6 +80,7 @@ public:
 private:
     void registerComponent(const HostContract::Component& identity, QObject* component);
     void takeOverLinks();
+    void loadFolder(const QString& pluginFolder);
     void connectWindow();
     void announce();
     void showConnection();

@@ -21,7 +21,7 @@
 
 namespace
 {
-const int isRunningAlready = 1;
+const int cannotStart = 1; // here and now
 const int wrongUsage = 2;
 
 int print(const QString& text)
@@ -30,10 +30,10 @@ int print(const QString& text)
     return 0;
 }
 
-int refuse(const QString& error)
+int refuse(const QString& error, int code)
 {
     std::fprintf(stderr, "vellumconnect: %s\n", error.toLocal8Bit().constData());
-    return wrongUsage;
+    return code;
 }
 
 /** The program that runs already comes to the front, or at least this one says so. */
@@ -41,9 +41,7 @@ int handOver(qint64 owner)
 {
     if (RunningProgram::handOver(UserFolder::path()))
         return 0;
-    std::fprintf(stderr, "vellumconnect: it is running already, as process %lld, with the folder %s\n",
-                 static_cast<long long>(owner), qUtf8Printable(UserFolder::path()));
-    return isRunningAlready;
+    return refuse(CommandLine::runningAlready(owner, UserFolder::path()), cannotStart);
 }
 
 void describeApplication()
@@ -65,7 +63,8 @@ int main(int argc, char** argv)
     std::setlocale(LC_ALL, "");
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
-    if (commandLine.action != CommandLine::ShowWindow)
+    const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
+    if (!showsWindow)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     // What is wrong with the arguments is told in one line. The trace of the plug-ins is for developers:
@@ -80,25 +79,25 @@ int main(int argc, char** argv)
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
     if (isRefused)
-        return refuse(CommandLine::parse(arguments).error);
+        return refuse(CommandLine::parse(arguments).error, wrongUsage);
     if (commandLine.action == CommandLine::ShowHelp)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
 
     FolderLock lock(UserFolder::path());
-    const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
     if (showsWindow && lock.take() == FolderLock::Busy)
         return commandLine.isHidden ? 0 : handOver(lock.owner());
     if (showsWindow)
         FolderPrivacy::keepOthersOut(UserFolder::path());
 
     Host host(translator);
-    if (showsWindow)
-        host.guardLinks(lock.wasLeftBehind());
-    host.loadPlugins(commandLine.pluginFolder);
-    if (commandLine.action == CommandLine::ListLinks)
+    if (!showsWindow) {
+        host.lookAtPlugins(commandLine.pluginFolder);
         return print(linkTable(host.container().all<IQuickLinkPlugin>()));
+    }
+    host.guardLinks(lock.wasLeftBehind());
+    host.loadPlugins(commandLine.pluginFolder);
     host.setSessionArguments(commandLine.againHidden());
     host.showWindow(commandLine.connection, commandLine.isHidden);
     const int result = QApplication::exec();

@@ -64,9 +64,9 @@ void CommandLineTest::readsTheAction()
 
 void CommandLineTest::readsValues()
 {
-    const CommandLine line = parsed({"--data-dir", "my data", "--plugin-dir=/p", "--language", "pt_BR"});
+    const CommandLine line = parsed({"--data-dir", "my data", "--plugin-dir=/tmp", "--language", "pt_BR"});
     QCOMPARE(line.dataFolder, "my data");
-    QCOMPARE(line.pluginFolder, "/p");
+    QCOMPARE(line.pluginFolder, "/tmp");
     QCOMPARE(line.language, "pt_BR");
     QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
 }
@@ -139,6 +139,8 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::newRow("no value") << QStringList{"--language"} << "--language";
     QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
     QTest::newRow("empty kind") << QStringList{"--connection="} << "\"--connection\"";
+    QTest::newRow("no such folder of plug-ins") << QStringList{"--plugin-dir=/not/there"} << "\"/not/there\"";
+    QTest::newRow("no folder of plug-ins") << QStringList{"--plugin-dir=/dev/null"} << "\"/dev/null\"";
     QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";
     QTest::newRow("value too much") << QStringList{"--list-links=1"} << "--list-links";
     QTest::newRow("error beside help") << QStringList{"--help", "--sing"} << "sing";
