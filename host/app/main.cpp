@@ -9,6 +9,7 @@
 
 #include "CommandLine.h"
 #include "ConnectionIcon.h"
+#include "Display.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -64,8 +65,12 @@ int main(int argc, char** argv)
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
     const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
-    if (!showsWindow)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Display display;
+    if (showsWindow)
+        display = Display::choose(QProcessEnvironment::systemEnvironment(), QCoreApplication::libraryPaths());
+    const bool isOnScreen = showsWindow && display.problem == Display::None;
+    if (!isOnScreen || !display.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", isOnScreen ? display.platform : QByteArrayLiteral("offscreen"));
 
     // What is wrong with the arguments is told in one line. The trace of the plug-ins is for developers:
     // QT_LOGGING_RULES="default.debug=true" turns it on.
@@ -74,6 +79,9 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
+    // What links start chooses by itself.
+    if (!display.platform.isEmpty())
+        qunsetenv("QT_QPA_PLATFORM");
     QApplication::setWindowIcon(connectionIcon(true));
     UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
@@ -84,6 +92,8 @@ int main(int argc, char** argv)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
+    if (display.problem != Display::None)
+        return refuse(display.error(), cannotStart);
 
     FolderLock lock(UserFolder::path());
     if (showsWindow && lock.take() == FolderLock::Busy)
