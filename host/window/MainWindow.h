@@ -11,9 +11,13 @@ class LinkButtons;
 class OfferLine;
 class QAction;
 class QLabel;
+class QLineEdit;
 class QMenu;
 
-/** The window: the state of the connection, the quick links as buttons below it, and the menus. */
+/**
+ * The window: the state of the connection, the quick links as buttons below it, and the menus. Where there are many
+ * links, a field finds those whose names have what the user types in the window.
+ */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -21,6 +25,9 @@ class MainWindow : public QMainWindow
 public:
     /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
     MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
+
+    /** Puts the window where saveGeometry() found it, and wholly onto a screen. Nothing for an empty place. */
+    void restorePlace(const QByteArray& place);
 
     /** In place of show(): appeared() comes all the same. */
     void stayHidden();
@@ -74,6 +81,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -82,9 +90,11 @@ private:
     void setTexts();
     void appear();
     void showAbout();
+    void find();
 
     LinkButtons* m_linkButtons = nullptr;
     QLabel* m_linkHeading = nullptr;
+    QLineEdit* m_filter = nullptr;
     OfferLine* m_offerLine = nullptr;
     QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
@@ -98,6 +108,7 @@ private:
     QAction* m_quit = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
+    QAction* m_find = nullptr;
     QAction* m_settings = nullptr;
     QAction* m_leftOutPlugins = nullptr;
     QAction* m_showStatusBar = nullptr;
