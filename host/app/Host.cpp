@@ -139,8 +139,7 @@ void Host::showWindow(ConnectionKind kind, bool isHidden)
         setLanguage(chosen);
     });
     m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
-    // A place that is on no screen any more is moved to one.
-    m_window->restoreGeometry(UserSettings::windowPlace());
+    m_window->restorePlace(UserSettings::windowPlace());
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     m_menuManager.rebuild();

@@ -60,8 +60,8 @@ private:
 
     QList<SettingsPage> m_pages;
     QList<ProgramPage*> m_ownPages; ///< below those of the plug-ins
-    int m_shown = -1;     ///< index of the page in the area
-    int m_shownLast = -1; ///< index of the page that was in the area before
+    int m_shown = -1;               ///< index of the page in the area
+    int m_shownLast = -1;           ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
     OfferLine* m_offerLine = nullptr;

@@ -23,7 +23,8 @@ class Tray : public QObject
     Q_OBJECT
 
 public:
-    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. Appears as soon as there is one. */
+    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. Appears as soon as there is one.
+     */
     Tray(QWidget& window, QMenu& linkMenu);
 
     /** Whether the desktop has a tray now. */

@@ -160,9 +160,8 @@ void CommandLineTest::refusesInOneLine()
 void CommandLineTest::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
-    for (const char* option :
-         {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--hidden",
-          "--list-links"})
+    for (const char* option : {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection",
+                               "--hidden", "--list-links"})
         QTest::newRow(option) << option;
 }
 

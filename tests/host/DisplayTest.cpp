@@ -9,6 +9,7 @@
 #include "Display.h"
 #include "Test.h"
 
+using Variable = std::pair<QString, QString>;
 using Environment = QMap<QString, QString>;
 Q_DECLARE_METATYPE(Environment)
 
@@ -39,15 +40,14 @@ void DisplayTest::chooses_data()
     QTest::addColumn<bool>("isInstalled");
     QTest::addColumn<int>("problem");
     QTest::addColumn<QByteArray>("platform");
-    const QPair<QString, QString> x("DISPLAY", ":0"), wayland("WAYLAND_DISPLAY", "wayland-0"),
-        session("XDG_SESSION_TYPE", "wayland");
+    const Variable x("DISPLAY", ":0"), wayland("WAYLAND_DISPLAY", "wayland-0"), session("XDG_SESSION_TYPE", "wayland");
     const auto asked = [](const char* platform) {
-        return QPair<QString, QString>("QT_QPA_PLATFORM", platform);
+        return Variable("QT_QPA_PLATFORM", platform);
     };
     const QByteArray own;
     QTest::newRow("X") << Environment{x} << false << int(Display::None) << own;
-    QTest::newRow("X of another session") << Environment{x, {"XDG_SESSION_TYPE", "tty"}} << false << int(Display::None)
-                                          << own;
+    QTest::newRow("X of another session")
+        << Environment{x, {"XDG_SESSION_TYPE", "tty"}} << false << int(Display::None) << own;
     QTest::newRow("both") << Environment{x, wayland} << true << int(Display::None) << own;
     QTest::newRow("both, part missing") << Environment{x, wayland} << false << int(Display::None) << QByteArray("xcb");
     QTest::newRow("Wayland") << Environment{wayland} << true << int(Display::None) << QByteArray("wayland");
@@ -112,6 +112,7 @@ void DisplayTest::programSaysWhatIsMissing()
     const QTemporaryDir home;
     QProcessEnvironment environment;
     environment.insert("HOME", home.path());
+    environment.insert("XDG_RUNTIME_DIR", home.path());
     environment.insert("LC_ALL", "C.UTF-8");
     environment.insert(name, value);
     QProcess program;

@@ -236,7 +236,7 @@ void HostTest::keepsTheWindowsPlace()
 {
     QFETCH(bool, isHidden);
     showWindow();
-    const QRect place(window()->x() + 31, window()->y() + 17, window()->minimumWidth() + 40, 400);
+    const QRect place(window()->x() + 31, window()->y() + 47, window()->minimumWidth() + 40, 400);
     window()->setGeometry(place);
     QTRY_COMPARE(window()->geometry(), place);
     if (isHidden)
@@ -257,6 +257,10 @@ void HostTest::bringsTheWindowBackOntoTheScreen_data()
     QTest::newRow("left") << QPoint(-20000, 100);
     QTest::newRow("below") << QPoint(100, 20000);
     QTest::newRow("above") << QPoint(100, -20000);
+    QTest::newRow("half of it right") << QPoint(500, 100);
+    QTest::newRow("half of it below") << QPoint(100, 600);
+    QTest::newRow("half of it left") << QPoint(-300, 100);
+    QTest::newRow("most of it above") << QPoint(100, -390);
 }
 
 void HostTest::bringsTheWindowBackOntoTheScreen()
