@@ -9,7 +9,7 @@
 
 #include "CommandLine.h"
 #include "ConnectionIcon.h"
-#include "Display.h"
+#include "DisplayChoice.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -65,10 +65,10 @@ int main(int argc, char** argv)
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
     const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
-    Display display;
+    DisplayChoice display;
     if (showsWindow)
-        display = Display::choose(QProcessEnvironment::systemEnvironment(), QCoreApplication::libraryPaths());
-    const bool isOnScreen = showsWindow && display.problem == Display::None;
+        display = DisplayChoice::choose(QProcessEnvironment::systemEnvironment(), QCoreApplication::libraryPaths());
+    const bool isOnScreen = showsWindow && display.problem == DisplayChoice::None;
     if (!isOnScreen || !display.platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", isOnScreen ? display.platform : QByteArrayLiteral("offscreen"));
 
@@ -92,7 +92,7 @@ int main(int argc, char** argv)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
-    if (display.problem != Display::None)
+    if (display.problem != DisplayChoice::None)
         return refuse(display.error(), cannotStart);
 
     FolderLock lock(UserFolder::path());

@@ -199,7 +199,7 @@
     </message>
 </context>
 <context>
-    <name>Display</name>
+    <name>DisplayChoice</name>
     <message>
         <source>On Wayland the package %1 is needed, which is not installed.</source>
         <translation>No Wayland é necessário o pacote %1, que não está instalado.</translation>

@@ -146,7 +146,7 @@ void SettingsDialog::setTexts()
 
 void SettingsDialog::showPage(int index)
 {
-    for (ProgramPage* page : m_ownPages)
+    for (ProgramPage* page : qAsConst(m_ownPages))
         page->hide();
     if (m_shown >= 0 && m_shown < m_pages.size())
         m_pages.at(m_shown).hide();

@@ -11,7 +11,7 @@
  * The display on which the window will be, looked at before the toolkit does: that one ends the program where it has
  * none, and looks for X on a Wayland desktop without X.
  */
-struct Display {
+struct DisplayChoice {
     enum Problem {
         None,
         Missing,   ///< there is no graphical session
@@ -22,7 +22,7 @@ struct Display {
     QByteArray platform; ///< the toolkit's name for the display that can be used; empty where its own choice is right
 
     /** Chooses by the environment of the program. The toolkit's parts lie in pluginFolders. */
-    static Display choose(const QProcessEnvironment& environment, const QStringList& pluginFolders);
+    static DisplayChoice choose(const QProcessEnvironment& environment, const QStringList& pluginFolders);
 
     /** One line that says what is wrong, in the language of the installed translations. */
     QString error() const;

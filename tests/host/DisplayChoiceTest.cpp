@@ -6,14 +6,14 @@
 #include <QDir>
 #include <QProcess>
 
-#include "Display.h"
+#include "DisplayChoice.h"
 #include "Test.h"
 
 using Variable = std::pair<QString, QString>;
 using Environment = QMap<QString, QString>;
 Q_DECLARE_METATYPE(Environment)
 
-class DisplayTest : public QObject
+class DisplayChoiceTest : public QObject
 {
     Q_OBJECT
 
@@ -28,13 +28,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_plugins; ///< of the toolkit
 };
 
-void DisplayTest::init()
+void DisplayChoiceTest::init()
 {
     m_plugins = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir(m_plugins->path()).mkpath("platforms"));
 }
 
-void DisplayTest::chooses_data()
+void DisplayChoiceTest::chooses_data()
 {
     QTest::addColumn<Environment>("environment");
     QTest::addColumn<bool>("isInstalled");
@@ -45,30 +45,31 @@ void DisplayTest::chooses_data()
         return Variable("QT_QPA_PLATFORM", platform);
     };
     const QByteArray own;
-    QTest::newRow("X") << Environment{x} << false << int(Display::None) << own;
+    QTest::newRow("X") << Environment{x} << false << int(DisplayChoice::None) << own;
     QTest::newRow("X of another session")
-        << Environment{x, {"XDG_SESSION_TYPE", "tty"}} << false << int(Display::None) << own;
-    QTest::newRow("both") << Environment{x, wayland} << true << int(Display::None) << own;
-    QTest::newRow("both, part missing") << Environment{x, wayland} << false << int(Display::None) << QByteArray("xcb");
-    QTest::newRow("Wayland") << Environment{wayland} << true << int(Display::None) << QByteArray("wayland");
+        << Environment{x, {"XDG_SESSION_TYPE", "tty"}} << false << int(DisplayChoice::None) << own;
+    QTest::newRow("both") << Environment{x, wayland} << true << int(DisplayChoice::None) << own;
+    QTest::newRow("both, part missing") << Environment{x, wayland} << false << int(DisplayChoice::None)
+                                        << QByteArray("xcb");
+    QTest::newRow("Wayland") << Environment{wayland} << true << int(DisplayChoice::None) << QByteArray("wayland");
     QTest::newRow("Wayland by its usual name")
-        << Environment{session} << true << int(Display::None) << QByteArray("wayland");
-    QTest::newRow("Wayland, part missing") << Environment{wayland} << false << int(Display::NoWayland) << own;
+        << Environment{session} << true << int(DisplayChoice::None) << QByteArray("wayland");
+    QTest::newRow("Wayland, part missing") << Environment{wayland} << false << int(DisplayChoice::NoWayland) << own;
     QTest::newRow("Wayland by its usual name, part missing")
-        << Environment{session} << false << int(Display::NoWayland) << own;
-    QTest::newRow("nothing") << Environment{} << true << int(Display::Missing) << own;
+        << Environment{session} << false << int(DisplayChoice::NoWayland) << own;
+    QTest::newRow("nothing") << Environment{} << true << int(DisplayChoice::Missing) << own;
     QTest::newRow("empty names") << Environment{{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}} << true
-                                 << int(Display::Missing) << own;
-    QTest::newRow("asked for X") << Environment{asked("xcb"), wayland} << false << int(Display::None) << own;
-    QTest::newRow("asked for none") << Environment{asked("offscreen")} << false << int(Display::None) << own;
-    QTest::newRow("asked for Wayland") << Environment{asked("wayland")} << true << int(Display::None) << own;
+                                 << int(DisplayChoice::Missing) << own;
+    QTest::newRow("asked for X") << Environment{asked("xcb"), wayland} << false << int(DisplayChoice::None) << own;
+    QTest::newRow("asked for none") << Environment{asked("offscreen")} << false << int(DisplayChoice::None) << own;
+    QTest::newRow("asked for Wayland") << Environment{asked("wayland")} << true << int(DisplayChoice::None) << own;
     QTest::newRow("asked for Wayland, part missing")
-        << Environment{asked("wayland-egl;wayland"), x} << false << int(Display::NoWayland) << own;
+        << Environment{asked("wayland-egl;wayland"), x} << false << int(DisplayChoice::NoWayland) << own;
     QTest::newRow("asked for either, part missing")
-        << Environment{asked("wayland;xcb"), x} << false << int(Display::None) << own;
+        << Environment{asked("wayland;xcb"), x} << false << int(DisplayChoice::None) << own;
 }
 
-void DisplayTest::chooses()
+void DisplayChoiceTest::chooses()
 {
     QFETCH(Environment, environment);
     QFETCH(bool, isInstalled);
@@ -78,12 +79,12 @@ void DisplayTest::chooses()
     QProcessEnvironment given;
     for (auto entry = environment.cbegin(); entry != environment.cend(); ++entry)
         given.insert(entry.key(), entry.value());
-    const Display display = Display::choose(given, {"/not/there", m_plugins->path()});
+    const DisplayChoice display = DisplayChoice::choose(given, {"/not/there", m_plugins->path()});
     QTEST(int(display.problem), "problem");
     QTEST(display.platform, "platform");
 }
 
-void DisplayTest::programSaysWhatIsMissing_data()
+void DisplayChoiceTest::programSaysWhatIsMissing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");
@@ -104,7 +105,7 @@ void DisplayTest::programSaysWhatIsMissing_data()
                                        << "wayland" << error;
 }
 
-void DisplayTest::programSaysWhatIsMissing()
+void DisplayChoiceTest::programSaysWhatIsMissing()
 {
     QFETCH(QString, name);
     QFETCH(QString, value);
@@ -125,5 +126,5 @@ void DisplayTest::programSaysWhatIsMissing()
     QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
 }
 
-REGISTER_TEST(DisplayTest)
-#include "DisplayTest.moc"
+REGISTER_TEST(DisplayChoiceTest)
+#include "DisplayChoiceTest.moc"

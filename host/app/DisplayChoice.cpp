@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-#include "Display.h"
+#include "DisplayChoice.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,9 +11,9 @@
 namespace
 {
 /** The context of the texts. */
-class DisplayTexts
+class Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(Display)
+    Q_DECLARE_TR_FUNCTIONS(DisplayChoice)
 };
 
 #if QT_VERSION < 0x060000
@@ -36,9 +36,9 @@ bool hasWayland(const QStringList& pluginFolders)
 }
 } // namespace
 
-Display Display::choose(const QProcessEnvironment& environment, const QStringList& pluginFolders)
+DisplayChoice DisplayChoice::choose(const QProcessEnvironment& environment, const QStringList& pluginFolders)
 {
-    Display display;
+    DisplayChoice display;
     const QStringList asked = environment.value(QStringLiteral("QT_QPA_PLATFORM")).split(QLatin1Char(';'));
     const bool isAsked = asked != QStringList(QString());
     const bool isX = !environment.value(QStringLiteral("DISPLAY")).isEmpty();
@@ -59,11 +59,11 @@ Display Display::choose(const QProcessEnvironment& environment, const QStringLis
     return display;
 }
 
-QString Display::error() const
+QString DisplayChoice::error() const
 {
     if (problem == NoWayland) {
-        return DisplayTexts::tr("On Wayland the package %1 is needed, which is not installed.")
+        return Texts::tr("On Wayland the package %1 is needed, which is not installed.")
             .arg(QLatin1String(waylandPackage));
     }
-    return DisplayTexts::tr("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.");
+    return Texts::tr("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.");
 }
