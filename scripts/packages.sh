@@ -14,13 +14,13 @@
 
 source "$(dirname "$0")/common.sh"
 
-run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n libglib2.0-dev xdg-utils fonts-dejavu-core
+run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n qtwayland5 libglib2.0-dev xdg-utils fonts-dejavu-core
     xterm x11-apps)
 demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 fuzz=(clang-14 libclang-rt-14-dev)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
-    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer procps
+    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
     clang-format-14 clang-tidy-14 clazy reuse shellcheck)
 qt4=(xvfb xauth libx11-dev libxext-dev libxrender-dev libfontconfig1-dev libfreetype6-dev libsm-dev libice-dev libxrandr-dev
     libxi-dev libxcursor-dev libdbus-1-dev zlib1g-dev g++-multilib xz-utils)

@@ -5,7 +5,9 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 
 namespace
@@ -26,10 +28,12 @@ public:
                      tr("Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a "
                         "default route) or manual (you press a button)."),
                      QStringLiteral("KIND"))
+        , hidden(QStringLiteral("hidden"),
+                 tr("Wait in the tray without a window; where there is no tray, the window shows."))
         , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no graphical session."))
     {
         parser.setApplicationDescription(tr("Connection manager with quick links."));
-        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, listLinks});
+        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks});
     }
 
     /** What is wrong with the arguments; empty when nothing is. */
@@ -43,6 +47,8 @@ public:
             if (parser.isSet(option) && parser.value(option).isEmpty())
                 return tr("Empty value after \"--%1\".").arg(option.names().constFirst());
         }
+        if (parser.isSet(pluginFolder) && !QFileInfo(parser.value(pluginFolder)).isDir())
+            return tr("There is no folder \"%1\".").arg(parser.value(pluginFolder));
         if (parser.isSet(connection) && !kinds().contains(parser.value(connection)))
             return tr("No such kind of connection: \"%1\".").arg(parser.value(connection));
         return QString();
@@ -65,7 +71,7 @@ public:
         return parser.isSet(listLinks) ? CommandLine::ListLinks : CommandLine::ShowWindow;
     }
 
-    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, listLinks;
+    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks;
     QCommandLineParser parser;
 };
 } // namespace
@@ -92,12 +98,34 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.pluginFolder = options.parser.value(options.pluginFolder);
     line.language = options.parser.value(options.language);
     line.connection = Options::kinds().value(options.parser.value(options.connection), ConnectionKind::Mobile);
+    line.isHidden = options.parser.isSet(options.hidden);
     return line;
+}
+
+QStringList CommandLine::againHidden() const
+{
+    const Options options;
+    QStringList arguments;
+    const auto add = [&arguments](const QCommandLineOption& option, const QString& value) {
+        if (!value.isEmpty())
+            arguments << QStringLiteral("--") + option.names().constFirst() << value;
+    };
+    add(options.dataFolder, dataFolder.isEmpty() ? QString() : QDir().absoluteFilePath(dataFolder));
+    add(options.pluginFolder, pluginFolder.isEmpty() ? QString() : QDir().absoluteFilePath(pluginFolder));
+    add(options.language, language);
+    if (connection != ConnectionKind::Mobile)
+        add(options.connection, Options::kinds().key(connection));
+    return arguments << QStringLiteral("--") + options.hidden.names().constFirst();
 }
 
 QString CommandLine::helpText()
 {
     return Options().parser.helpText();
+}
+
+QString CommandLine::runningAlready(qint64 process, const QString& folder)
+{
+    return Options::tr("It is running already, as process %1, with the folder %2.").arg(process).arg(folder);
 }
 
 QString CommandLine::versionText()

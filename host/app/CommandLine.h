@@ -18,6 +18,10 @@ struct CommandLine {
     QString pluginFolder; ///< empty for the installed one
     QString language;     ///< empty for the one chosen in the program, or else the system's
     ConnectionKind connection = ConnectionKind::Mobile;
+    bool isHidden = false; ///< the window waits in the tray
+
+    /** What asks for the same again, and for a window that waits in the tray. Paths are absolute. */
+    QStringList againHidden() const;
 
     /** What main() was given, the program's name first; the application object takes out what it knows. */
     static QStringList arguments(int argc, char** argv);
@@ -30,6 +34,9 @@ struct CommandLine {
 
     /** The answer to --help, in the language of the installed translations. Needs the application object. */
     static QString helpText();
+
+    /** What is said where the program runs already with this folder, as the process with this number. */
+    static QString runningAlready(qint64 process, const QString& folder);
 
     /** The answer to --version. */
     static QString versionText();

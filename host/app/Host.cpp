@@ -6,11 +6,13 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include "Autostart.h"
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
 #include "EditLinkButton.h"
 #include "FirstStart.h"
+#include "GeneralPage.h"
 #include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "LanguageMenu.h"
@@ -29,6 +31,12 @@
 #include "Tray.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
+
+/** The one that was asked for, or else that of the installation. */
+static QString folderOfPlugins(const QString& asked)
+{
+    return asked.isEmpty() ? Places::pluginFolder() : asked;
+}
 
 Host::Host(Translator& translator)
     : m_translator(translator)
@@ -58,6 +66,9 @@ Host::~Host()
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
     m_runningProgram.reset();
     m_tray.reset();
+    // One toolkit hides the window at the end, the other does not.
+    if (m_window && m_window->isVisible())
+        keepWindowPlace();
     endLinks();
     m_pluginMessages.reset();
     m_window.reset();
@@ -79,20 +90,31 @@ void Host::guardLinks(bool wasInterrupted)
 
 void Host::loadPlugins(const QString& folder)
 {
-    const QString pluginFolder = folder.isEmpty() ? Places::pluginFolder() : folder;
+    const QString pluginFolder = folderOfPlugins(folder);
     const QString userFolder = UserFolder::path();
     // Later the links are the user's, who may have removed them on purpose.
     const bool isFirstStart = !m_linkKeeper.guard().history().exists();
     if (isFirstStart && !FirstStart::copyDefaults(Places::defaultsFolder(), userFolder))
         m_linkKeeper.repeatFirstStart();
     FirstStart::makePluginFolders(pluginFolder, userFolder);
-    // Its reader would wait for ever.
-    if (!m_linkKeeper.guard().isSafeToRead()) {
-        qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
-        return;
-    }
     m_gatekeeper.open(userFolder, pluginFolder);
-    m_container.loadFolder(pluginFolder);
+    loadFolder(pluginFolder);
+}
+
+void Host::lookAtPlugins(const QString& folder)
+{
+    const QString pluginFolder = folderOfPlugins(folder);
+    m_gatekeeper.look(UserFolder::path(), pluginFolder);
+    loadFolder(pluginFolder);
+}
+
+void Host::loadFolder(const QString& pluginFolder)
+{
+    // Its reader would wait for ever.
+    if (m_linkKeeper.guard().isSafeToRead())
+        m_container.loadFolder(pluginFolder);
+    else
+        qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
 }
 
 bool Host::endLinks()
@@ -112,7 +134,12 @@ const PluginContainer& Host::container() const
     return m_container;
 }
 
-void Host::showWindow(ConnectionKind kind)
+void Host::setSessionArguments(const QStringList& arguments)
+{
+    m_sessionArguments = arguments;
+}
+
+void Host::showWindow(ConnectionKind kind, bool isHidden)
 {
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -124,13 +151,17 @@ void Host::showWindow(ConnectionKind kind)
         setLanguage(chosen);
     });
     m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
+    m_window->restorePlace(UserSettings::windowPlace());
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     connectMessages();
     m_menuManager.rebuild();
     // Before the window shows, so that it shows the real state from the beginning.
     m_monitor.start(newSystemSource(kind));
-    m_window->show();
+    if (isHidden)
+        m_window->stayHidden();
+    else
+        m_window->show();
 }
 
 void Host::connectWindow()
@@ -160,6 +191,7 @@ void Host::connectWindow()
     QObject::connect(m_pluginMessages.get(), &PluginMessages::decided, window,
                      [this](bool isLoadedAgain) { decideAboutLeftOut(isLoadedAgain); });
     QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
+    QObject::connect(window, &MainWindow::hidden, window, [this] { keepWindowPlace(); });
     QObject::connect(window, &MainWindow::quitRequested, window, [this] { quit(); });
     QObject::connect(m_tray.get(), &Tray::quitRequested, window, [this] { quit(); });
     QObject::connect(&m_monitor, &ConnectionMonitor::changed, window, [this] { showConnection(); });
@@ -246,10 +278,15 @@ void Host::showConnection()
 
 void Host::windowClosed()
 {
-    if (Tray::isAvailable())
+    if (m_tray->isAvailable())
         m_tray->tellThatItKeepsRunning();
     else
         quit();
+}
+
+void Host::keepWindowPlace()
+{
+    UserSettings::setWindowPlace(m_window->saveGeometry());
 }
 
 void Host::quit()
@@ -276,7 +313,13 @@ void Host::showSettings(const QString& link)
     HistoryPage* const history = new HistoryPage(guard.history());
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
-    dialog.setHistory(history);
+    dialog.addPage(history);
+    GeneralPage* const general = new GeneralPage(Autostart::isOn());
+    QObject::connect(general, &GeneralPage::startWithSessionChosen, general, [this, general](bool isOn) {
+        const bool isDone = isOn ? Autostart::turnOn(m_sessionArguments) : Autostart::turnOff();
+        general->setStartsWithSession(Autostart::isOn(), isDone ? QString() : Autostart::file());
+    });
+    dialog.addPage(general);
     dialog.setParametersNote(LinkAddresses(guard.current()).haveParameters());
     QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
         dialog.setParametersNote(LinkAddresses(to).haveParameters());

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -58,14 +59,21 @@ public:
      */
     void loadPlugins(const QString& folder);
 
+    /** Loads them for a program that only looks: nothing is made or written in the user's folder. */
+    void lookAtPlugins(const QString& folder);
+
     /** The container with the loaded plug-ins. */
     const PluginContainer& container() const;
 
+    /** What the program is to be started with together with the session, when the user chooses that. */
+    void setSessionArguments(const QStringList& arguments);
+
     /**
      * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
-     * plug-ins are told of the start when the window is on the screen.
+     * plug-ins are told of the start when the window is on the screen, or at once where it is hidden: it then waits in
+     * the tray, and shows where there is none.
      */
-    void showWindow(ConnectionKind kind);
+    void showWindow(ConnectionKind kind, bool isHidden = false);
 
     /** The end of looking after the links. False where they are kept, but could not be put in place. */
     bool endLinks();
@@ -78,10 +86,12 @@ private:
     void takeOverLinks();
     void connectMessages();
     void giveIcons(const QList<QAction*>& actions);
+    void loadFolder(const QString& pluginFolder);
     void connectWindow();
     void announce();
     void showConnection();
     void windowClosed();
+    void keepWindowPlace();
     void quit();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
@@ -104,6 +114,7 @@ private:
     LinkIcons m_icons;
     QString m_linkToEdit;
     QTimer m_editing; ///< goes off when that link is to be edited
+    QStringList m_sessionArguments;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;

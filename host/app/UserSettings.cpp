@@ -9,6 +9,7 @@
 #include "UserFolder.h"
 
 static const QString languageKey = QStringLiteral("language");
+static const QString windowPlaceKey = QStringLiteral("windowPlace");
 static const QString agreedKey = QStringLiteral("agreedAddresses");
 
 static QString file()
@@ -38,6 +39,17 @@ QString UserSettings::language()
 void UserSettings::setLanguage(const QString& language)
 {
     keep(languageKey, language);
+}
+
+QByteArray UserSettings::windowPlace()
+{
+    return kept(windowPlaceKey).toByteArray();
+}
+
+void UserSettings::setWindowPlace(const QByteArray& place)
+{
+    if (place != windowPlace())
+        keep(windowPlaceKey, place);
 }
 
 bool UserSettings::isAgreed(const QString& address)

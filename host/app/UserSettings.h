@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /** The user's choices in the program itself, kept in vellumconnect.ini in the user's folder. */
@@ -14,6 +15,12 @@ QString language();
 
 /** Keeps language for the next start. Failure is written to the warning channel. */
 void setLanguage(const QString& language);
+
+/** Where the window was and how large, as the toolkit writes it down; empty where it was never kept. */
+QByteArray windowPlace();
+
+/** Keeps the window's place and size for the next start. Failure is written to the warning channel. */
+void setWindowPlace(const QByteArray& place);
 
 /** Whether the user has agreed to open this address, spelt exactly so. */
 bool isAgreed(const QString& address);

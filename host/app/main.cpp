@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "CommandLine.h"
+#include "DisplayChoice.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -20,7 +21,7 @@
 
 namespace
 {
-const int isRunningAlready = 1;
+const int cannotStart = 1; // here and now
 const int wrongUsage = 2;
 
 int print(const QString& text)
@@ -29,10 +30,10 @@ int print(const QString& text)
     return 0;
 }
 
-int refuse(const QString& error)
+int refuse(const QString& error, int code)
 {
     std::fprintf(stderr, "vellumconnect: %s\n", error.toLocal8Bit().constData());
-    return wrongUsage;
+    return code;
 }
 
 /** The program that runs already comes to the front, or at least this one says so. */
@@ -40,9 +41,7 @@ int handOver(qint64 owner)
 {
     if (RunningProgram::handOver(UserFolder::path()))
         return 0;
-    std::fprintf(stderr, "vellumconnect: it is running already, as process %lld, with the folder %s\n",
-                 static_cast<long long>(owner), qUtf8Printable(UserFolder::path()));
-    return isRunningAlready;
+    return refuse(CommandLine::runningAlready(owner, UserFolder::path()), cannotStart);
 }
 
 void describeApplication()
@@ -72,8 +71,13 @@ int main(int argc, char** argv)
     std::setlocale(LC_ALL, "");
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
-    if (commandLine.action != CommandLine::ShowWindow)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
+    DisplayChoice display;
+    if (showsWindow)
+        display = DisplayChoice::choose(QProcessEnvironment::systemEnvironment(), QCoreApplication::libraryPaths());
+    const bool isOnScreen = showsWindow && display.problem == DisplayChoice::None;
+    if (!isOnScreen || !display.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", isOnScreen ? display.platform : QByteArrayLiteral("offscreen"));
 
     // What is wrong with the arguments is told in one line. The trace of the plug-ins is for developers:
     // QT_LOGGING_RULES="default.debug=true" turns it on.
@@ -82,20 +86,24 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
+    // What links start chooses by itself.
+    if (!display.platform.isEmpty())
+        qunsetenv("QT_QPA_PLATFORM");
     UserFolder::setPath(commandLine.dataFolder);
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
     if (isRefused)
-        return refuse(CommandLine::parse(arguments).error);
+        return refuse(CommandLine::parse(arguments).error, wrongUsage);
     if (commandLine.action == CommandLine::ShowHelp)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
+    if (display.problem != DisplayChoice::None)
+        return refuse(display.error(), cannotStart);
 
     FolderLock lock(UserFolder::path());
-    const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
     if (showsWindow && lock.take() == FolderLock::Busy)
-        return handOver(lock.owner());
+        return commandLine.isHidden ? 0 : handOver(lock.owner());
     if (showsWindow)
         FolderPrivacy::keepOthersOut(UserFolder::path());
 
@@ -104,12 +112,14 @@ int main(int argc, char** argv)
         QApplication::setWindowIcon(programIcon());
 
     Host host(translator);
-    if (showsWindow)
-        host.guardLinks(lock.wasLeftBehind());
-    host.loadPlugins(commandLine.pluginFolder);
-    if (commandLine.action == CommandLine::ListLinks)
+    if (!showsWindow) {
+        host.lookAtPlugins(commandLine.pluginFolder);
         return print(linkTable(host.container().all<IQuickLinkPlugin>()));
-    host.showWindow(commandLine.connection);
+    }
+    host.guardLinks(lock.wasLeftBehind());
+    host.loadPlugins(commandLine.pluginFolder);
+    host.setSessionArguments(commandLine.againHidden());
+    host.showWindow(commandLine.connection, commandLine.isHidden);
     const int result = QApplication::exec();
     if (!host.endLinks())
         lock.leaveBehind();

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 جرّب ‎--help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>الانتظار في علبة النظام دون نافذة؛ وإن لم توجد علبة نظام تظهر النافذة.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>لا يوجد مجلد &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>البرنامج قيد التشغيل بالفعل، بالعملية %1، مع المجلد %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>يلزم على Wayland الحزمة %1، وهي غير مثبتة.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>لا توجد شاشة: لم يُعيَّن DISPLAY ولا WAYLAND_DISPLAY.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -244,6 +267,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>البدء مع الجلسة</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>ينتظر Vellum Connect عندئذ في علبة النظام. وإن لم تكن لسطح المكتب علبة نظام تظهر نافذته.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>لا يمكن حفظ هذا الاختيار في %1.</translation>
     </message>
 </context>
 <context>
@@ -433,6 +475,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>لا توجد روابط سريعة بعد. أضفها من الأدوات &gt; الإعدادات.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>لا يحتوي اسم أي رابط سريع على هذا النص.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -581,6 +627,18 @@
     <message>
         <source>Quit the program</source>
         <translation>إنهاء البرنامج</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;بحث عن رابط سريع</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>عرض الروابط السريعة التي تكتب اسمها فقط</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>البحث عن رابط سريع</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Siehe --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Ohne Fenster im Infobereich warten; wo es keinen gibt, erscheint das Fenster.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Ordner „%1“.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Es läuft schon, als Prozess %1, mit dem Ordner %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Unter Wayland wird das Paket %1 gebraucht, das nicht installiert ist.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Es gibt keinen Bildschirm: Weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -240,6 +263,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Mit der Sitzung starten</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect wartet dann im Infobereich. Wo die Arbeitsumgebung keinen hat, erscheint das Fenster.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Diese Wahl lässt sich nicht in %1 speichern.</translation>
     </message>
 </context>
 <context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Noch keine Links. Mit „Extras &gt; Einstellungen“ fügen Sie welche hinzu.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Kein Link hat das in seinem Namen.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -561,6 +607,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Das Programm beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>Link &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Nur die Links zeigen, deren Namen Sie eintippen</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Link suchen</translation>
     </message>
 </context>
 <context>

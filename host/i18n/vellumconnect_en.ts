@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -239,6 +262,25 @@
     <message>
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -560,6 +606,18 @@
     </message>
     <message>
         <source>Quit the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Pruebe --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Espera en la bandeja sin ventana; si no hay bandeja, se muestra la ventana.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>No existe la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Ya se está ejecutando, como proceso %1, con la carpeta %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>En Wayland hace falta el paquete %1, que no está instalado.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>No hay pantalla: no se ha definido ni DISPLAY ni WAYLAND_DISPLAY.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -240,6 +263,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect espera entonces en la bandeja. Si el escritorio no tiene bandeja, se muestra su ventana.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>No se puede guardar esta elección en %1.</translation>
     </message>
 </context>
 <context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Aún no hay enlaces rápidos. Añádalos con Herramientas &gt; Configuración.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Ningún enlace rápido tiene esto en su nombre.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -561,6 +607,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Salir del programa</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;Buscar un enlace rápido</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Mostrar solo los enlaces rápidos cuyo nombre se escribe</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Buscar un enlace rápido</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Essayez --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Attend dans la zone de notification, sans fenêtre ; sans cette zone, la fenêtre s’affiche.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>Le dossier « %1 » n’existe pas.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Le programme est déjà en cours d’exécution, processus %1, avec le dossier %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Sous Wayland, le paquet %1 est nécessaire, mais il n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Aucun écran : ni DISPLAY ni WAYLAND_DISPLAY n’est défini.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -240,6 +263,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Démarrer avec la session</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect attend alors dans la zone de notification. Si le bureau n’en a pas, sa fenêtre s’affiche.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Ce choix ne peut pas être enregistré dans %1.</translation>
     </message>
 </context>
 <context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Aucun lien rapide. Ajoutez-en avec Outils &gt; Paramètres.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Aucun lien rapide ne contient cela dans son nom.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -561,6 +607,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Quitter le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;Chercher un lien rapide</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>N’afficher que les liens rapides dont vous tapez le nom</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Chercher un lien rapide</translation>
     </message>
 </context>
 <context>

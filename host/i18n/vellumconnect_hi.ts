@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 --help देखें।</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>बिना विंडो के ट्रे में रुकता है; जहाँ ट्रे नहीं है, वहाँ विंडो दिखती है।</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>&quot;%1&quot; नाम का कोई फ़ोल्डर नहीं है।</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>यह पहले से चल रहा है, प्रोसेस %1 के रूप में, फ़ोल्डर %2 के साथ।</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Wayland पर पैकेज %1 चाहिए, जो इंस्टॉल नहीं है।</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>कोई डिस्प्ले नहीं है: न DISPLAY सेट है, न WAYLAND_DISPLAY।</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -240,6 +263,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>सामान्य</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>सत्र के साथ शुरू करें</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>तब Vellum Connect ट्रे में रुकता है। जहाँ डेस्कटॉप में ट्रे नहीं है, वहाँ इसकी विंडो दिखती है।</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>यह चुनाव %1 में सहेजा नहीं जा सकता।</translation>
     </message>
 </context>
 <context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>अभी कोई त्वरित लिंक नहीं है। औज़ार &gt; सेटिंग्स से जोड़ें।</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>किसी त्वरित लिंक के नाम में यह नहीं है।</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -561,6 +607,18 @@
     <message>
         <source>Quit the program</source>
         <translation>प्रोग्राम से बाहर निकलें</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>त्वरित लिंक खोजें (&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>केवल वे त्वरित लिंक दिखाएँ जिनका नाम आप लिखते हैं</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>त्वरित लिंक खोजें</translation>
     </message>
 </context>
 <context>

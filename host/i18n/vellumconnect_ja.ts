@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 --help を参照してください。</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>ウィンドウを表示せずにトレイで待機します。トレイがない場合はウィンドウを表示します。</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>フォルダー「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>すでに実行中です (プロセス %1、フォルダー %2)。</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Wayland ではパッケージ %1 が必要ですが、インストールされていません。</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>ディスプレイがありません。DISPLAY も WAYLAND_DISPLAY も設定されていません。</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -239,6 +262,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>セッションとともに開始</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect はトレイで待機します。デスクトップにトレイがない場合はウィンドウを表示します。</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>この選択を %1 に保存できません。</translation>
     </message>
 </context>
 <context>
@@ -408,6 +450,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>クイックリンクはまだありません。「ツール &gt; 設定」で追加してください。</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>名前にこの文字を含むクイックリンクはありません。</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -556,6 +602,18 @@
     <message>
         <source>Quit the program</source>
         <translation>プログラムを終了</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>クイックリンクを検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>入力した名前のクイックリンクだけを表示</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>クイックリンクを検索</translation>
     </message>
 </context>
 <context>

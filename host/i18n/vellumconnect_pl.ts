@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Zobacz --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Czeka w zasobniku bez okna; gdy nie ma zasobnika, okno się pojawia.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>Nie ma folderu „%1”.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Program już działa jako proces %1 z folderem %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Na Waylandzie potrzebny jest pakiet %1, który nie jest zainstalowany.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Nie ma ekranu: nie ustawiono ani DISPLAY, ani WAYLAND_DISPLAY.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -241,6 +264,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Uruchamiaj z sesją</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect czeka wtedy w zasobniku. Jeśli pulpit nie ma zasobnika, pojawia się okno.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Tego wyboru nie można zapisać w %1.</translation>
     </message>
 </context>
 <context>
@@ -418,6 +460,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Nie ma jeszcze szybkich odnośników. Dodaj je przez Narzędzia &gt; Ustawienia.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Żaden szybki odnośnik nie ma tego w nazwie.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -566,6 +612,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Zakończ działanie programu</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;Znajdź szybki odnośnik</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Pokaż tylko szybkie odnośniki o wpisanej nazwie</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Znajdź szybki odnośnik</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Veja --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Espera na bandeja, sem janela; onde não há bandeja, a janela aparece.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>A pasta &quot;%1&quot; não existe.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>O programa já está em execução, como processo %1, com a pasta %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>No Wayland é necessário o pacote %1, que não está instalado.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Não há ecrã: nem DISPLAY nem WAYLAND_DISPLAY está definido.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -240,6 +263,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Iniciar com a sessão</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>O Vellum Connect espera então na bandeja. Onde o ambiente de trabalho não tem bandeja, a janela aparece.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Não é possível guardar esta escolha em %1.</translation>
     </message>
 </context>
 <context>
@@ -413,6 +455,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Ainda não há atalhos. Adicione-os em Ferramentas &gt; Definições.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Nenhum atalho tem isto no nome.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -561,6 +607,18 @@
     <message>
         <source>See which plug-ins crashed or hung, and load them again</source>
         <translation>Ver que plug-ins falharam ou bloquearam, e carregá-los de novo</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;Localizar um atalho</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Mostrar só os atalhos com o nome escrito</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Localizar um atalho</translation>
     </message>
 </context>
 <context>

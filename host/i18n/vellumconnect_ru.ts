@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 См. --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Ждать в области уведомлений без окна; если её нет, показать окно.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>Нет папки «%1».</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Программа уже запущена: процесс %1, папка %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Для Wayland нужен пакет %1, который не установлен.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Нет экрана: не заданы ни DISPLAY, ни WAYLAND_DISPLAY.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -241,6 +264,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Запускать вместе с сеансом</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Тогда Vellum Connect ждёт в области уведомлений. Если её нет на рабочем столе, появляется окно.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Этот выбор нельзя сохранить в %1.</translation>
     </message>
 </context>
 <context>
@@ -418,6 +460,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Быстрых ссылок пока нет. Добавьте их через меню «Инструменты &gt; Настройка».</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Ни у одной быстрой ссылки нет этого в названии.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -566,6 +612,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Завершить работу программы</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>&amp;Найти быструю ссылку</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Показывать только быстрые ссылки с введённым названием</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Найти быструю ссылку</translation>
     </message>
 </context>
 <context>

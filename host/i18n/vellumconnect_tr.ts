@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 Bkz. --help.</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>Penceresiz olarak sistem tepsisinde bekler; tepsi yoksa pencere görünür.</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>&quot;%1&quot; klasörü yok.</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>Zaten çalışıyor: işlem %1, klasör %2.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>Wayland için %1 paketi gerekir, ancak kurulu değil.</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>Ekran yok: ne DISPLAY ne de WAYLAND_DISPLAY ayarlı.</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -239,6 +262,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>Oturumla birlikte başlat</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect o zaman sistem tepsisinde bekler. Masaüstünde tepsi yoksa penceresi görünür.</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>Bu seçim %1 içine kaydedilemiyor.</translation>
     </message>
 </context>
 <context>
@@ -408,6 +450,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>Henüz kısayol yok. Araçlar &gt; Ayarlar ile ekleyin.</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>Adında bu geçen bir kısayol yok.</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -556,6 +602,18 @@
     <message>
         <source>Quit the program</source>
         <translation>Programdan çık</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>Kısayol &amp;Bul</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>Yalnızca adını yazdığınız kısayolları göster</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>Kısayol bul</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,18 @@
         <source>%1 Try --help.</source>
         <translation>%1 请参阅 --help。</translation>
     </message>
+    <message>
+        <source>Wait in the tray without a window; where there is no tray, the window shows.</source>
+        <translation>在托盘中等待而不显示窗口；没有托盘时显示窗口。</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;.</source>
+        <translation>没有文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>It is running already, as process %1, with the folder %2.</source>
+        <translation>程序已在运行，进程 %1，文件夹 %2。</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -206,6 +218,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayChoice</name>
+    <message>
+        <source>On Wayland the package %1 is needed, which is not installed.</source>
+        <translation>在 Wayland 上需要软件包 %1，但它未安装。</translation>
+    </message>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation>没有显示器：DISPLAY 和 WAYLAND_DISPLAY 均未设置。</translation>
+    </message>
+</context>
+<context>
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links…</source>
@@ -239,6 +262,25 @@
         <source>%1: %2</source>
         <comment>name of a link and its address</comment>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Start with the session</source>
+        <translation>随会话启动</translation>
+    </message>
+    <message>
+        <source>Vellum Connect then waits in the tray. Where the desktop has no tray, its window shows.</source>
+        <translation>Vellum Connect 会在托盘中等待。桌面没有托盘时显示其窗口。</translation>
+    </message>
+    <message>
+        <source>This choice cannot be kept in %1.</source>
+        <translation>无法将此选择保存到 %1。</translation>
     </message>
 </context>
 <context>
@@ -408,6 +450,10 @@
         <source>No quick links yet. Add some with Tools &gt; Settings.</source>
         <translation>还没有快速链接。请通过“工具 &gt; 设置”添加。</translation>
     </message>
+    <message>
+        <source>No quick link has this in its name.</source>
+        <translation>没有名称中包含此内容的快速链接。</translation>
+    </message>
 </context>
 <context>
     <name>LinkOpener</name>
@@ -556,6 +602,18 @@
     <message>
         <source>Quit the program</source>
         <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Quick Link</source>
+        <translation>查找快速链接(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show only the quick links with a name that you type</source>
+        <translation>仅显示名称与所输入内容相符的快速链接</translation>
+    </message>
+    <message>
+        <source>Find a quick link</source>
+        <translation>查找快速链接</translation>
     </message>
 </context>
 <context>

@@ -81,7 +81,8 @@ CallRecord::~CallRecord()
         ::close(m_descriptor);
 }
 
-QList<UnfinishedCall> CallRecord::takeLeftBehind(const QString& userFolder)
+/** What processes that are gone left unfinished; isTaken says whether their files go. */
+static QList<UnfinishedCall> read(const QString& userFolder, bool isTaken)
 {
     QList<UnfinishedCall> all;
     const QDir folder(folderIn(userFolder));
@@ -95,11 +96,22 @@ QList<UnfinishedCall> CallRecord::takeLeftBehind(const QString& userFolder)
             UnfinishedCall unfinished;
             if (parse(contentOf(descriptor), unfinished))
                 all.append(unfinished);
-            ::unlink(path.constData());
+            if (isTaken)
+                ::unlink(path.constData());
         }
         ::close(descriptor);
     }
     return all;
+}
+
+QList<UnfinishedCall> CallRecord::leftBehind(const QString& userFolder)
+{
+    return read(userFolder, false);
+}
+
+QList<UnfinishedCall> CallRecord::takeLeftBehind(const QString& userFolder)
+{
+    return read(userFolder, true);
 }
 
 bool CallRecord::open(const QString& userFolder)

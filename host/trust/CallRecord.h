@@ -36,7 +36,10 @@ public:
     CallRecord(const CallRecord&) = delete;
     CallRecord& operator=(const CallRecord&) = delete;
 
-    /** Reads what processes that are gone left unfinished in userFolder, and takes their files away. */
+    /** Reads what processes that are gone left unfinished in userFolder. */
+    static QList<UnfinishedCall> leftBehind(const QString& userFolder);
+
+    /** The same, and takes their files away. */
     static QList<UnfinishedCall> takeLeftBehind(const QString& userFolder);
 
     /** Makes the file in userFolder, which exists. False when that cannot be done; then nothing is noted. */

@@ -56,6 +56,12 @@ void Gatekeeper::open(const QString& userFolder, const QString& pluginFolder)
     m_record.open(userFolder);
 }
 
+void Gatekeeper::look(const QString& userFolder, const QString& pluginFolder)
+{
+    m_pluginFolder = pluginFolder;
+    m_leftOut.look(userFolder, CallRecord::leftBehind(userFolder));
+}
+
 QString Gatekeeper::objectionTo(const QString& file)
 {
     if (m_pluginFolder.isEmpty())

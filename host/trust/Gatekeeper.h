@@ -45,6 +45,9 @@ public:
      */
     void open(const QString& userFolder, const QString& pluginFolder);
 
+    /** The same for a program that only looks: nothing is noted and nothing is kept. */
+    void look(const QString& userFolder, const QString& pluginFolder);
+
     /** Those that were not let in and are not left out, in the order in which they came. */
     QList<Refusal> refusals() const { return m_refusals; }
 

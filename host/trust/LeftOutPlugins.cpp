@@ -42,7 +42,7 @@ static LeftOutPlugins::Entry fromJson(const QJsonObject& object)
     return entry;
 }
 
-void LeftOutPlugins::open(const QString& userFolder, const QList<UnfinishedCall>& unfinished)
+bool LeftOutPlugins::look(const QString& userFolder, const QList<UnfinishedCall>& unfinished)
 {
     m_path = userFolder + QStringLiteral("/left-out.json");
     m_entries.clear();
@@ -54,7 +54,12 @@ void LeftOutPlugins::open(const QString& userFolder, const QList<UnfinishedCall>
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isOther), m_entries.end());
     for (const UnfinishedCall& call : unfinished)
         add(call);
-    if (read != m_entries.size() || !unfinished.isEmpty())
+    return read != m_entries.size() || !unfinished.isEmpty();
+}
+
+void LeftOutPlugins::open(const QString& userFolder, const QList<UnfinishedCall>& unfinished)
+{
+    if (look(userFolder, unfinished))
         save();
 }
 

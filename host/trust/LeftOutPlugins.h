@@ -22,8 +22,12 @@ public:
 
     /**
      * Reads left-out.json in userFolder and adds what was left unfinished since. A plug-in whose file is gone or is
-     * another one by now is forgotten. What is no such file counts as an empty one.
+     * another one by now is forgotten. What is no such file counts as an empty one. True where it differs from the
+     * file, which stays as it is.
      */
+    bool look(const QString& userFolder, const QList<UnfinishedCall>& unfinished);
+
+    /** The same, and keeps what differs. */
     void open(const QString& userFolder, const QList<UnfinishedCall>& unfinished);
 
     /** Those that are left out, the latest last. */

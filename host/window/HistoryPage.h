@@ -4,7 +4,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QWidget>
+
+#include "ProgramPage.h"
 
 class LinkHistory;
 class QLabel;
@@ -12,7 +13,7 @@ class QPushButton;
 class QTreeWidget;
 
 /** The states that the links were in, newest first, and the way back to one. */
-class HistoryPage : public QWidget
+class HistoryPage : public ProgramPage
 {
     Q_OBJECT
 
@@ -20,8 +21,7 @@ public:
     /** Lists the states of history, which must outlive the page, as they are when it is shown or told to refresh(). */
     explicit HistoryPage(const LinkHistory& history);
 
-    /** The name in the list of pages, in the current language. */
-    QString caption() const;
+    QString caption() const override;
 
     /** Lists the states anew. */
     void refresh();

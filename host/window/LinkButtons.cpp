@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 #include "LinkName.h"
 
 namespace
@@ -17,9 +19,9 @@ const int columns = 2;
 const int longestName = 17; // in wide letters; the rest is in the tool tip
 const int iconGap = 4;      // pixels that the toolkit leaves between icon and text
 
-QLabel* newHint(const QString& text)
+QLabel* newHint(QWidget* parent)
 {
-    QLabel* const hint = new QLabel(text);
+    QLabel* const hint = new QLabel(parent);
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     return hint;
@@ -30,25 +32,68 @@ LinkButtons::LinkButtons()
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
+    // The keyboard goes to the buttons.
+    setFocusPolicy(Qt::NoFocus);
 }
 
 void LinkButtons::setActions(const QList<QAction*>& actions)
 {
     QWidget* const content = new QWidget;
-    QGridLayout* const grid = new QGridLayout(content);
-    grid->setContentsMargins(0, 0, 0, 0);
-    for (int column = 0; column < columns; ++column)
-        grid->setColumnStretch(column, 1);
-    for (int i = 0; i < actions.size(); ++i)
-        grid->addWidget(newButton(actions.at(i)), i / columns, i % columns);
-    if (actions.isEmpty())
-        grid->addWidget(newHint(tr("No quick links yet. Add some with Tools > Settings.")), 0, 0, 1, columns);
-    else
-        grid->setRowStretch(grid->rowCount(), 1);
+    m_hint = newHint(content);
+    m_buttons.clear();
+    for (QAction* action : actions)
+        m_buttons.append(newButton(action, content));
+    arrange(content);
     // Later: one of the former buttons may be what asked for the change.
     if (QWidget* const former = takeWidget())
         former->deleteLater();
     setWidget(content);
+}
+
+void LinkButtons::setFilter(const QString& text)
+{
+    m_words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (widget())
+        arrange(widget());
+}
+
+void LinkButtons::openFirst()
+{
+    for (QPushButton* button : qAsConst(m_buttons)) {
+        if (!button->isHidden()) {
+            button->click();
+            return;
+        }
+    }
+}
+
+/** Gives the buttons that are to show their places, without gaps. */
+void LinkButtons::arrange(QWidget* content)
+{
+    delete content->layout();
+    QGridLayout* const grid = new QGridLayout(content);
+    grid->setContentsMargins(0, 0, 0, 0);
+    for (int column = 0; column < columns; ++column)
+        grid->setColumnStretch(column, 1);
+    int shown = 0;
+    for (QPushButton* button : qAsConst(m_buttons)) {
+        const QString name = button->accessibleName();
+        const bool isMeant = std::all_of(m_words.cbegin(), m_words.cend(), [&name](const QString& word) {
+            return name.contains(word, Qt::CaseInsensitive);
+        });
+        button->setVisible(isMeant);
+        if (isMeant) {
+            grid->addWidget(button, shown / columns, shown % columns);
+            ++shown;
+        }
+    }
+    m_hint->setText(m_buttons.isEmpty() ? tr("No quick links yet. Add some with Tools > Settings.")
+                                        : tr("No quick link has this in its name."));
+    m_hint->setVisible(shown == 0);
+    if (shown == 0)
+        grid->addWidget(m_hint, 0, 0, 1, columns);
+    else
+        grid->setRowStretch(grid->rowCount(), 1);
 }
 
 bool LinkButtons::eventFilter(QObject* object, QEvent* event)
@@ -58,10 +103,10 @@ bool LinkButtons::eventFilter(QObject* object, QEvent* event)
     return QScrollArea::eventFilter(object, event);
 }
 
-QPushButton* LinkButtons::newButton(QAction* action)
+QPushButton* LinkButtons::newButton(QAction* action, QWidget* parent)
 {
     const QString name = action->data().toString();
-    QPushButton* const button = new QPushButton;
+    QPushButton* const button = new QPushButton(parent);
     QFont font = button->font();
     font.setPointSizeF(font.pointSizeF() + 1);
     button->setFont(font);

@@ -5,8 +5,10 @@
 
 #include <QList>
 #include <QScrollArea>
+#include <QStringList>
 
 class QAction;
+class QLabel;
 class QPushButton;
 
 /** The quick links as large buttons, two in a row, in a scrollable area. */
@@ -18,13 +20,24 @@ public:
     /** Makes an area without buttons. */
     LinkButtons();
 
-    /** Shows one button for each action, or a hint where there is none. The actions stay their owner's. */
+    /** Has one button for each action, or a hint where there is none. The actions stay their owner's. */
     void setActions(const QList<QAction*>& actions);
+
+    /** Shows only the buttons whose names have each word of text in them; all for an empty one. */
+    void setFilter(const QString& text);
+
+    /** Opens the link of the first button that shows. */
+    void openFirst();
 
 protected:
     /** Scrolls to the button that gets the focus by keyboard. */
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    QPushButton* newButton(QAction* action);
+    QPushButton* newButton(QAction* action, QWidget* parent);
+    void arrange(QWidget* content);
+
+    QStringList m_words; ///< of the filter
+    QList<QPushButton*> m_buttons;
+    QLabel* m_hint = nullptr; ///< stands where no button shows
 };

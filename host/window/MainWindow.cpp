@@ -8,10 +8,15 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 #include "ConnectionPanel.h"
 #include "Heading.h"
@@ -19,9 +24,12 @@
 #include "OfferLine.h"
 #include "ShownText.h"
 
+static const int manyLinks = 12; // about as many as the window shows
+
 MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     : m_linkButtons(new LinkButtons)
     , m_linkHeading(newHeading(1))
+    , m_filter(new QLineEdit)
     , m_offerLine(new OfferLine)
     , m_permanentStatus(new QLabel)
 {
@@ -32,9 +40,15 @@ MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
     column->addWidget(panel);
     column->addSpacing(column->spacing());
     column->addWidget(m_linkHeading);
+    column->addWidget(m_filter);
     column->addWidget(m_linkButtons, 1);
     column->addWidget(m_offerLine);
     setCentralWidget(content);
+    connect(m_filter, &QLineEdit::textChanged, m_linkButtons, &LinkButtons::setFilter);
+    connect(m_filter, &QLineEdit::returnPressed, this, [this] {
+        if (!m_filter->text().isEmpty())
+            m_linkButtons->openFirst();
+    });
     statusBar()->addPermanentWidget(m_permanentStatus);
     buildMenus(languageMenu);
     setTexts();
@@ -56,6 +70,32 @@ void MainWindow::setLinks(const QList<QAction*>& actions)
     if (actions.isEmpty())
         m_linkMenu->addAction(m_noLinks);
     m_linkButtons->setActions(actions);
+    const bool areMany = actions.size() >= manyLinks;
+    m_find->setEnabled(areMany);
+    m_filter->setVisible(areMany);
+    if (!areMany)
+        m_filter->clear();
+}
+
+void MainWindow::restorePlace(const QByteArray& place)
+{
+    if (!restoreGeometry(place) || isMaximized())
+        return;
+    // The toolkit looks that the title is not above the screen, and leaves all else alone if a corner is on one.
+    const QRect found = geometry();
+    const QScreen* const screen = QGuiApplication::screenAt(found.center());
+    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    QRect whole = found;
+    whole.moveRight(std::min(whole.right(), area.right()));
+    whole.moveLeft(std::max(whole.left(), area.left()));
+    whole.moveBottom(std::min(whole.bottom(), area.bottom()));
+    if (whole != found)
+        setGeometry(whole);
+}
+
+void MainWindow::stayHidden()
+{
+    appear();
 }
 
 QMenu& MainWindow::linkMenu()
@@ -95,10 +135,32 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
 }
 
+/** What no button and no field took. */
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint() &&
+                        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (event->key() == Qt::Key_Escape) {
+        m_filter->clear();
+    } else if (isText && m_filter->isVisible() && !m_filter->hasFocus()) {
+        m_filter->setFocus();
+        QCoreApplication::sendEvent(m_filter, event);
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->accept();
     Q_EMIT closed();
+}
+
+void MainWindow::hideEvent(QHideEvent* event)
+{
+    QMainWindow::hideEvent(event);
+    if (!event->spontaneous())
+        Q_EMIT hidden();
 }
 
 void MainWindow::appear()

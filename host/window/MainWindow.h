@@ -11,9 +11,13 @@ class LinkButtons;
 class OfferLine;
 class QAction;
 class QLabel;
+class QLineEdit;
 class QMenu;
 
-/** The window: the state of the connection, the quick links as buttons below it, and the menus. */
+/**
+ * The window: the state of the connection, the quick links as buttons below it, and the menus. Where there are many
+ * links, a field finds those whose names have what the user types in the window.
+ */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -21,6 +25,12 @@ class MainWindow : public QMainWindow
 public:
     /** Makes a hidden window without links, with panel at its top and languageMenu in its View menu; it owns both. */
     MainWindow(ConnectionPanel* panel, QMenu* languageMenu);
+
+    /** Puts the window where saveGeometry() found it, and wholly onto a screen. Nothing for an empty place. */
+    void restorePlace(const QByteArray& place);
+
+    /** In place of show(): appeared() comes all the same. */
+    void stayHidden();
 
     /** Shows actions as menu entries and buttons instead of the former ones. They stay their owner's. */
     void setLinks(const QList<QAction*>& actions);
@@ -44,7 +54,7 @@ public:
     void setPermanentStatus(const QString& text);
 
 Q_SIGNALS:
-    /** The window was painted for the first time, or was minimised before it was. */
+    /** The window was painted for the first time, or will not be for now: it was minimised before, or stays hidden. */
     void appeared();
 
     /** The user wants to see the settings. */
@@ -65,19 +75,26 @@ Q_SIGNALS:
     /** The user closed the window, which is now hidden. */
     void closed();
 
+    /** The window is hidden, by whomever; a minimised one is not. */
+    void hidden();
+
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildMenus(QMenu* languageMenu);
     void setTexts();
     void appear();
     void showAbout();
+    void find();
 
     LinkButtons* m_linkButtons = nullptr;
     QLabel* m_linkHeading = nullptr;
+    QLineEdit* m_filter = nullptr;
     OfferLine* m_offerLine = nullptr;
     QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
@@ -91,6 +108,7 @@ private:
     QAction* m_quit = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
+    QAction* m_find = nullptr;
     QAction* m_settings = nullptr;
     QAction* m_leftOutPlugins = nullptr;
     QAction* m_showStatusBar = nullptr;

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -31,6 +32,9 @@ void MainWindow::buildMenus(QMenu* languageMenu)
     m_redo = m_editMenu->addAction(QString(), this, &MainWindow::redoRequested);
     m_redo->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")));
     setSteps(false, false);
+    m_editMenu->addSeparator();
+    m_find = m_editMenu->addAction(QString(), this, &MainWindow::find);
+    m_find->setShortcut(QKeySequence(QStringLiteral("Ctrl+F")));
 
     m_toolsMenu = menuBar()->addMenu(QString());
     m_settings = m_toolsMenu->addAction(QString(), this, &MainWindow::settingsRequested);
@@ -56,6 +60,12 @@ void MainWindow::setSteps(bool canUndo, bool canRedo)
     m_redo->setEnabled(canRedo);
 }
 
+void MainWindow::find()
+{
+    m_filter->setFocus();
+    m_filter->selectAll();
+}
+
 void MainWindow::setLeftOutPlugins(bool areThere)
 {
     m_leftOutPlugins->setVisible(areThere);
@@ -73,6 +83,10 @@ void MainWindow::setTexts()
     m_undo->setStatusTip(tr("Take back the last change of the quick links"));
     m_redo->setText(tr("&Redo"));
     m_redo->setStatusTip(tr("Make the change again that was taken back"));
+    m_find->setText(tr("&Find a Quick Link"));
+    m_find->setStatusTip(tr("Show only the quick links with a name that you type"));
+    m_filter->setPlaceholderText(tr("Find a quick link"));
+    m_filter->setAccessibleName(tr("Find a quick link"));
     m_toolsMenu->setTitle(tr("&Tools"));
     m_settings->setText(tr("&Settings…"));
     m_settings->setStatusTip(tr("Add, change and order quick links"));

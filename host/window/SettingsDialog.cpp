@@ -16,11 +16,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "HistoryPage.h"
 #include "LinkPage.h"
 #include "LinkPageKeys.h"
 #include "OfferLine.h"
 #include "PageArea.h"
+#include "ProgramPage.h"
 
 SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent)
     : QDialog(parent)
@@ -64,9 +64,9 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
     column->addWidget(buttons);
 }
 
-void SettingsDialog::setHistory(HistoryPage* page)
+void SettingsDialog::addPage(ProgramPage* page)
 {
-    m_history = page;
+    m_ownPages.append(page);
     page->setParent(m_area->pageParent());
     page->hide();
     m_list->clear();
@@ -75,7 +75,7 @@ void SettingsDialog::setHistory(HistoryPage* page)
 
 void SettingsDialog::listPages()
 {
-    const int count = int(m_pages.size()) + (m_history ? 1 : 0);
+    const int count = int(m_pages.size() + m_ownPages.size());
     for (int i = 0; i < count; ++i)
         m_list->addItem(QString());
     setTexts();
@@ -190,17 +190,15 @@ void SettingsDialog::setTexts()
     m_note->setText(tr("Programs start without the parameters that a link has for them."));
     m_hint->setText(tr("None of the loaded plug-ins has settings."));
     m_list->setAccessibleName(tr("Pages"));
-    for (int i = 0; i < m_pages.size(); ++i)
-        m_list->item(i)->setText(m_pages.at(i).caption());
-    if (m_history && m_list->count() > m_pages.size())
-        m_list->item(int(m_pages.size()))->setText(m_history->caption());
+    for (int i = 0; i < m_list->count(); ++i)
+        m_list->item(i)->setText(i < m_pages.size() ? m_pages.at(i).caption() : ownPage(i)->caption());
     m_list->setFixedWidth(m_list->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
 }
 
 void SettingsDialog::showPage(int index)
 {
-    if (m_history)
-        m_history->hide();
+    for (ProgramPage* page : qAsConst(m_ownPages))
+        page->hide();
     if (m_shown >= 0 && m_shown < m_pages.size())
         m_pages.at(m_shown).hide();
     m_area->setPage(nullptr);
@@ -220,8 +218,14 @@ QWidget* SettingsDialog::shown()
         LinkPageKeys::addTo(page);
         return page;
     }
-    m_history->show();
-    return m_history;
+    ownPage(m_shown)->show();
+    return ownPage(m_shown);
+}
+
+/** The program's own page at a row of the list. */
+ProgramPage* SettingsDialog::ownPage(int row) const
+{
+    return m_ownPages.at(row - int(m_pages.size()));
 }
 
 void SettingsDialog::growToPage()

@@ -8,9 +8,9 @@
 
 #include "SettingsPage.h"
 
-class HistoryPage;
 class OfferLine;
 class PageArea;
+class ProgramPage;
 class QLabel;
 class QListWidget;
 
@@ -24,8 +24,8 @@ public:
     /** Offers the pages of plugins, which must stay loaded while the dialog is open. parent may be null. */
     SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugins, QWidget* parent);
 
-    /** Offers page, which becomes the dialog's, below those of the plug-ins. */
-    void setHistory(HistoryPage* page);
+    /** Offers page, which becomes the dialog's, below those of the plug-ins and those that were added before. */
+    void addPage(ProgramPage* page);
 
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
@@ -61,15 +61,16 @@ private:
     void setTexts();
     void showPage(int index);
     QWidget* shown();
+    ProgramPage* ownPage(int row) const;
     void growToPage();
     bool isLinkPageShown() const;
     void showNote();
 
     QList<SettingsPage> m_pages;
-    HistoryPage* m_history = nullptr;
-    QString m_choice;     ///< the link to be chosen when the dialog is shown
-    int m_shown = -1;     ///< index of the page in the area
-    int m_shownLast = -1; ///< index of the page that was in the area before
+    QList<ProgramPage*> m_ownPages; ///< below those of the plug-ins
+    QString m_choice;               ///< the link to be chosen when the dialog is shown
+    int m_shown = -1;               ///< index of the page in the area
+    int m_shownLast = -1;           ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
     OfferLine* m_offerLine = nullptr;

@@ -3,22 +3,32 @@
 
 #pragma once
 
+#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <memory>
+
+#include "TrayWatch.h"
 
 class QWidget;
 
-/** The program in the desktop's tray, where there is one: the state of the connection and the quick links. */
+/**
+ * The program in the desktop's tray, where there is one: the state of the connection and the quick links. A window that
+ * is hidden comes back when there is no tray by which it could be shown.
+ */
 class Tray : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. Appears with the first state. */
+    /** Shows window on a click. Its menu holds linkMenu. Both must outlive the tray. Appears as soon as there is one.
+     */
     Tray(QWidget& window, QMenu& linkMenu);
 
     /** Whether the desktop has a tray now. */
-    static bool isAvailable();
+    bool isAvailable() const { return m_watch.isThere(); }
 
     /** Shows the state, with summary as the tool tip. */
     void setState(bool isUp, const QString& summary);
@@ -31,14 +41,21 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    void follow();
+    void bringBack();
+    void showIcon();
     void setTexts();
     bool eventFilter(QObject* object, QEvent* event) override;
     void toggleWindow();
 
     QWidget& m_window;
+    TrayWatch m_watch;
+    QTimer m_patience; ///< runs while a hidden window waits for a tray
     QMenu m_menu;
     QAction* m_show = nullptr;
     QAction* m_quit = nullptr;
-    QSystemTrayIcon m_icon;
+    QIcon m_state;
+    QString m_summary;
+    std::unique_ptr<QSystemTrayIcon> m_icon; ///< from the first tray on
     bool m_hasToldThatItKeepsRunning = false;
 };

@@ -5,14 +5,14 @@
 
 import dbus
 
-from service import Service
+from played_service import PlayedService
 
 MANAGER = "/org/freedesktop/NetworkManager"
 SETTINGS = "/org/freedesktop/NetworkManager/Settings"
 MODEM = "/org/freedesktop/ModemManager1/Modem/0"
 
 
-class NetworkManager(Service):
+class NetworkManager(PlayedService):
     """NetworkManager with a modem, "wwan0", a cable, "eth0", and a telephone by Bluetooth, which are not connected."""
 
     FULL, LIMITED, PORTAL = 4, 3, 2
@@ -104,7 +104,7 @@ class NetworkManager(Service):
         self._manager.SetConnectivity(dbus.UInt32(connectivity))
 
 
-class ModemManager(Service):
+class ModemManager(PlayedService):
     """ModemManager with one modem, registered with an operator."""
 
     _interface = "org.freedesktop.ModemManager1.Modem.Modem3gpp"
@@ -119,7 +119,7 @@ class ModemManager(Service):
         self.at(MODEM).UpdateProperties(self._interface, {"OperatorName": operator})
 
 
-class Logind(Service):
+class Logind(PlayedService):
     """logind, which tells of sleep."""
 
     def __init__(self):

@@ -7,20 +7,18 @@ import json
 
 import dbus
 
-from service import MOCK, Service
+from played_service import MOCK, PlayedService
 from waiting import wait_for
 
 PATH = "/org/freedesktop/Notifications"
 
 
-class Notifications(Service):
+class Notifications(PlayedService):
     """Takes every notification, and tells what the test lets the user do with it."""
-
-    bus = "SESSION"
 
     def __init__(self, capabilities="body body-markup actions"):
         super().__init__("org.freedesktop.Notifications", "--template", "notification_daemon", "--parameters",
-                         json.dumps({"capabilities": capabilities}))
+                         json.dumps({"capabilities": capabilities}), bus="SESSION")
 
     def told(self):
         """[(number that it replaces, title, text, {action: caption})] of every notification so far."""

@@ -45,6 +45,21 @@ class Accessibility(SettingsScenario):
             "page tab": ["Quick Links"]})
         self.assertEqual(settings.window.names("list"), ["Pages"])
 
+    def test_pages_of_the_program(self):
+        settings = self.open_settings()
+        settings.window.find("list item", "History").click()
+        settings.window.find("push button", "Go Back to This")
+        self.assertEqual(self.labels(settings.window), {"push button": ["Go Back to This", "OK", "Cancel"]})
+        settings.window.find("list item", "General").click()
+        settings.window.find("check box")
+        self.assertEqual(self.labels(settings.window), {"check box": ["Start with the session"],
+                                                        "push button": ["OK", "Cancel"]})
+
+    def test_many_links(self):
+        self.program.close()
+        self.start_with(*(link(i, f"Link {i}", EMAIL, "mailto:") for i in range(12)))
+        self.assertEqual(self.labels(self.window)["text"], ["Find a quick link"])
+
     def test_link_dialog(self):
         dialog = self.open_settings().new()
         fields = {TYPES[0]: ["Program file:", "Parameters:", "Name:"], TYPES[1]: ["Name:"],

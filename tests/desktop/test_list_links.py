@@ -50,6 +50,26 @@ class CommandLine(unittest.TestCase):
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))
         self.assertEqual(answer.stdout, "No quick links\n")
 
+    def files(self):
+        return sorted(str(path.relative_to(self.home)) for path in self.home.rglob("*"))
+
+    def test_list_links_makes_nothing(self):
+        before = self.files()
+        for arguments in ([], ["--data-dir", str(self.home / "data")], ["--data-dir", str(self.home / "new")]):
+            with self.subTest(arguments=arguments):
+                self.assertEqual(self.run_program("--list-links", *arguments).returncode, 0)
+                self.assertEqual(self.files(), before)
+
+    def test_missing_folder_of_plugins(self):
+        before = self.files()
+        missing = str(self.home / "no plug-ins")
+        for arguments in (["--list-links"], []):
+            with self.subTest(arguments=arguments):
+                answer = self.run_program("--plugin-dir", missing, *arguments)
+                self.assertEqual((answer.returncode, answer.stdout), (2, ""))
+                self.assertEqual(answer.stderr, f"vellumconnect: There is no folder \"{missing}\". Try --help.\n")
+        self.assertEqual(self.files(), before)
+
     def test_help(self):
         answer = self.run_program("--help")
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))

@@ -77,7 +77,10 @@ class OneProgram(Scenario):
         second = self.start_second(DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent")
         self.assertEqual((second.returncode, second.stdout), (1, ""))
         self.assertEqual(len(second.stderr.splitlines()), 1, second.stderr)
-        self.assertIn(f"process {self.program.pid}", second.stderr)
+        self.assertIn(f"It is running already, as process {self.program.pid}", second.stderr)
+        german = self.start_second("--language", "de", DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent")
+        self.assertEqual(german.returncode, 1)
+        self.assertIn(f"Prozess {self.program.pid}", german.stderr)
         self.expect_in_front()
 
     def test_another_folder_is_another_program(self):

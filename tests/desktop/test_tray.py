@@ -19,6 +19,7 @@ class Tray(Scenario):
                        self.folder / "tray.log")
         self.addCleanup(tray.close)
         wait_for(lambda: windows_of_class("trayer"), "the tray")
+        return tray
 
     def start_program(self):
         self.start_with(link(0, "Portal", INTERNET, "http://portal.example.org/"),
@@ -88,6 +89,21 @@ class Tray(Scenario):
 
     def test_tray_that_comes_later(self):
         self.start_program()
+        self.start_tray()
+        icon = self.icon()
+        self.close_window()
+        click_in_window(icon, 4, 4)
+        self.application.main_window(TITLE)
+
+    def test_tray_that_goes_brings_the_window_back(self):
+        tray = self.start_tray()
+        self.start_program()
+        self.icon()
+        self.close_window()
+        tray.close()
+        self.window = self.application.main_window(TITLE)
+        # A window of its own number by now.
+        self.main = active_window()
         self.start_tray()
         icon = self.icon()
         self.close_window()

@@ -3,6 +3,8 @@
 
 // What the program is asked for on its command line.
 
+#include <QDir>
+
 #include "CommandLine.h"
 #include "Test.h"
 
@@ -17,6 +19,9 @@ private Q_SLOTS:
     void readsTheLanguageBesideAnError();
     void readsTheKindOfConnection_data();
     void readsTheKindOfConnection();
+    void staysHiddenWhereAsked();
+    void asksForTheSameAgain_data();
+    void asksForTheSameAgain();
     void refusesInOneLine_data();
     void refusesInOneLine();
     void helpNamesEveryOption_data();
@@ -59,9 +64,9 @@ void CommandLineTest::readsTheAction()
 
 void CommandLineTest::readsValues()
 {
-    const CommandLine line = parsed({"--data-dir", "my data", "--plugin-dir=/p", "--language", "pt_BR"});
+    const CommandLine line = parsed({"--data-dir", "my data", "--plugin-dir=/tmp", "--language", "pt_BR"});
     QCOMPARE(line.dataFolder, "my data");
-    QCOMPARE(line.pluginFolder, "/p");
+    QCOMPARE(line.pluginFolder, "/tmp");
     QCOMPARE(line.language, "pt_BR");
     QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
 }
@@ -93,6 +98,37 @@ void CommandLineTest::readsTheKindOfConnection()
     QCOMPARE(line.error, QString());
 }
 
+void CommandLineTest::staysHiddenWhereAsked()
+{
+    QVERIFY(!parsed({}).isHidden);
+    const CommandLine line = parsed({"--hidden"});
+    QVERIFY(line.isHidden);
+    QCOMPARE(int(line.action), int(CommandLine::ShowWindow));
+}
+
+void CommandLineTest::asksForTheSameAgain_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("again");
+    const QString here = QDir::currentPath();
+    QTest::newRow("nothing") << QStringList() << QStringList{"--hidden"};
+    QTest::newRow("hidden") << QStringList{"--hidden"} << QStringList{"--hidden"};
+    QTest::newRow("folders") << QStringList{"--data-dir", "a b", "--plugin-dir", "/"}
+                             << QStringList{"--data-dir", here + "/a b", "--plugin-dir", "/", "--hidden"};
+    QTest::newRow("language") << QStringList{"--language=pt_BR"} << QStringList{"--language", "pt_BR", "--hidden"};
+    QTest::newRow("the usual connection") << QStringList{"--connection=mobile"} << QStringList{"--hidden"};
+    for (const char* kind : {"any", "manual"})
+        QTest::newRow(kind) << QStringList{"--connection", kind} << QStringList{"--connection", kind, "--hidden"};
+}
+
+void CommandLineTest::asksForTheSameAgain()
+{
+    QFETCH(QStringList, arguments);
+    const QStringList again = parsed(arguments).againHidden();
+    QTEST(again, "again");
+    QCOMPARE(parsed(again).againHidden(), again);
+}
+
 void CommandLineTest::refusesInOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -103,6 +139,8 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::newRow("no value") << QStringList{"--language"} << "--language";
     QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
     QTest::newRow("empty kind") << QStringList{"--connection="} << "\"--connection\"";
+    QTest::newRow("no such folder of plug-ins") << QStringList{"--plugin-dir=/not/there"} << "\"/not/there\"";
+    QTest::newRow("no folder of plug-ins") << QStringList{"--plugin-dir=/dev/null"} << "\"/dev/null\"";
     QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";
     QTest::newRow("value too much") << QStringList{"--list-links=1"} << "--list-links";
     QTest::newRow("error beside help") << QStringList{"--help", "--sing"} << "sing";
@@ -122,8 +160,8 @@ void CommandLineTest::refusesInOneLine()
 void CommandLineTest::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
-    for (const char* option :
-         {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection", "--list-links"})
+    for (const char* option : {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection",
+                               "--hidden", "--list-links"})
         QTest::newRow(option) << option;
 }
 

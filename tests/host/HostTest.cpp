@@ -39,6 +39,11 @@ private Q_SLOTS:
     void showsLinksInTheMenu();
     void tellsTheStartOnceAndAfterTheFirstPaint();
     void tellsTheStartOfAWindowThatIsPutAway();
+    void tellsTheStartOfAHiddenWindow();
+    void keepsTheWindowsPlace_data();
+    void keepsTheWindowsPlace();
+    void bringsTheWindowBackOntoTheScreen_data();
+    void bringsTheWindowBackOntoTheScreen();
     void tellsWhatTheUserSaysOfTheConnection();
     void tellsTheLanguage();
     void showsTheMenuInTheLanguage();
@@ -205,6 +210,69 @@ void HostTest::tellsTheStartOfAWindowThatIsPutAway()
     QTRY_VERIFY(recordedEvents().contains("painted"));
     QCoreApplication::processEvents();
     QCOMPARE(int(takeEvents().count(told)), 1);
+}
+
+void HostTest::tellsTheStartOfAHiddenWindow()
+{
+    const QString told = "FakeFirst Notify 258 0 0";
+    m_host->showWindow(ConnectionKind::Manual, true);
+    QTRY_VERIFY(recordedEvents().contains(told));
+    QVERIFY(window()->isHidden());
+    window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    window()->repaint();
+    QCoreApplication::processEvents();
+    QCOMPARE(int(takeEvents().count(told)), 1);
+}
+
+void HostTest::keepsTheWindowsPlace_data()
+{
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("at the end") << false;
+    QTest::newRow("when it is hidden") << true;
+}
+
+void HostTest::keepsTheWindowsPlace()
+{
+    QFETCH(bool, isHidden);
+    showWindow();
+    const QRect place(window()->x() + 31, window()->y() + 47, window()->minimumWidth() + 40, 400);
+    window()->setGeometry(place);
+    QTRY_COMPARE(window()->geometry(), place);
+    if (isHidden)
+        window()->hide();
+    else
+        m_host.reset();
+    QVERIFY(!UserSettings::windowPlace().isEmpty());
+    m_host.reset();
+    m_host = std::make_unique<Host>(*m_translator);
+    showWindow();
+    QCOMPARE(window()->geometry(), place);
+}
+
+void HostTest::bringsTheWindowBackOntoTheScreen_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("right") << QPoint(20000, 100);
+    QTest::newRow("left") << QPoint(-20000, 100);
+    QTest::newRow("below") << QPoint(100, 20000);
+    QTest::newRow("above") << QPoint(100, -20000);
+    QTest::newRow("half of it right") << QPoint(500, 100);
+    QTest::newRow("half of it below") << QPoint(100, 600);
+    QTest::newRow("half of it left") << QPoint(-300, 100);
+    QTest::newRow("most of it above") << QPoint(100, -390);
+}
+
+void HostTest::bringsTheWindowBackOntoTheScreen()
+{
+    QFETCH(QPoint, place);
+    QWidget elsewhere;
+    elsewhere.setGeometry(QRect(place, QSize(600, 400)));
+    elsewhere.show();
+    UserSettings::setWindowPlace(elsewhere.saveGeometry());
+    showWindow();
+    QVERIFY(screenArea(window()).contains(window()->geometry()));
+    QCOMPARE(window()->size(), QSize(600, 400));
 }
 
 void HostTest::tellsWhatTheUserSaysOfTheConnection()

@@ -13,6 +13,7 @@
 #include "FakeLinkPage.h"
 #include "FakePlugin.h"
 #include "FakeTranslator.h"
+#include "GeneralPage.h"
 #include "HistoryPage.h"
 #include "LinkHistory.h"
 #include "OfferLine.h"
@@ -31,7 +32,7 @@ private Q_SLOTS:
     void listsPluginsWithACaption();
     void leavesOutInactivePages();
     void saysThatThereAreNoPages();
-    void showsTheHistoryAmongThePages();
+    void showsTheProgramsOwnPages();
     void growsByALineThatComesIn();
     void showsTheFirstPage();
     void leavesAPageForAnother();
@@ -163,24 +164,30 @@ void SettingsDialogTest::saysThatThereAreNoPages()
     QCOMPARE(takeEvents(), QStringList());
 }
 
-void SettingsDialogTest::showsTheHistoryAmongThePages()
+void SettingsDialogTest::showsTheProgramsOwnPages()
 {
     const QTemporaryDir folder;
     const LinkHistory history(folder.path(), folder.filePath("history"));
     make(m_mail.get());
     HistoryPage* const page = new HistoryPage(history);
-    m_dialog->setHistory(page);
-    QCOMPARE(captions(), QStringList({"My Mail", "History"}));
+    GeneralPage* const general = new GeneralPage(false);
+    m_dialog->addPage(page);
+    m_dialog->addPage(general);
+    QCOMPARE(captions(), QStringList({"My Mail", "History", "General"}));
     m_dialog->show();
     QVERIFY(!page->isVisible());
     list()->setCurrentRow(1);
     QVERIFY(page->isVisible());
     QCOMPARE(takeEvents(), QStringList({"Mail shown", "Mail hidden"}));
-    // It stays while the plug-ins are taken down and started again.
+    list()->setCurrentRow(2);
+    QVERIFY(general->isVisible() && !page->isVisible());
+    list()->setCurrentRow(1);
+    QVERIFY(!general->isVisible() && page->isVisible());
+    // They stay while the plug-ins are taken down and started again.
     m_dialog->leavePages();
     QVERIFY(!page->isVisible());
-    m_dialog->setPlugins({});
-    QCOMPARE(captions(), QStringList({"History"}));
+    m_dialog->setPlugins({{m_mail.get(), m_mail.get(), m_mail->objectName()}});
+    QCOMPARE(captions(), QStringList({"My Mail", "History", "General"}));
     QVERIFY(page->isVisible());
     press(QDialogButtonBox::Ok);
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void keepsAgreedAddresses();
     void knowsAddressesByTheirExactSpelling_data();
     void knowsAddressesByTheirExactSpelling();
+    void keepsTheWindowsPlace();
     void makesTheMissingFolder();
     void warnsWhenItCannotBeKept();
 };
@@ -111,6 +112,19 @@ void UserSettingsTest::knowsAddressesByTheirExactSpelling()
     UserSettings::addAgreed("sms:2");
     QVERIFY(!UserSettings::isAgreed(address));
     QVERIFY(UserSettings::isAgreed("sms:2"));
+}
+
+void UserSettingsTest::keepsTheWindowsPlace()
+{
+    const OwnFolder folder;
+    QCOMPARE(UserSettings::windowPlace(), QByteArray());
+    QByteArray place;
+    for (int i = 0; i < 256; ++i)
+        place.append(char(i));
+    UserSettings::setWindowPlace("another");
+    UserSettings::setWindowPlace(place);
+    QCOMPARE(UserSettings::windowPlace(), place);
+    QCOMPARE(UserSettings::language(), QString());
 }
 
 void UserSettingsTest::makesTheMissingFolder()

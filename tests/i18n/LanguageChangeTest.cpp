@@ -227,8 +227,8 @@ void LanguageChangeTest::windowFollows_data()
     QTest::addColumn<QString>("changed");
     QTest::newRow("main window")
         << "main"
-        << "&About Vellum Connect; &Connection; &Edit; &Help; &Language; &Plug-ins Left Out…; &Quick Links; &Quit; "
-           "&Redo; "
+        << "&About Vellum Connect; &Connection; &Edit; &Find a Quick Link; &Help; &Language; &Plug-ins Left Out…; "
+           "&Quick Links; &Quit; &Redo; "
            "&Settings…; &Status Bar; &System Language; &Tools; &Undo; &View; Co&nnect; Not connected; "
            "Press Connect when your connection is up.; Quick Links";
     QTest::newRow("page") << "page"

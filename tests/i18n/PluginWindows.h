@@ -21,7 +21,7 @@ public:
     ~PluginWindows();
 
     /** The settings dialog on the screen; null when the plug-in could not be loaded. */
-    QDialog* settings() const { return m_settings.get(); }
+    SettingsDialog* settings() const { return m_settings.get(); }
 
     /** Presses New, if that was not done before; null when no dialog came. */
     QDialog* linkDialog();

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-"""A service of the system's or the desktop's as the program meets it on a bus, played by dbusmock."""
+"""A service of the system or of the desktop as the program meets it on a bus, played by dbusmock."""
 
 import os
 import signal
@@ -16,16 +16,14 @@ from waiting import wait_for
 MOCK = "org.freedesktop.DBus.Mock"
 
 
-class Service:
-    """A played service on a bus of this environment, there when the constructor returns."""
+class PlayedService:
+    """A played service on the system or session bus of this environment, there when the constructor returns."""
 
-    bus = "SYSTEM"
-
-    def __init__(self, name, *arguments):
+    def __init__(self, name, *arguments, bus="SYSTEM"):
         self.name = name
         self._process = subprocess.Popen([sys.executable, "-m", "dbusmock", *arguments], stdin=subprocess.DEVNULL,
                                          stdout=subprocess.DEVNULL, preexec_fn=die_with_parent)
-        self._bus = dbus.bus.BusConnection(os.environ[f"DBUS_{self.bus}_BUS_ADDRESS"])
+        self._bus = dbus.bus.BusConnection(os.environ[f"DBUS_{bus}_BUS_ADDRESS"])
         wait_for(lambda: self._bus.name_has_owner(name), f"{name} on the bus")
 
     def at(self, path, interface=MOCK):
