@@ -108,7 +108,7 @@ class Failures(SettingsScenario):
         self.assertIn("/gone/", text)
         self.assertEqual(actions["edit"], "Edit Links…")
         # A stranger's notification is nobody's business.
-        notifications.act(99, "edit")
+        notifications.act(99, "default")
         notifications.act(1, "edit")
         settings = SettingsDialog(self.application)
         wait_for(lambda: settings.selected() == "Gone & away", "the link in the settings")
