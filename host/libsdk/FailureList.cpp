@@ -63,7 +63,7 @@ QString FailureList::lines(int count, bool isShortened) const
         if (i == 0 || failure.reason != m_kept.at(i - 1).reason)
             lines.append(failure.reason);
         const QString subject = failure.subject.left(longestLine);
-        const QString shown = ShownText::onOneLine(isShortened ? ShownText::shortened(subject) : subject);
+        const QString shown = isShortened ? ShownText::shortLine(subject) : ShownText::onOneLine(subject);
         // A long line takes several on the screen: the dot tells where one begins.
         lines.append(QString(QChar(0x2022)) + QLatin1Char(' ') + ShownText::isolatedPath(shown));
     }
