@@ -156,7 +156,8 @@ void SettingsDialog::showPage(int index)
     m_shown = index;
     if (m_shown < 0)
         return;
-    m_area->setPage(shown());
+    QWidget* const page = shown();
+    m_area->setPage(page, LinkPage(page).isThere() ? PageArea::Wanted : PageArea::Whole);
     growToPage();
 }
 
