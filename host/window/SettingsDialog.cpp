@@ -17,6 +17,7 @@
 
 #include "HistoryPage.h"
 #include "LinkPageKeys.h"
+#include "LinkRowDelegate.h"
 #include "OfferLine.h"
 #include "PageArea.h"
 
@@ -167,6 +168,7 @@ QWidget* SettingsDialog::shown()
     if (m_shown < m_pages.size()) {
         QWidget* const page = m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect());
         LinkPageKeys::addTo(page);
+        LinkRowDelegate::addTo(page);
         return page;
     }
     m_history->show();
