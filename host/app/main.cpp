@@ -13,7 +13,9 @@
 #include "FolderPrivacy.h"
 #include "Host.h"
 #include "IQuickLinkPlugin.h"
+#include "LetterScale.h"
 #include "LinkTable.h"
+#include "OwnStart.h"
 #include "RunningProgram.h"
 #include "Translator.h"
 #include "UserFolder.h"
@@ -46,6 +48,19 @@ int handOver(qint64 owner)
     return isRunningAlready;
 }
 
+/** Starts anew, once, where the toolkit has to enlarge everything for the desktop's letters. */
+void fitToLetters(const OwnStart& start, FolderLock& lock)
+{
+    const QList<QByteArray> wanted = LetterScale::wanted();
+    if (!wanted.isEmpty()) {
+        lock.giveBack();
+        start.repeat(wanted);
+        // Rather with letters cut off than not at all.
+        lock.take();
+    }
+    LetterScale::apply();
+}
+
 void describeApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("vellumconnect"));
@@ -63,6 +78,7 @@ int main(int argc, char** argv)
 {
     // The arguments are read before there is an application, which would look for a display.
     std::setlocale(LC_ALL, "");
+    const OwnStart start(argv);
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
     if (commandLine.action != CommandLine::ShowWindow)
@@ -90,8 +106,10 @@ int main(int argc, char** argv)
     const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
     if (showsWindow && lock.take() == FolderLock::Busy)
         return handOver(lock.owner());
-    if (showsWindow)
+    if (showsWindow) {
+        fitToLetters(start, lock);
         FolderPrivacy::keepOthersOut(UserFolder::path());
+    }
 
     Host host(translator);
     if (showsWindow)
