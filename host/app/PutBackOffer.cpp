@@ -27,8 +27,7 @@ void PutBackOffer::setLine(OfferLine* line)
 
 void PutBackOffer::offer(const LinkItems::Fields& link, const LinkItems::Fields& fields)
 {
-    const QString name =
-        ShownText::isolatedName(ShownText::shortened(ShownText::onOneLine(link.value(QStringLiteral("name")))));
+    const QString name = ShownText::isolatedName(ShownText::shortLine(link.value(QStringLiteral("name"))));
     const bool onConnect = fields.contains(QStringLiteral("startconnect"));
     const bool onStart = fields.contains(QStringLiteral("startmobile"));
     QStringList sentences;

@@ -13,7 +13,9 @@
 #include "FolderPrivacy.h"
 #include "Host.h"
 #include "IQuickLinkPlugin.h"
+#include "LetterScale.h"
 #include "LinkTable.h"
+#include "OwnStart.h"
 #include "RunningProgram.h"
 #include "Translator.h"
 #include "UserFolder.h"
@@ -44,6 +46,19 @@ int handOver(qint64 owner)
     return refuse(CommandLine::runningAlready(owner, UserFolder::path()), cannotStart);
 }
 
+/** Starts anew, once, where the toolkit has to enlarge everything for the desktop's letters. */
+void fitToLetters(const OwnStart& start, FolderLock& lock)
+{
+    const QList<QByteArray> wanted = LetterScale::wanted();
+    if (!wanted.isEmpty()) {
+        lock.giveBack();
+        start.repeat(wanted);
+        // Rather with letters cut off than not at all.
+        lock.take();
+    }
+    LetterScale::apply();
+}
+
 void describeApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("vellumconnect"));
@@ -69,6 +84,7 @@ int main(int argc, char** argv)
 {
     // The arguments are read before there is an application, which would look for a display.
     std::setlocale(LC_ALL, "");
+    const OwnStart start(argv);
     const QStringList arguments = CommandLine::arguments(argc, argv);
     const CommandLine commandLine = CommandLine::parse(arguments);
     const bool showsWindow = commandLine.action == CommandLine::ShowWindow;
@@ -104,12 +120,12 @@ int main(int argc, char** argv)
     FolderLock lock(UserFolder::path());
     if (showsWindow && lock.take() == FolderLock::Busy)
         return commandLine.isHidden ? 0 : handOver(lock.owner());
-    if (showsWindow)
+    if (showsWindow) {
+        fitToLetters(start, lock);
         FolderPrivacy::keepOthersOut(UserFolder::path());
-
-    // Not before: it is read from files, which takes a moment.
-    if (showsWindow)
+        // Not before: it is read from files, which takes a moment.
         QApplication::setWindowIcon(programIcon());
+    }
 
     Host host(translator);
     if (!showsWindow) {

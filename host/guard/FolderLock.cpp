@@ -34,11 +34,22 @@ FolderLock::FolderLock(const QString& folder)
 
 FolderLock::~FolderLock()
 {
+    release(m_isLeftBehind);
+}
+
+void FolderLock::giveBack()
+{
+    release(m_wasLeftBehind);
+}
+
+void FolderLock::release(bool leavesFile)
+{
     if (m_descriptor < 0)
         return;
-    if (!m_isLeftBehind)
+    if (!leavesFile)
         ::unlink(lockOf(m_folder).constData());
     ::close(m_descriptor);
+    m_descriptor = -1;
 }
 
 FolderLock::Result FolderLock::take()

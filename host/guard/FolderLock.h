@@ -28,8 +28,14 @@ public:
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /** Takes the lock, and makes the folder where it is missing. To be called once. */
+    /** Takes the lock, and makes the folder where it is missing. To be called once, and again after giveBack(). */
     Result take();
+
+    /**
+     * Gives the lock back before the end of the object, as it was found: what the run before left behind is there for
+     * who takes it next, which may be this object.
+     */
+    void giveBack();
 
     /** The number of the process that has the lock where take() answered Busy; 0 where it is not known. */
     qint64 owner() const { return m_owner; }
@@ -42,6 +48,7 @@ public:
 
 private:
     bool isStillTheFile() const;
+    void release(bool leavesFile);
 
     QString m_folder;
     int m_descriptor = -1;

@@ -44,7 +44,7 @@ QString FailureList::text() const
 {
     if (m_count == 1) {
         const Failure& failure = m_kept.first();
-        const QString subject = ShownText::isolatedPath(ShownText::shortened(failure.subject));
+        const QString subject = ShownText::isolatedPath(ShownText::shortLine(failure.subject));
         return failure.reason + QLatin1String("\n\n") + named(failure, subject);
     }
     const QString text = lines(shownAtMost, true);
@@ -66,7 +66,7 @@ QString FailureList::named(const Failure& failure, const QString& subject)
 {
     if (failure.link.isEmpty())
         return subject;
-    const QString name = ShownText::isolatedName(ShownText::onOneLine(ShownText::shortened(failure.link)));
+    const QString name = ShownText::isolatedName(ShownText::shortLine(failure.link));
     return subject.isEmpty() ? name : tr("%1: %2", "name of a link and its address").arg(name, subject);
 }
 
@@ -79,7 +79,7 @@ QString FailureList::lines(int count, bool isShortened) const
         if (i == 0 || failure.reason != m_kept.at(i - 1).reason)
             lines.append(failure.reason);
         const QString subject = failure.subject.left(longestLine);
-        const QString shown = ShownText::onOneLine(isShortened ? ShownText::shortened(subject) : subject);
+        const QString shown = isShortened ? ShownText::shortLine(subject) : ShownText::onOneLine(subject);
         // A long line takes several on the screen: the dot tells where one begins.
         lines.append(QString(QChar(0x2022)) + QLatin1Char(' ') + named(failure, ShownText::isolatedPath(shown)));
     }

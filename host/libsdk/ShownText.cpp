@@ -4,9 +4,7 @@
 #include "ShownText.h"
 
 #include <QApplication>
-
-// A single word of any length must fit on a small screen.
-static const int longest = 120; // characters
+#include <QTextDocument>
 
 static const QChar leftToRightIsolate(0x2066);
 static const QChar firstStrongIsolate(0x2068);
@@ -47,13 +45,31 @@ QString ShownText::onOneLine(const QString& text)
     return line;
 }
 
-QString ShownText::shortened(const QString& text)
+QString ShownText::shortLine(const QString& text, int longest)
 {
     if (text.size() <= longest)
-        return text;
+        return onOneLine(text);
     // Never half a character.
     const int end = text.at(longest - 1).isHighSurrogate() ? longest - 1 : longest;
-    return text.left(end) + QChar(0x2026);
+    return onOneLine(text.left(end)) + QChar(0x2026);
+}
+
+QString ShownText::toolTip(const QString& text)
+{
+    const int longestWord = 50;
+    const QChar zeroWidthSpace(0x200b);
+    QString breakable;
+    int length = 0;
+    for (const QChar character : text) {
+        length = character.isSpace() ? 0 : length + 1;
+        // Never within a letter.
+        if (length > longestWord && !character.isLowSurrogate() && !character.isMark()) {
+            breakable += zeroWidthSpace;
+            length = 1;
+        }
+        breakable += character;
+    }
+    return Qt::convertFromPlainText(breakable, Qt::WhiteSpaceNormal);
 }
 
 QString ShownText::isolatedPath(const QString& path)
@@ -73,10 +89,10 @@ QString ShownText::withoutIsolates(QString text)
 
 QString ShownText::withSubject(const QString& message, const QString& subject)
 {
-    return message + QLatin1String("\n\n") + isolatedPath(shortened(subject));
+    return message + QLatin1String("\n\n") + isolatedPath(shortLine(subject));
 }
 
 QString ShownText::detailsOf(const QString& subject)
 {
-    return subject.size() > longest ? isolatedPath(subject) : QString();
+    return subject.size() > longestLine ? isolatedPath(onOneLine(subject)) : QString();
 }

@@ -15,8 +15,17 @@ namespace ShownText
  */
 QString onOneLine(const QString& text);
 
-/** The whole text, or, where it is longer than 120 characters, its beginning and "…". */
-QString shortened(const QString& text);
+/** Characters of a single word that fit on a small screen. */
+const int longestLine = 120;
+
+/** onOneLine(), and where that is longer than so many characters its beginning and "…". */
+QString shortLine(const QString& text, int longest = longestLine);
+
+/**
+ * Markup for a tool tip that shows text as it stands, whatever looks like markup in it, and breaks a word that is
+ * longer than a tool tip is wide.
+ */
+QString toolTip(const QString& text);
 
 /**
  * A path or an address fit to stand in a text of another direction: within Unicode's signs that keep its own order,
@@ -31,11 +40,10 @@ QString isolatedName(const QString& name);
 /** A text without such signs, fit to be opened. */
 QString withoutIsolates(QString text);
 
-/** message, an empty line, and what it speaks of, a path or an address, isolated, and as it stands but shortened. */
+/** message, an empty line, and what it speaks of, a path or an address, isolated, as its shortLine(). */
 QString withSubject(const QString& message, const QString& subject);
 
-/** What is to be unfolded below withSubject(): the whole subject, isolated, where it was shortened, else nothing.
- */
+/** What is to be unfolded below withSubject(): the whole subject, isolated, where it was shortened, else nothing. */
 QString detailsOf(const QString& subject);
 
 } // namespace ShownText

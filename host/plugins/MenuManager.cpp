@@ -4,7 +4,6 @@
 #include "MenuManager.h"
 
 #include <QPointer>
-#include <QTextDocument>
 
 #include "HostContract.h"
 #include "IQuickLinkPlugin.h"
@@ -12,6 +11,9 @@
 #include "OpenedLink.h"
 #include "PluginContainer.h"
 #include "ShownText.h"
+
+// In characters: on a small screen, a menu is not wider than it is high. The rest is in the tool tip.
+static const int longestEntry = 60;
 
 MenuManager::MenuManager(const PluginContainer& container)
     : m_container(container)
@@ -65,17 +67,16 @@ void MenuManager::addLinks(const PluginWith<IQuickLinkPlugin>& plugin)
 
 void MenuManager::setTexts(QAction* action)
 {
-    const QString tip = tr("Open %1").arg(ShownText::isolatedName(action->data().toString()));
-    // A name that looks like markup is shown as it stands.
-    action->setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal));
-    action->setStatusTip(tip);
+    const QString name = action->data().toString();
+    action->setToolTip(ShownText::toolTip(tr("Open %1").arg(ShownText::isolatedName(name))));
+    action->setStatusTip(tr("Open %1").arg(ShownText::isolatedName(ShownText::shortLine(name, longestEntry))));
 }
 
 /** The host's action for a plug-in's own one, which is in this place of the plug-in's list. */
 QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs, int place)
 {
     const QString name = LinkName::onOneLine(theirs->text());
-    QAction* const action = new QAction(LinkName::withAmpersands(name), this);
+    QAction* const action = new QAction(LinkName::withAmpersands(ShownText::shortLine(name, longestEntry)), this);
     action->setData(name);
     setTexts(action);
     connect(action, &QAction::triggered, this, [plugin, place, theirs = QPointer<QAction>(theirs)] {

@@ -85,7 +85,7 @@ void ConnectionPanel::setRow(QLabel* value, const QString& caption, const QStrin
     const int index = m_rows->indexOf(value);
     QLabel* const label = static_cast<QLabel*>(m_rows->itemAt(index - 1)->widget());
     label->setText(caption);
-    const QString shown = ShownText::onOneLine(ShownText::shortened(text));
+    const QString shown = ShownText::shortLine(text);
     value->setText(shown);
     value->setAccessibleName(caption + QLatin1Char(' ') + shown);
     label->setVisible(!text.isEmpty());

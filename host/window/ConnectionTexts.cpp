@@ -27,7 +27,7 @@ QString ConnectionTexts::state() const
 
 QString ConnectionTexts::summary() const
 {
-    const QString name = ShownText::onOneLine(ShownText::shortened(m_monitor.state().name));
+    const QString name = ShownText::shortLine(m_monitor.state().name);
     return name.isEmpty()
                ? state()
                : tr("%1: %2", "state and name of the connection").arg(state(), ShownText::isolatedName(name));

@@ -48,7 +48,7 @@ private:
         QStringList shown;
         const QStringList first = names.mid(0, namesShown);
         for (const QString& name : first)
-            shown.append(ShownText::isolatedName(ShownText::shortened(ShownText::onOneLine(name))));
+            shown.append(ShownText::isolatedName(ShownText::shortLine(name)));
         if (names.size() > namesShown)
             shown.append(tr("%n more", nullptr, int(names.size()) - namesShown));
         return shown.join(QStringLiteral(", "));

@@ -107,7 +107,7 @@ void MainWindow::showNotLoaded(const QStringList& files)
 {
     QStringList names;
     for (const QString& file : files)
-        names.append(ShownText::isolatedPath(file));
+        names.append(ShownText::isolatedPath(ShownText::shortLine(file)));
     statusBar()->showMessage(tr("Plug-ins not loaded: %1").arg(names.join(QStringLiteral(", "))));
 }
 

@@ -23,6 +23,8 @@ void MainWindow::buildMenus(QMenu* languageMenu)
     m_linkMenu = menuBar()->addMenu(QString());
     // Hundreds of links must stay within reach: columns wider than the screen would not.
     m_linkMenu->setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
+    // The whole of a name that is too long for a menu.
+    m_linkMenu->setToolTipsVisible(true);
     m_noLinks = new QAction(this);
     m_noLinks->setEnabled(false);
 

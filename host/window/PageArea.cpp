@@ -4,6 +4,7 @@
 #include "PageArea.h"
 
 #include <QEvent>
+#include <QStyle>
 
 PageArea::PageArea()
 {
@@ -21,13 +22,13 @@ QWidget* PageArea::pageParent() const
     return widget();
 }
 
-void PageArea::setPage(QWidget* page)
+void PageArea::setPage(QWidget* page, Room room)
 {
     m_page = page;
+    m_room = room;
     pageParent()->setMinimumSize(
         page ? page->sizeHint().expandedTo(page->minimumSizeHint()).expandedTo(page->minimumSize()) : QSize(0, 0));
-    if (page)
-        page->setGeometry(pageParent()->rect());
+    place();
     updateGeometry();
 }
 
@@ -38,7 +39,16 @@ QSize PageArea::sizeHint() const
 
 bool PageArea::eventFilter(QObject* object, QEvent* event)
 {
-    if (object == pageParent() && event->type() == QEvent::Resize && m_page)
-        m_page->setGeometry(pageParent()->rect());
+    if (object == pageParent() && event->type() == QEvent::Resize)
+        place();
     return QScrollArea::eventFilter(object, event);
+}
+
+void PageArea::place()
+{
+    if (!m_page)
+        return;
+    const QRect all = pageParent()->rect();
+    const QSize size = m_room == Whole ? all.size() : pageParent()->minimumSize();
+    m_page->setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, all));
 }

@@ -18,9 +18,13 @@ public:
     /** The widget that pages are to be made children of. */
     QWidget* pageParent() const;
 
-    /** Keeps page, a child of pageParent(), as large as the area and never smaller than it wants to be; null for none.
-     */
-    void setPage(QWidget* page);
+    enum Room {
+        Whole, ///< the page uses whatever room there is
+        Wanted ///< the page does not know what to do with more than it wants, and stands in the middle
+    };
+
+    /** Keeps page, a child of pageParent(), in this room, and never smaller than it wants to be; null for none. */
+    void setPage(QWidget* page, Room room = Whole);
 
     /** As large as shows the whole page. */
     QSize sizeHint() const override;
@@ -30,5 +34,8 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void place();
+
     QPointer<QWidget> m_page;
+    Room m_room = Whole;
 };

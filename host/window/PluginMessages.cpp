@@ -38,7 +38,7 @@ public:
     {
         const bool isStart = unfinished.call == PluginGate::Loading || unfinished.call == PluginGate::Init;
         const QString sentence = isStart ? ofStart(unfinished.isHung) : ofEnd(unfinished.isHung);
-        return sentence.arg(ShownText::isolatedName(fit(unfinished.file.name())));
+        return sentence.arg(ShownText::isolatedName(ShownText::shortLine(unfinished.file.name())));
     }
 
 private:
@@ -56,10 +56,8 @@ private:
 
     static QString withPlace(const QString& sentence, const Gatekeeper::Refusal& refusal)
     {
-        return sentence.arg(ShownText::isolatedPath(fit(refusal.place)));
+        return sentence.arg(ShownText::isolatedPath(ShownText::shortLine(refusal.place)));
     }
-
-    static QString fit(const QString& name) { return ShownText::onOneLine(ShownText::shortened(name)); }
 };
 } // namespace
 
@@ -71,7 +69,7 @@ PluginMessages::PluginMessages(QWidget* window)
 void PluginMessages::tell(const QList<Gatekeeper::Refusal>& refusals)
 {
     for (const Gatekeeper::Refusal& refusal : refusals)
-        showNotice(tr("Plug-ins"), Sentence::of(refusal), ShownText::onOneLine(refusal.file));
+        showNotice(tr("Plug-ins"), Sentence::of(refusal), refusal.file);
 }
 
 void PluginMessages::ask(const QList<LeftOutPlugins::Entry>& leftOut)

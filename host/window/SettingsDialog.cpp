@@ -18,6 +18,7 @@
 
 #include "LinkPage.h"
 #include "LinkPageKeys.h"
+#include "LinkRowDelegate.h"
 #include "OfferLine.h"
 #include "PageArea.h"
 #include "ProgramPage.h"
@@ -205,7 +206,8 @@ void SettingsDialog::showPage(int index)
     m_shown = index;
     if (m_shown < 0)
         return;
-    m_area->setPage(shown());
+    QWidget* const page = shown();
+    m_area->setPage(page, LinkPage(page).isThere() ? PageArea::Wanted : PageArea::Whole);
     showNote();
     growToPage();
 }
@@ -216,6 +218,7 @@ QWidget* SettingsDialog::shown()
     if (m_shown < m_pages.size()) {
         QWidget* const page = m_pages.at(m_shown).show(m_area->pageParent(), m_area->pageParent()->rect());
         LinkPageKeys::addTo(page);
+        LinkRowDelegate::addTo(page);
         return page;
     }
     ownPage(m_shown)->show();

@@ -43,6 +43,13 @@ def window_title(window):
     return _answer("getwindowname", window)
 
 
+def window_size(window):
+    """(width, height) without its frame, in pixels of the display."""
+    lines = _answer("getwindowgeometry", "--shell", window).splitlines()
+    values = dict(line.split("=") for line in lines)
+    return int(values["WIDTH"]), int(values["HEIGHT"])
+
+
 def process_of_window(window):
     return _answer("getwindowpid", window)
 

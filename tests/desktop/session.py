@@ -44,7 +44,7 @@ class Session:
         try:
             self._set_environment(self._home.name)
             os.environ["DISPLAY"] = ":" + self._start_telling(
-                lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{screen}x24", "-nolisten", "tcp",
+                lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{screen}x24", "-dpi", "96", "-nolisten", "tcp",
                             "-noreset"])
         except BaseException:
             self.close()

@@ -7,6 +7,7 @@ import os
 from pathlib import Path
 
 from display import save_active_window
+from letters import letters, scale_of
 from network import ModemManager, NetworkManager
 from scenario import main
 from screen import Widget
@@ -29,23 +30,41 @@ class Pictures(SettingsScenario):
     def test_default(self):
         self.take_all("")
 
-    def test_large_fonts(self):
-        """Fonts of 14 points in place of 9, as a user with weak eyes sets them in the desktop's settings."""
-        settings = self.folder / "config/kdeglobals"
-        settings.parent.mkdir()
-        fonts = [f"{name}=DejaVu Sans,14,-1,5,50,0,0,0,0,0\n" for name in ("font", "menuFont", "toolBarFont")]
-        settings.write_text("[General]\n" + "".join(fonts), encoding="ascii")
-        self.take_all("large-fonts-", QT_QPA_PLATFORMTHEME="kde", KDE_SESSION_VERSION="5",
-                      XDG_CONFIG_HOME=str(settings.parent))
+    def test_large_letters(self):
+        """Letters of 14 points and more in place of 9, as a user with weak eyes sets them in the desktop's settings."""
+        self.take_all("14-points-", **letters(self.folder, 14))
+
+    def test_larger_letters(self):
+        self.take_all("18-points-", **letters(self.folder, 18))
+
+    def test_largest_letters(self):
+        self.take_all("24-points-", **letters(self.folder, 24))
+
+    def test_dark(self):
+        self.take_all("dark-", **letters(self.folder, 9, is_dark=True))
 
     def test_scaled(self):
         """A display of twice the density."""
-        Widget.scale = 2
-        self.addCleanup(setattr, Widget, "scale", 1)
         self.take_all("scaled-", QT_SCALE_FACTOR="2")
 
+    def test_styles(self):
+        for style in ("adwaita", "adwaita-dark", "breeze"):
+            with self.subTest(style):
+                self.start(QT_STYLE_OVERRIDE=style)
+                is_installed = "invalid style override" not in self.program.output()
+                if is_installed:
+                    self.take_windows(f"{style}-")
+                self.program.close()
+                if not is_installed:
+                    self.skipTest("it is not installed")
+
     def take_all(self, prefix, **environment):
+        self.addCleanup(setattr, Widget, "scale", 1)
         self.start(**environment)
+        Widget.scale = scale_of(self.program.pid)
+        self.take_windows(prefix)
+
+    def take_windows(self, prefix):
         self.network.activate("Mobile plan")
         self.window.find("label", "Operator: Northern Mobile")
         self.take(prefix + "main-window")

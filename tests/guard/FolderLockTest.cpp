@@ -20,6 +20,7 @@ private Q_SLOTS:
     void goesWithItsObject();
     void isLeftBehindByADeadProcess();
     void isLeftBehindWhenTold();
+    void isGivenBackAsItWasFound();
     void makesTheFolder();
     void holdsOnAFullDisk();
     void noneWhereNothingCanBeWritten();
@@ -78,6 +79,24 @@ void FolderLockTest::isLeftBehindWhenTold()
     FolderLock second(folder.path());
     QCOMPARE(second.take(), FolderLock::Taken);
     QVERIFY(second.wasLeftBehind());
+}
+
+void FolderLockTest::isGivenBackAsItWasFound()
+{
+    const GuardedFolder folder;
+    FolderLock lock(folder.path());
+    QCOMPARE(lock.take(), FolderLock::Taken);
+    lock.giveBack();
+    QCOMPARE(lock.take(), FolderLock::Taken);
+    QVERIFY(!lock.wasLeftBehind());
+    lock.giveBack();
+    QVERIFY(GuardedFolder::writeTo(folder.path() + "/lock", "1\n"));
+    QCOMPARE(lock.take(), FolderLock::Taken);
+    QVERIFY(lock.wasLeftBehind());
+    lock.giveBack();
+    FolderLock another(folder.path());
+    QCOMPARE(another.take(), FolderLock::Taken);
+    QVERIFY(another.wasLeftBehind());
 }
 
 void FolderLockTest::makesTheFolder()

@@ -51,7 +51,7 @@ void FailureListTest::tellsOneInFull()
     FailureList list;
     list.add("Title", "Gone:", "/a\nb");
     QCOMPARE(list.title(), "Title");
-    QCOMPARE(list.text(), "Gone:\n\n/a\nb");
+    QCOMPARE(list.text(), "Gone:\n\n/a b");
     QCOMPARE(list.details(), QString());
 
     const QString longest(100000, 'x');

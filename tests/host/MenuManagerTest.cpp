@@ -166,6 +166,13 @@ void MenuManagerTest::showsTheNameAsItStands_data()
                            << "a b"
                            << "Open a b"
                            << "Open a b";
+    QTest::newRow("turned around") << "photo" + codePoint(0x202e) + "gpj.exe"
+                                   << "photo gpj.exe"
+                                   << "Open photo gpj.exe"
+                                   << "Open photo gpj.exe";
+    const QString beginning = QString(60, 'x') + QChar(0x2026), part = codePoint(0x200b) + QString(50, 'x');
+    QTest::newRow("440 letters") << QString(440, 'x') << beginning << "Open " + beginning
+                                 << "Open " + (part.repeated(8) + codePoint(0x200b) + QString(40, 'x')).mid(1);
     QTest::newRow("place marker") << "%1"
                                   << "%1"
                                   << "Open %1"

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void hasRoomForAPageThatMustNotBeSmaller();
     void keepsThePageAsLargeAsItself_data();
     void keepsThePageAsLargeAsItself();
+    void keepsAPageOfItsOwnSizeInTheMiddle_data();
+    void keepsAPageOfItsOwnSizeInTheMiddle();
     void doesNotKeepAFormerPage();
     void doesWithoutAPageThatIsGone();
 };
@@ -106,6 +108,33 @@ void PageAreaTest::keepsThePageAsLargeAsItself()
     QCOMPARE(page->pos(), QPoint(0, 0));
     QTRY_COMPARE(page->width(), pageSize.width() ? pageSize.width() : viewport.width());
     QTRY_COMPARE(page->height(), pageSize.height() ? pageSize.height() : viewport.height());
+}
+
+void PageAreaTest::keepsAPageOfItsOwnSizeInTheMiddle_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("place");
+    QTest::newRow("as large") << QSize(500, 400) << QRect(0, 0, 500, 400);
+    QTest::newRow("room to spare") << QSize(800, 700) << QRect(150, 150, 500, 400);
+    QTest::newRow("wide") << QSize(800, 400) << QRect(150, 0, 500, 400);
+    QTest::newRow("too small") << QSize(300, 200) << QRect(0, 0, 500, 400);
+}
+
+void PageAreaTest::keepsAPageOfItsOwnSizeInTheMiddle()
+{
+    QFETCH(QSize, size);
+    QFETCH(QRect, place);
+    const std::unique_ptr<PageArea> area = shownArea();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+    QWidget* const page = new SizedPage(area->pageParent(), QSize(500, 400), QSize(10, 10));
+    area->setPage(page, PageArea::Wanted);
+    QCOMPARE(page->geometry(), QRect(50, 50, 500, 400));
+    area->resize(size);
+    QTRY_COMPARE(page->geometry(), place);
+    // The next one is not asked to do the same.
+    QWidget* const next = new SizedPage(area->pageParent(), QSize(10, 10), QSize(10, 10));
+    area->setPage(next);
+    QTRY_COMPARE(next->geometry(), area->pageParent()->rect());
 }
 
 void PageAreaTest::doesNotKeepAFormerPage()

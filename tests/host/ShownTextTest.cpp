@@ -21,6 +21,9 @@ private Q_SLOTS:
     void isShortened_data();
     void isShortened();
     void neverCutsACharacter();
+    void isShortenedOnOneLine();
+    void isWholeInAToolTip_data();
+    void isWholeInAToolTip();
     void standsBelowItsMessage();
     void keepsItsOrder_data();
     void keepsItsOrder();
@@ -69,7 +72,7 @@ void ShownTextTest::isShortened()
     QFETCH(int, length);
     QFETCH(int, shown);
     const QString text(length, 'x');
-    const QString result = ShownText::shortened(text);
+    const QString result = ShownText::shortLine(text);
     QCOMPARE(int(result.size()), shown);
     QCOMPARE(result.endsWith(QChar(0x2026)), length > 120);
     QCOMPARE(ShownText::detailsOf(text), length > 120 ? text : QString());
@@ -78,12 +81,47 @@ void ShownTextTest::isShortened()
 void ShownTextTest::neverCutsACharacter()
 {
     const QString text = QString(119, 'x') + codePoint(0x1f4e7) + "yz";
-    QCOMPARE(ShownText::shortened(text), QString(119, 'x') + QChar(0x2026));
+    QCOMPARE(ShownText::shortLine(text), QString(119, 'x') + QChar(0x2026));
+}
+
+void ShownTextTest::isShortenedOnOneLine()
+{
+    QCOMPARE(ShownText::shortLine("a\nb" + codePoint(0x202e) + 'c'), "a b c");
+    QCOMPARE(ShownText::shortLine(codePoint(0x202e) + "\tabc", 3), "  a" + QString(QChar(0x2026)));
+    QCOMPARE(ShownText::shortLine("abc", 3), "abc");
+}
+
+void ShownTextTest::isWholeInAToolTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    const QString space = codePoint(0x200b), word(50, 'x'), mark = codePoint(0x0301), envelope = codePoint(0x1f4e7);
+    QTest::newRow("empty") << ""
+                           << "";
+    QTest::newRow("like markup") << "<b> & </b>"
+                                 << "&lt;b&gt; &amp; &lt;/b&gt;";
+    QTest::newRow("words that are not too long") << word + ' ' + word << word + ' ' + word;
+    QTest::newRow("a long word") << word + word + 'y' << word + space + word + space + 'y';
+    QTest::newRow("never within an accented letter") << word + mark + 'y' << word + mark + space + 'y';
+    QTest::newRow("never within a character") << word.mid(1) + envelope << word.mid(1) + envelope;
+}
+
+void ShownTextTest::isWholeInAToolTip()
+{
+    QFETCH(QString, text);
+    QString toolTip = ShownText::toolTip(text);
+    QTEST(toolTip.remove("<p>").remove("</p>"), "shown");
 }
 
 void ShownTextTest::standsBelowItsMessage()
 {
-    QCOMPARE(ShownText::withSubject("Not found:", "/a\n/b"), "Not found:\n\n/a\n/b");
+    QCOMPARE(ShownText::withSubject("Not found:", "/a"), "Not found:\n\n/a");
+    // Whoever wrote it does not write the message.
+    QCOMPARE(ShownText::withSubject("Not found:", "/a\n/b"), "Not found:\n\n/a /b");
+    const QString turned = "photo" + codePoint(0x202e) + "gpj.exe";
+    QCOMPARE(ShownText::withSubject("Not found:", turned), "Not found:\n\nphoto gpj.exe");
+    const QString longest(200, 'x');
+    QCOMPARE(ShownText::detailsOf(longest + '\n' + turned), longest + " photo gpj.exe");
 }
 
 void ShownTextTest::keepsItsOrder_data()

@@ -26,7 +26,7 @@ void writeLinks(const QString& folder)
                "<menu parent=\"quicklink\">");
     for (const char* const type : {"APPLICATION", "E-MAIL", "INTERNET"}) {
         file.write(
-            QByteArray("<item id=\"0\" name=\"A\" type=\"IDS_LINK_TYPE_") + type +
+            QByteArray("<item id=\"0\" name=\"\xc3\x85gjq\" type=\"IDS_LINK_TYPE_") + type +
             "\" url=\"\" para=\"\" startconnect=\"0\" startmobile=\"0\" delete=\"1\" edit=\"1\" visible=\"1\"/>");
     }
     file.write("</menu></tovadoc>");

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QImage>
+#include <QItemDelegate>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -17,8 +18,14 @@
 #include <QTabBar>
 #include <QTableWidget>
 
+#include <algorithm>
+
 namespace
 {
+// The edges of letters are smoothed: what is nearly white is not seen.
+const int faintest = 230;
+const double smallestPart = 0.85; // of the size of other letters, so that those of a row are read as easily
+
 /** A text and where it is drawn. */
 struct Place {
     const QWidget* widget;
@@ -53,8 +60,6 @@ QString nameOf(const QWidget* widget)
 /** The rows of pixels in which an image has more ink than another one. */
 int rowsLost(const QImage& whole, const QImage& cut)
 {
-    // The edges of letters are smoothed: what is nearly white is not seen.
-    const int faintest = 230;
     int rows = 0;
     for (int y = 0; y < whole.height(); ++y) {
         const uchar* const wholeLine = whole.constScanLine(y);
@@ -89,6 +94,86 @@ int missingHeight(const QString& text, const Place& place, const QRect& visible)
     cutPainter.drawText(rect, flags, text);
     cutPainter.end();
     return rowsLost(whole, cut);
+}
+
+/** Where the first and the last row of pixels with ink are; both -1 for a picture without ink. */
+struct Ink {
+    int top = -1;
+    int bottom = -1;
+
+    int height() const { return top < 0 ? 0 : bottom - top + 1; }
+};
+
+Ink inkOf(const QImage& picture)
+{
+    Ink ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        const uchar* const line = picture.constScanLine(y);
+        if (std::any_of(line, line + picture.width(), [](uchar shade) { return shade < faintest; })) {
+            ink.bottom = y;
+            ink.top = ink.top < 0 ? y : ink.top;
+        }
+    }
+    return ink;
+}
+
+QImage paper(const QSize& size)
+{
+    QImage image(size, QImage::Format_Grayscale8);
+    image.fill(Qt::white);
+    return image;
+}
+
+/** What a cell shows where nothing cuts it off, in the middle of three times its height. */
+QImage pictureOf(const QTableWidget* table, int row, int column)
+{
+    const QRect cell = table->visualItemRect(table->item(row, column));
+    QImage picture = paper(QSize(cell.width(), 3 * cell.height()));
+    QStyleOptionViewItem option;
+    option.initFrom(table);
+    option.widget = table;
+    option.font = table->font();
+    option.rect = QRect(0, cell.height(), cell.width(), cell.height());
+    option.state = QStyle::State_Enabled;
+    option.palette.setColor(QPalette::Text, Qt::black);
+    QItemDelegate* const delegate = qobject_cast<QItemDelegate*>(table->itemDelegate());
+    delegate->setClipping(false);
+    QPainter painter(&picture);
+    delegate->paint(&painter, option, table->model()->index(row, column));
+    delegate->setClipping(true);
+    return picture;
+}
+
+/** The same text without any room to keep to. */
+QImage freePictureOf(const QString& text, const QFont& font)
+{
+    const QSize size = QFontMetrics(font).size(Qt::TextSingleLine, text);
+    QImage picture = paper(size * 2);
+    QPainter painter(&picture);
+    painter.setFont(font);
+    painter.drawText(picture.rect(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, text);
+    return picture;
+}
+
+/** The types, which are short, in both respects; the names only as to being cut off. */
+QStringList verdictsOnRows(const QTableWidget* table)
+{
+    QStringList lines;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        for (int column = 0; column < table->columnCount(); ++column) {
+            const QString text = table->item(row, column)->text();
+            const int height = table->rowHeight(row);
+            const Ink ink = inkOf(pictureOf(table, row, column));
+            const int outside = qMax(0, height - ink.top) + qMax(0, ink.bottom - 2 * height + 1);
+            if (ink.height() == 0 || outside > 0)
+                lines.append(
+                    QString("row \"%1\": cut by %2 pixels in height (of %3)").arg(text).arg(outside).arg(height));
+            const int free = inkOf(freePictureOf(text, table->font())).height();
+            if (column == 1 && ink.height() < smallestPart * free)
+                lines.append(QString("row \"%1\": %2 pixels in place of %3").arg(text).arg(ink.height()).arg(free));
+        }
+    }
+    return lines;
 }
 
 /** The widgets beside it in its parent that it covers or that cover it. */
@@ -243,6 +328,8 @@ QStringList cutTexts(QWidget* window)
             if (!line.isEmpty() && !lines.contains(line))
                 lines.append(line);
         }
+        if (const auto* const table = qobject_cast<const QTableWidget*>(widget))
+            lines += verdictsOnRows(table);
     }
     return lines;
 }
