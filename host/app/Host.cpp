@@ -85,6 +85,7 @@ void Host::registerComponent(const HostContract::Component& identity, QObject* c
 
 void Host::guardLinks(bool wasInterrupted)
 {
+    UserSettings::removeLeftLock();
     m_linkKeeper.prepare(wasInterrupted);
 }
 

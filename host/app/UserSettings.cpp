@@ -3,6 +3,7 @@
 
 #include "UserSettings.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QStringList>
 
@@ -29,6 +30,11 @@ static void keep(const QString& key, const QVariant& value)
     settings.sync();
     if (settings.status() != QSettings::NoError)
         qWarning("The choice cannot be kept in %s", qUtf8Printable(file()));
+}
+
+void UserSettings::removeLeftLock()
+{
+    QFile::remove(file() + QStringLiteral(".lock"));
 }
 
 QString UserSettings::language()

@@ -22,6 +22,12 @@ QByteArray windowPlace();
 /** Keeps the window's place and size for the next start. Failure is written to the warning channel. */
 void setWindowPlace(const QByteArray& place);
 
+/**
+ * Removes what a power cut left of the toolkit's lock on the file, an empty one, for which whatever is kept would wait
+ * 30 s. To be called by the one program that uses the folder, before anything is kept.
+ */
+void removeLeftLock();
+
 /** Whether the user has agreed to open this address, spelt exactly so. */
 bool isAgreed(const QString& address);
 

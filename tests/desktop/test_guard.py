@@ -156,7 +156,7 @@ class Guard(SettingsScenario):
     def test_undo_and_redo(self):
         edit = self.open_menu("Edit")
         self.assertEqual([(item.name, item.is_enabled()) for item in edit.all("menu item")],
-                         [("Undo", False), ("Redo", False)])
+                         [("Undo", False), ("Redo", False), ("Find a Quick Link", False)])
         self.close_menu(edit)
         settings = self.open_settings()
         settings.delete("Portal", "OK")
@@ -308,7 +308,6 @@ class Guard(SettingsScenario):
         self.assertIn("Removed: Portal", texts)
         button = settings.window.find("push button", "Go Back to This")
         self.assertFalse(button.is_enabled())
-        press("End")
         settings.window.find("tree").all("table cell")[-2].click()
         wait_for(button.is_enabled, "a state to go back to")
         button.click()

@@ -21,6 +21,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import threading
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "desktop"))
@@ -108,6 +109,7 @@ class Faults:
         self._environment = environment or {}
         self._user = user
         self._states = {}  # of the disk: by operation and size
+        self._preparing = threading.Lock()
 
     def start(self, data, operation, first=0, fault=0, driver=None, **environment):
         operation = {"new": "new=newed", "first": "start"}.get(operation, operation)
@@ -166,10 +168,11 @@ class Faults:
 
     def template(self, size):
         template = self._place / f"template-{size}"
-        if not template.exists():
-            config_path(template).parent.mkdir(parents=True)
-            config_path(template).write_bytes(content(names_before(size)))
-            self.look(template)
+        with self._preparing:
+            if not template.exists():
+                config_path(template).parent.mkdir(parents=True)
+                config_path(template).write_bytes(content(names_before(size)))
+                self.look(template)
         return template
 
     def breaking_points(self, fault, operation, size, most):

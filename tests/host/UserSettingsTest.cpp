@@ -25,6 +25,7 @@ private Q_SLOTS:
     void knowsAddressesByTheirExactSpelling_data();
     void knowsAddressesByTheirExactSpelling();
     void keepsTheWindowsPlace();
+    void removesALockThatWasLeft();
     void makesTheMissingFolder();
     void warnsWhenItCannotBeKept();
 };
@@ -125,6 +126,18 @@ void UserSettingsTest::keepsTheWindowsPlace()
     UserSettings::setWindowPlace(place);
     QCOMPARE(UserSettings::windowPlace(), place);
     QCOMPARE(UserSettings::language(), QString());
+}
+
+void UserSettingsTest::removesALockThatWasLeft()
+{
+    const OwnFolder folder;
+    const QString lock = OwnFolder::file() + ".lock";
+    UserSettings::removeLeftLock();
+    QVERIFY(QFile(lock).open(QIODevice::WriteOnly));
+    UserSettings::removeLeftLock();
+    QVERIFY(!QFile::exists(lock));
+    UserSettings::setLanguage("de");
+    QCOMPARE(UserSettings::language(), QString("de"));
 }
 
 void UserSettingsTest::makesTheMissingFolder()
