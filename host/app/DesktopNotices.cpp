@@ -18,13 +18,13 @@
 namespace
 {
 constexpr char service[] = "org.freedesktop.Notifications";
-constexpr char path[] = "/org/freedesktop/Notifications";
+constexpr char object[] = "/org/freedesktop/Notifications";
 constexpr int answerTakesAtMost = 3000; // ms; the bus may have to start the service
 constexpr int expiresAsTheDesktopLikes = -1;
 
 QDBusMessage call(const char* method)
 {
-    return QDBusMessage::createMethodCall(QLatin1String(service), QLatin1String(path), QLatin1String(service),
+    return QDBusMessage::createMethodCall(QLatin1String(service), QLatin1String(object), QLatin1String(service),
                                           QLatin1String(method));
 }
 
@@ -68,7 +68,7 @@ void DesktopNotices::listen()
         return;
     // From whoever it is: to ask for the owner of the name would be to wait.
     QDBusConnection bus = QDBusConnection::sessionBus();
-    const QString anybody, place = QLatin1String(path), interface = QLatin1String(service);
+    const QString anybody, place = QLatin1String(object), interface = QLatin1String(service);
     bus.connect(anybody, place, interface, QStringLiteral("ActionInvoked"), this,
                 SLOT(onActionInvoked(uint, QString, QDBusMessage)));
     bus.connect(anybody, place, interface, QStringLiteral("ActivationToken"), this,

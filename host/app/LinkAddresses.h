@@ -12,8 +12,9 @@ public:
     /** The links of a file with this content, see LinkItems. */
     explicit LinkAddresses(const QByteArray& content = QByteArray());
 
-    /** The address of the link of this name, by preference of the one in this place, from 0 on; empty for none. */
-    QString addressOf(const QString& name, int place) const;
+    /** The address of the link with the wanted name, by preference of the one in this place, from 0 on; empty for none.
+     */
+    QString addressOf(const QString& wanted, int place) const;
 
     /**
      * The name of the first link with this address, as it stands in the link or as it is opened: read as a URL,

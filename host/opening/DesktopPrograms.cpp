@@ -56,7 +56,7 @@ QString iconOf(GAppInfo* program)
         return names ? QString::fromUtf8(names[0]) : QString();
     }
     gchar* const text = g_icon_to_string(icon);
-    const QString path = QFile::decodeName(text);
+    QString path = QFile::decodeName(text);
     g_free(text);
     return path;
 }
