@@ -33,11 +33,12 @@ step() {
     say "${results[-1]}"
 }
 
-# ctest_in PRESET LOG [OPTION...]: runs tests of a preset in random order and shows ctest's closing line. Half of them wait.
+# ctest_in PRESET LOG [OPTION...]: runs tests of a preset in random order and shows ctest's closing line. Half of them wait
+# for something, so there are more at once than processors; JOBS is another number.
 ctest_in() {
     local preset=$1 log=$2
     shift 2
-    logged "$log" ctest --preset "$preset" -j4 --schedule-random --no-tests=error "$@" || return
+    logged "$log" ctest --preset "$preset" -j"${JOBS-4}" --schedule-random --no-tests=error "$@" || return
     grep 'tests passed' "$log"
 }
 
@@ -50,7 +51,7 @@ sanitized_tests() {
     ASAN_OPTIONS=detect_leaks=1:fast_unwind_on_malloc=0:$checks:suppressions=$PWD/tests/sanitizers/asan.supp \
         LSAN_OPTIONS=suppressions=$PWD/build/$label.supp:print_suppressions=0 \
         UBSAN_OPTIONS=print_stacktrace=1 \
-        ctest_in asan "$log" -L "$label"
+        JOBS=2 ctest_in asan "$log" -L "$label"
 }
 
 instructions_and_heap() {

@@ -111,7 +111,9 @@ void DisplayChoiceTest::programSaysWhatIsMissing()
     QFETCH(QString, value);
     QFETCH(QString, error);
     const QTemporaryDir home;
-    QProcessEnvironment environment;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        environment.remove(variable);
     environment.insert("HOME", home.path());
     environment.insert("XDG_RUNTIME_DIR", home.path());
     environment.insert("LC_ALL", "C.UTF-8");
