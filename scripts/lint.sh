@@ -67,6 +67,8 @@ check_sources() {
         foreign_includes "${libraries[@]}"
         in_code '\b(foreach|forever|Q_FOREACH|Q_FOREVER)\b' "${libraries[@]}"
         in_code '\b(fromUserInput|fromLocalFile)\b' "${plugin[@]}"
+        # With Qt 4 a text in the source is read as Latin-1.
+        LC_ALL=C in_code '"[^"]*[^ -~"][^"]*"' "${libraries[@]}"
         in_code '\bQT_VERSION\b' "${plugin[@]}" | grep -v '/QtVersionSwitches\.h:'
         # Connections by name only; a connection may take several lines.
         cpp_files "${libraries[@]}" | xargs grep -HPzo '\bconnect\s*\([^;]*(&\s*\w+::|\[[^]]*\]\s*[({])[^;]*;' | tr '\0' '\n'

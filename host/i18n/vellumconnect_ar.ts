@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>&amp;تحرير الروابط…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>&amp;تحرير الروابط</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>&amp;تحرير الرابط…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>&amp;تحرير الرابط</translation>
     </message>
 </context>
 <context>

@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>Links &amp;bearbeiten…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>Links &amp;bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>Link &amp;bearbeiten…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>Link &amp;bearbeiten</translation>
     </message>
 </context>
 <context>

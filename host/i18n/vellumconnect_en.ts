@@ -231,11 +231,11 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
+        <source>&amp;Edit Links</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
+        <source>&amp;Edit Link</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

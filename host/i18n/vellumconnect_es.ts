@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>&amp;Editar enlaces…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>&amp;Editar enlaces</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>&amp;Editar enlace…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>&amp;Editar enlace</translation>
     </message>
 </context>
 <context>

@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>Modi&amp;fier les liens…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>Modi&amp;fier les liens</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>Modi&amp;fier le lien…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>Modi&amp;fier le lien</translation>
     </message>
 </context>
 <context>

@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>लिंक संपादित करें (&amp;E)…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>लिंक संपादित करें (&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>लिंक संपादित करें (&amp;E)…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>लिंक संपादित करें (&amp;E)</translation>
     </message>
 </context>
 <context>

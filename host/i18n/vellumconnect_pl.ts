@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>&amp;Edytuj odnośniki…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>&amp;Edytuj odnośniki</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>&amp;Edytuj odnośnik…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>&amp;Edytuj odnośnik</translation>
     </message>
 </context>
 <context>

@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>&amp;Editar atalhos…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>&amp;Editar atalhos</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>&amp;Editar atalho…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>&amp;Editar atalho</translation>
     </message>
 </context>
 <context>

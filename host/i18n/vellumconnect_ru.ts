@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>&amp;Изменить ссылки…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>&amp;Изменить ссылки</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>&amp;Изменить ссылку…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>&amp;Изменить ссылку</translation>
     </message>
 </context>
 <context>

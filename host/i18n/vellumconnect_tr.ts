@@ -231,12 +231,12 @@
 <context>
     <name>EditLinkButton</name>
     <message>
-        <source>&amp;Edit Links…</source>
-        <translation>Kısayolları &amp;düzenle…</translation>
+        <source>&amp;Edit Links</source>
+        <translation>Kısayolları &amp;düzenle</translation>
     </message>
     <message>
-        <source>&amp;Edit Link…</source>
-        <translation>Kısayolu &amp;düzenle…</translation>
+        <source>&amp;Edit Link</source>
+        <translation>Kısayolu &amp;düzenle</translation>
     </message>
 </context>
 <context>

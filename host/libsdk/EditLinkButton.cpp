@@ -31,7 +31,7 @@ void EditLinkButton::setLink(const QString& link, bool isOneOfSeveral)
 
 QString EditLinkButton::textFor(bool isOneOfSeveral)
 {
-    return isOneOfSeveral ? tr("&Edit Links…") : tr("&Edit Link…");
+    return (isOneOfSeveral ? tr("&Edit Links") : tr("&Edit Link")) + QChar(0x2026);
 }
 
 void EditLinkButton::edit()
