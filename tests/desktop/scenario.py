@@ -11,7 +11,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from display import press, save_screen
+from display import press, save_screen, windows_of_class
 from links import config_path, save
 from opened import BIN, Opened
 from screen import Application, start_accessibility
@@ -45,6 +45,14 @@ class Scenario(unittest.TestCase):
         self.config.parent.mkdir(parents=True)
         self.opened = Opened(self.folder / "opened")
         self.program = None
+
+    def start_tray(self):
+        """Starts a tray of X11 and waits for it; it ends with the test, or when it is closed."""
+        tray = Program(["trayer", "--edge", "bottom", "--align", "left", "--widthtype", "request"],
+                       self.folder / "tray.log")
+        self.addCleanup(tray.close)
+        wait_for(lambda: windows_of_class("trayer"), "the tray")
+        return tray
 
     def use_sample(self):
         """Takes the links of the sample for the next start."""

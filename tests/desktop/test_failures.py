@@ -7,7 +7,6 @@ from display import active_window, click_in_window, press, windows_of_class
 from links import APPLICATION, EMAIL, INTERNET, link
 from notifications import Notifications
 from scenario import TITLE, main
-from session import Program
 from settings_dialog import SettingsDialog
 from settings_scenario import SettingsScenario
 from waiting import wait_for
@@ -34,10 +33,7 @@ class Failures(SettingsScenario):
 
     def hide_in_tray(self):
         """Closes the window, which goes on in a tray."""
-        tray = Program(["trayer", "--edge", "bottom", "--align", "left", "--widthtype", "request"],
-                       self.folder / "tray.log")
-        self.addCleanup(tray.close)
-        wait_for(lambda: windows_of_class("trayer"), "the tray")
+        self.start_tray()
         self.main = active_window()
         self.icon = wait_for(lambda: [window for window in windows_of_class("vellumconnect") if window != self.main],
                              "the icon in the tray")[0]

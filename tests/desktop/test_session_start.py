@@ -26,12 +26,6 @@ class SessionStart(SettingsScenario):
         self.file = Path(os.environ["XDG_CONFIG_HOME"]) / "autostart/com.norvik.vellumconnect.desktop"
         self.addCleanup(self.file.unlink, missing_ok=True)
 
-    def start_tray(self):
-        tray = Program(["trayer", "--edge", "bottom", "--align", "left", "--widthtype", "request"],
-                       self.folder / "tray.log")
-        self.addCleanup(tray.close)
-        wait_for(lambda: windows_of_class("trayer"), "the tray")
-
     def choose(self, is_on):
         """Ticks or clears the choice, which shows what it was before."""
         settings = self.open_settings()

@@ -6,20 +6,12 @@
 from display import active_window, click_in_window, greenness, press, windows_of_class
 from links import EMAIL, INTERNET, link
 from scenario import TITLE, Scenario, main
-from session import Program
 from waiting import wait_for
 
 
 class Tray(Scenario):
 
     far_away = (20, 20)  # in the icon, from its upper left part: a click there makes no double click with one here
-
-    def start_tray(self):
-        tray = Program(["trayer", "--edge", "bottom", "--align", "left", "--widthtype", "request"],
-                       self.folder / "tray.log")
-        self.addCleanup(tray.close)
-        wait_for(lambda: windows_of_class("trayer"), "the tray")
-        return tray
 
     def start_program(self):
         self.start_with(link(0, "Portal", INTERNET, "http://portal.example.org/"),

@@ -9,7 +9,6 @@ import signal
 from display import active_window, press, windows_of_class, xdotool
 from links import INTERNET, link, save
 from scenario import Scenario, main
-from session import Program
 from waiting import wait_for
 
 
@@ -54,9 +53,7 @@ class WindowPlace(Scenario):
         wait_for(is_on_screen, f"the window on the screen; it is at {self.window.extents}")
 
     def test_window_that_was_hidden(self):
-        tray = Program(["trayer", "--edge", "bottom", "--align", "left", "--widthtype", "request"],
-                       self.folder / "tray.log")
-        self.addCleanup(tray.close)
+        self.start_tray()
         self.start()
         wait_for(lambda: len(windows_of_class("vellumconnect")) == 2, "the icon in the tray")
         place = self.move(300, 200, 700, 600)
