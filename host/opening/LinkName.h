@@ -5,12 +5,9 @@
 
 #include <QString>
 
-/** A link's name, which may hold anything, made fit to be shown. */
+/** A link's name as a caption; see ShownText for what it may hold. */
 namespace LinkName
 {
-
-/** With a blank for whatever would break the line or turn its direction, see ShownText. */
-QString onOneLine(const QString& name);
 
 /** With its ampersands doubled, so that a menu or button shows them and underlines nothing. */
 QString withAmpersands(QString name);

@@ -11,7 +11,7 @@
 #include <array>
 
 #include "IQuickLinkPlugin.h"
-#include "LinkName.h"
+#include "ShownText.h"
 
 namespace
 {
@@ -28,7 +28,7 @@ void addLinks(QVector<Row>& rows, const PluginWith<IQuickLinkPlugin>& plugin)
     const int count = plugin.interface->GetQuickLinkRecordSize();
     for (int i = 0; i < count; ++i) {
         if (QAction* const action = plugin.interface->GetActionFromQuickLink(i))
-            rows.append(Row{QString::number(rows.size()), LinkName::onOneLine(action->text()), plugin.name});
+            rows.append(Row{QString::number(rows.size()), ShownText::onOneLine(action->text()), plugin.name});
     }
 }
 } // namespace

@@ -75,7 +75,7 @@ void MenuManager::setTexts(QAction* action)
 /** The host's action for a plug-in's own one, which is in this place of the plug-in's list. */
 QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAction* theirs, int place)
 {
-    const QString name = LinkName::onOneLine(theirs->text());
+    const QString name = ShownText::onOneLine(theirs->text());
     QAction* const action = new QAction(LinkName::withAmpersands(ShownText::shortLine(name, longestEntry)), this);
     action->setData(name);
     setTexts(action);

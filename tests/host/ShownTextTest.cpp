@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// Texts of others, made fit to be shown. What becomes of control characters is in LinkNameTest.
+// Texts of others, made fit to be shown.
 
 #include <QApplication>
 
@@ -15,6 +15,8 @@ class ShownTextTest : public QObject
 private Q_SLOTS:
     void cleanup() { QApplication::setLayoutDirection(Qt::LeftToRight); }
 
+    void standsOnOneLine_data();
+    void standsOnOneLine();
     void losesItsDirections_data();
     void losesItsDirections();
     void keepsTheMarksOfLetters();
@@ -29,6 +31,38 @@ private Q_SLOTS:
     void keepsItsOrder();
     void isCopiedWithoutSigns();
 };
+
+void ShownTextTest::standsOnOneLine_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("usual") << "My Web Mail"
+                           << "My Web Mail";
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("line feed") << "a\nb"
+                               << "a b";
+    QTest::newRow("both ends of a line") << "a\r\nb"
+                                         << "a  b";
+    QTest::newRow("tab") << "a\tb"
+                         << "a b";
+    QTest::newRow("escape") << "\033[31mred"
+                            << " [31mred";
+    QTest::newRow("zero") << QString(QChar(0)) << " ";
+    QTest::newRow("delete") << "a\177"
+                            << "a ";
+    QTest::newRow("next line") << QString(QChar(0x85)) << " ";
+    QTest::newRow("line separator") << QString(QChar(0x2028)) << " ";
+    QTest::newRow("paragraph separator") << QString(QChar(0x2029)) << " ";
+    QTest::newRow("beyond 16 bits") << QString::fromUtf8("\xf0\x9f\x93\xa7 Post")
+                                    << QString::fromUtf8("\xf0\x9f\x93\xa7 Post");
+    QTest::newRow("joined letters") << QString::fromUtf8("\xe2\x80\x8d") << QString::fromUtf8("\xe2\x80\x8d");
+}
+
+void ShownTextTest::standsOnOneLine()
+{
+    QFETCH(QString, name);
+    QTEST(ShownText::onOneLine(name), "shown");
+}
 
 void ShownTextTest::losesItsDirections_data()
 {
