@@ -15,10 +15,6 @@
 static const char noInternet[] = "Only Internet addresses (http, https and ftp) are opened. This is not one:";
 static const char noAddress[] = "This link has no address:";
 static const char itself[] = "Addresses that are themselves a script or a page are never opened:";
-static const char invalid[] = "This is no valid address:";
-static const char relative[] = "The path of an application or file must begin with \"/\":";
-static const char nowhere[] = "This link leads nowhere: it has no path.";
-static const char missing[] = "There is no such file or folder, or you are not allowed to see it:";
 static const char tooLong[] = "This is too long to be opened:";
 
 class HostileAddressesTest : public QObject
@@ -65,8 +61,8 @@ void addScriptsAndPages()
         add(address, noInternet, itself);
     for (const char* address :
          {" javascript:alert(1)", "java\tscript:alert(1)", "java\nscript:alert(1)", "\001javascript:alert(1)"})
-        add(address, noInternet, invalid);
-    add("javascript%3Aalert(1)", noInternet, relative);
+        add(address, noInternet, Told::invalid);
+    add("javascript%3Aalert(1)", noInternet, Told::relative);
     add("view-source:javascript:alert(1)", noInternet, "asks");
     add("about:blank", noInternet, "asks");
 }
@@ -75,21 +71,21 @@ void addFiles()
 {
     for (const char* address : {"file:///no/such/file", "FILE:///no/such/file", "file://evil.example/share/x",
                                 "file:///no/such/%00file", "/no/such/file"})
-        add(address, noInternet, missing);
-    add("//evil.example/share", opens("http://evil.example/share"), missing);
+        add(address, noInternet, Told::missing);
+    add("//evil.example/share", opens("http://evil.example/share"), Told::missing);
     for (const char* address : {"file:program", "\\\\evil.example\\share", "../../../../bin/sh"})
-        add(address, noInternet, relative);
+        add(address, noInternet, Told::relative);
     add("C:\\Windows\\x.exe", noInternet, "asks");
 }
 
 void addWhatIsNearlyNothing()
 {
-    add("", noAddress, nowhere);
-    add("file:", noInternet, nowhere);
-    add(" ", noAddress, relative);
-    add("\n", noAddress, relative);
-    add(":", noInternet, invalid);
-    add("://a.example", noInternet, invalid);
+    add("", noAddress, Told::nowhere);
+    add("file:", noInternet, Told::nowhere);
+    add(" ", noAddress, Told::relative);
+    add("\n", noAddress, Told::relative);
+    add(":", noInternet, Told::invalid);
+    add("://a.example", noInternet, Told::invalid);
     for (const char* address : {"http:", "http://", "http:///x", "mailto:", "tel:"})
         add(address, noInternet, opens(address));
 }
@@ -114,20 +110,20 @@ void addHosts()
         addOpened(address, "http://127.0.0.1/");
     for (const char* address : {"http://[::1/", "http://a.example%40evil.example/", "http://a.example:65536/",
                                 "http://a.example:-1/", "http://a.example:80x/", "http://two words/"})
-        add(address, noInternet, invalid);
+        add(address, noInternet, Told::invalid);
     add("a.example:80", opens("http://a.example:80"), "asks");
-    add("www.a.example", opens("http://www.a.example"), relative);
+    add("www.a.example", opens("http://www.a.example"), Told::relative);
     add("HTTPS://A.EXAMPLE/B", opens("https://a.example/B"), opens("https://a.example/B"));
-    add("\tHTTP://A.EXAMPLE/B \n", opens("http://a.example/B"), invalid);
+    add("\tHTTP://A.EXAMPLE/B \n", opens("http://a.example/B"), Told::invalid);
 }
 
 /** What a shell, a terminal, a protocol or a list of arguments would trip over. */
 void addSigns()
 {
-    add("--help", noInternet, relative);
-    add("-x", noInternet, relative);
-    add("-x:y", noInternet, invalid);
-    add("http://--help/", noInternet, invalid);
+    add("--help", noInternet, Told::relative);
+    add("-x", noInternet, Told::relative);
+    add("-x:y", noInternet, Told::invalid);
+    add("http://--help/", noInternet, Told::invalid);
     const QString host = "http://a.example/";
     addOpened(host + " --private", host + "%20--private");
     addOpened(host + ";touch$IFS'x'");
@@ -158,7 +154,7 @@ void addOtherPrograms()
     for (const char* address : {"sms:+4930?body=x", "smb://a.example/x", "x-made-up.by+me:y", "httpx://a.example/",
                                 "feed:https://a.example/", "intent://x#Intent;end"})
         add(address, noInternet, "asks");
-    add("ssh://-oProxyCommand=id/", noInternet, invalid);
+    add("ssh://-oProxyCommand=id/", noInternet, Told::invalid);
 }
 } // namespace
 

@@ -16,12 +16,8 @@
 #include "ProcessLimits.h"
 #include "Test.h"
 
-static const char relative[] = "The path of an application or file must begin with \"/\":";
-static const char nowhere[] = "This link leads nowhere: it has no path.";
-static const char missing[] = "There is no such file or folder, or you are not allowed to see it:";
 static const char locked[] = "You are not allowed to open this:";
 static const char broken[] = "This program could not be started:";
-static const char invalid[] = "This is no valid address:";
 static const char starts[] = "starts";
 
 class HostilePathsTest : public QObject
@@ -126,26 +122,26 @@ void HostilePathsTest::opens_data()
     };
 
     // Not from the root: the current folder has a program of each of these names.
-    add("name", "program", relative);
-    add("dot", "./program", relative);
-    add("parent folder", "folder/../program", relative);
-    add("home", "~/program", relative);
-    add("home itself", "~", relative);
-    add("home of another", "~root/program", relative);
-    add("option", "-x", relative);
-    add("variable", "$HOME/program", relative);
-    add("blank before", " " + at("program"), relative);
-    add("tab before", "\t" + at("program"), relative);
-    add("blank", " ", relative);
-    add("this folder", ".", relative);
-    add("folder above", "..", relative);
-    add("query only", "?program", relative);
-    add("fragment only", "#program", relative);
-    add("backslash", "\\program", relative);
-    add("quoted", "'" + at("program") + "'", relative);
-    add("empty", QString(), nowhere);
-    add("file: without a root", "file:program", relative);
-    add("file: and nothing", "file:", nowhere);
+    add("name", "program", Told::relative);
+    add("dot", "./program", Told::relative);
+    add("parent folder", "folder/../program", Told::relative);
+    add("home", "~/program", Told::relative);
+    add("home itself", "~", Told::relative);
+    add("home of another", "~root/program", Told::relative);
+    add("option", "-x", Told::relative);
+    add("variable", "$HOME/program", Told::relative);
+    add("blank before", " " + at("program"), Told::relative);
+    add("tab before", "\t" + at("program"), Told::relative);
+    add("blank", " ", Told::relative);
+    add("this folder", ".", Told::relative);
+    add("folder above", "..", Told::relative);
+    add("query only", "?program", Told::relative);
+    add("fragment only", "#program", Told::relative);
+    add("backslash", "\\program", Told::relative);
+    add("quoted", "'" + at("program") + "'", Told::relative);
+    add("empty", QString(), Told::nowhere);
+    add("file: without a root", "file:program", Told::relative);
+    add("file: and nothing", "file:", Told::nowhere);
 
     // Programs, however their path is spelt.
     add("program", at("program"), starts);
@@ -189,23 +185,23 @@ void HostilePathsTest::opens_data()
     add("root", "/", "opens /");
 
     // Nothing there, or nothing that can be opened.
-    add("missing", at("nothing"), missing);
-    add("arguments", at("program") + " --help", missing);
-    add("below a file", at("document/program"), missing);
-    add("dead link", at("dead link"), missing);
-    add("link to itself", at("loop"), missing);
-    add("name that is no text", at("n%FFme"), missing);
-    add("replacement for what is no text", at("n") + codePoint(0xfffd) + "me", missing);
-    add("zero", at("program%00x"), missing);
-    add("half a character", at("program") + QChar(0xd800), missing);
-    add("name too long", at(QString(300, 'x')), missing);
-    add("path too long", at(QString(4000, 'x')), missing);
-    add("path much too long", '/' + QString("x/").repeated(50000), missing);
-    add("on another computer", "file://evil.example" + at("program"), missing);
-    add("two slashes and blanks", "//two words/x", invalid);
+    add("missing", at("nothing"), Told::missing);
+    add("arguments", at("program") + " --help", Told::missing);
+    add("below a file", at("document/program"), Told::missing);
+    add("dead link", at("dead link"), Told::missing);
+    add("link to itself", at("loop"), Told::missing);
+    add("name that is no text", at("n%FFme"), Told::missing);
+    add("replacement for what is no text", at("n") + codePoint(0xfffd) + "me", Told::missing);
+    add("zero", at("program%00x"), Told::missing);
+    add("half a character", at("program") + QChar(0xd800), Told::missing);
+    add("name too long", at(QString(300, 'x')), Told::missing);
+    add("path too long", at(QString(4000, 'x')), Told::missing);
+    add("path much too long", '/' + QString("x/").repeated(50000), Told::missing);
+    add("on another computer", "file://evil.example" + at("program"), Told::missing);
+    add("two slashes and blanks", "//two words/x", Told::invalid);
     add("locked file", at("locked"), locked, true);
-    add("in a closed folder", at("closed/program"), missing, true);
-    add("document in a closed folder", at("closed/document"), missing, true);
+    add("in a closed folder", at("closed/program"), Told::missing, true);
+    add("document in a closed folder", at("closed/document"), Told::missing, true);
 
     // Programs that the system does not run.
     add("no interpreter named", at("no interpreter named"), broken);

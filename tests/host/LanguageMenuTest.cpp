@@ -28,7 +28,7 @@ private Q_SLOTS:
     void followsTheLanguage();
 };
 
-static const QStringList offered = {"de", "en", "pt_BR"};
+static const QStringList offeredLanguages = {"de", "en", "pt_BR"};
 
 static QList<QAction*> choices(const QMenu& menu)
 {
@@ -81,7 +81,7 @@ void LanguageMenuTest::namesTheCountryWhereItTellsTwoApart()
 
 void LanguageMenuTest::offersTheSystemsFirst()
 {
-    const LanguageMenu menu(offered, QString());
+    const LanguageMenu menu(offeredLanguages, QString());
     QCOMPARE(menu.title(), "&Language");
     QCOMPARE(choices(menu).size(), 4);
     QCOMPARE(choices(menu).constFirst()->text(), "&System Language");
@@ -89,7 +89,7 @@ void LanguageMenuTest::offersTheSystemsFirst()
     QStringList order;
     for (const QAction* action : choices(menu))
         order.append(action->data().toString());
-    QCOMPARE(order, QStringList(QString()) + offered);
+    QCOMPARE(order, QStringList(QString()) + offeredLanguages);
 }
 
 void LanguageMenuTest::marksTheCurrentOne_data()
@@ -105,7 +105,7 @@ void LanguageMenuTest::marksTheCurrentOne_data()
 void LanguageMenuTest::marksTheCurrentOne()
 {
     QFETCH(QString, current);
-    const LanguageMenu menu(offered, current);
+    const LanguageMenu menu(offeredLanguages, current);
     QTEST(marked(menu), "expected");
 }
 
@@ -122,7 +122,7 @@ void LanguageMenuTest::tellsWhatIsChosen()
 {
     QFETCH(int, index);
     QFETCH(QString, language);
-    const LanguageMenu menu(offered, "en");
+    const LanguageMenu menu(offeredLanguages, "en");
     QSignalSpy told(&menu, &LanguageMenu::languageChosen);
     choices(menu).at(index)->trigger();
     QCOMPARE(told.size(), 1);
@@ -132,8 +132,8 @@ void LanguageMenuTest::tellsWhatIsChosen()
 
 void LanguageMenuTest::followsTheLanguage()
 {
-    const LanguageMenu menu(offered, QString());
-    const FakeTranslator other;
+    const LanguageMenu menu(offeredLanguages, QString());
+    const FakeTranslator translator;
     QTRY_COMPARE(menu.title(), "*&Language");
     QCOMPARE(choices(menu).constFirst()->text(), "*&System Language");
     QCOMPARE(choices(menu).at(1)->text(), "Deutsch");

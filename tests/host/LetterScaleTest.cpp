@@ -37,7 +37,7 @@ private:
 };
 
 static const char* const own = "VELLUMCONNECT_LETTER_SCALE";
-static const char* const names[] = {"QT_SCALE_FACTOR", "QT_FONT_DPI", "QT_SCREEN_SCALE_FACTORS"};
+static const char* const variables[] = {"QT_SCALE_FACTOR", "QT_FONT_DPI", "QT_SCREEN_SCALE_FACTORS"};
 
 void LetterScaleTest::init()
 {
@@ -47,7 +47,7 @@ void LetterScaleTest::init()
 void LetterScaleTest::cleanup()
 {
     QApplication::setFont(m_font);
-    for (const char* name : names)
+    for (const char* name : variables)
         qunsetenv(name);
     qunsetenv(own);
 }
@@ -108,7 +108,7 @@ void LetterScaleTest::followsTheDesktopsFont()
 void LetterScaleTest::leavesToTheUserWhatWasAskedFor_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char* name : names)
+    for (const char* name : variables)
         QTest::newRow(name) << QByteArray(name);
 }
 

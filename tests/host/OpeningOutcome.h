@@ -9,6 +9,15 @@
 #include "OutlivingProcess.h"
 #include "RecordingDesktop.h"
 
+/** What the user is told in place of an opening, where several tests meet it. */
+namespace Told
+{
+constexpr char relative[] = "The path of an application or file must begin with \"/\":";
+constexpr char nowhere[] = "This link leads nowhere: it has no path.";
+constexpr char missing[] = "There is no such file or folder, or you are not allowed to see it:";
+constexpr char invalid[] = "This is no valid address:";
+} // namespace Told
+
 /**
  * What opening something came to, in one text: "opens X" where X is what the desktop was asked to open, "asks" where
  * the user is asked first, else the reason that the user is told. Waits until nothing runs that was started for it, and

@@ -17,7 +17,7 @@
 
 // The words of tests that put things in the place of a plug-in, each in a table with the columns of addColumns().
 
-const uid_t other = 1; // a user that every system has, beside root
+const uid_t otherUser = 1; // one that every system has, beside root
 const uid_t nobody = 65534;
 
 /** What a row of a table does to the folders before the run. */

@@ -44,7 +44,7 @@ private:
     QScopedPointer<RecordingTrace> m_trace;
 };
 
-static const char firstId[] = "00000000-0000-0000-0000-00000000000A";
+static const char recordingFirstId[] = "00000000-0000-0000-0000-00000000000A";
 
 void PluginLoadingTest::init()
 {
@@ -109,7 +109,7 @@ void PluginLoadingTest::refuses_data()
     QTest::newRow("empty file") << QString() << none << notLoadable;
     QTest::newRow("library that is no plug-in") << "FakeLibrary" << none << notLoadable;
     QTest::newRow("no IBasePlugin") << "FakeForeign" << none << "the plug-in has no IBasePlugin";
-    QTest::newRow("identifier seen before") << "RecordingTwin" << none << used + firstId;
+    QTest::newRow("identifier seen before") << "RecordingTwin" << none << used + recordingFirstId;
     QTest::newRow("Init fails") << "RecordingFailing" << none << "its Init failed";
 }
 
@@ -174,7 +174,7 @@ void PluginLoadingTest::refusesWhatHasAnIdentifierOfTheHost()
 {
     m_host->folder.add("RecordingFirst");
     QObject component;
-    m_host->container.registerComponent(firstId, 8209, "Service", &component);
+    m_host->container.registerComponent(recordingFirstId, 8209, "Service", &component);
     QCOMPARE(m_host->load(), QStringList());
     compareRefusal("RecordingFirst", "its class identifier is in use already: ");
     QCOMPARE(takeEvents(), QStringList() << "RecordingFirst gone");

@@ -65,25 +65,25 @@ void PluginTrustTest::trusts_data()
     addRow(
         "file for a group", Root,
         [](LoadRuns& runs) {
-            give(runs.file(), 0, other);
+            give(runs.file(), 0, otherUser);
             allow(runs.file(), 0664);
         },
         write + file);
     addRow(
         "file for the user's private group", Root, [](LoadRuns& runs) { allow(runs.file(), 0664); }, fine);
     addRow(
-        "file of another user", Root, [](LoadRuns& runs) { give(runs.file(), other, other); }, owns + file);
+        "file of another user", Root, [](LoadRuns& runs) { give(runs.file(), otherUser, otherUser); }, owns + file);
     addRow(
         "file of another user, who may only read", Root,
         [](LoadRuns& runs) {
-            give(runs.file(), other, other);
+            give(runs.file(), otherUser, otherUser);
             allow(runs.file(), 0444);
         },
         owns + file);
     addRow(
         "file for one more user by an access list", Root,
         [](LoadRuns& runs) {
-            if (!addToAccessList(runs.file(), other))
+            if (!addToAccessList(runs.file(), otherUser))
                 allow(runs.file(), 0666); // a file system without lists
         },
         write + file);
@@ -96,14 +96,14 @@ void PluginTrustTest::trusts_data()
     addRow(
         "folder for a group", Root,
         [](LoadRuns& runs) {
-            give(runs.folder(), 0, other);
+            give(runs.folder(), 0, otherUser);
             allow(runs.folder(), 0775);
         },
         write + folder);
     addRow(
         "folder for the user's private group", Root, [](LoadRuns& runs) { allow(runs.folder(), 0775); }, fine);
     addRow(
-        "folder of another user", Root, [](LoadRuns& runs) { give(runs.folder(), other, other); }, owns + folder);
+        "folder of another user", Root, [](LoadRuns& runs) { give(runs.folder(), otherUser, otherUser); }, owns + folder);
 
     addRow(
         "user: all is root's", Nobody, [](LoadRuns&) {}, fine);
@@ -112,7 +112,7 @@ void PluginTrustTest::trusts_data()
     addRow(
         "user: folder is the user's", Nobody, [](LoadRuns& runs) { give(runs.folder(), nobody, nobody); }, fine);
     addRow(
-        "user: file is another user's", Nobody, [](LoadRuns& runs) { give(runs.file(), other, 0); }, owns + file);
+        "user: file is another user's", Nobody, [](LoadRuns& runs) { give(runs.file(), otherUser, 0); }, owns + file);
     addRow(
         "user: file for root's group", Nobody, [](LoadRuns& runs) { allow(runs.file(), 0664); }, write + file);
 
@@ -121,7 +121,7 @@ void PluginTrustTest::trusts_data()
     addRow(
         "above, for a group", Anyone, [](LoadRuns& runs) { allow(runs.base(), 0775); }, fine);
     addRow(
-        "above, of another user", Root, [](LoadRuns& runs) { give(runs.base(), other, other); }, fine);
+        "above, of another user", Root, [](LoadRuns& runs) { give(runs.base(), otherUser, otherUser); }, fine);
 
     addRow(
         "link to a good file", Anyone, [](LoadRuns& runs) { lead(runs.file(), moveOut(runs)); }, fine);
@@ -144,7 +144,7 @@ void PluginTrustTest::trusts_data()
         "link to a file of another user", Root,
         [](LoadRuns& runs) {
             const QString target = moveOut(runs);
-            give(target, other, other);
+            give(target, otherUser, otherUser);
             lead(runs.file(), target);
         },
         owns + outside + "/library");
@@ -240,7 +240,7 @@ void PluginTrustTest::knowsPrivateGroups()
 {
     // "nobody" has the group "nogroup", which other users have, too.
     QVERIFY(!PrivateGroup::isOf(nobody, nobody));
-    QVERIFY(!PrivateGroup::isOf(0, other));
+    QVERIFY(!PrivateGroup::isOf(0, otherUser));
     QVERIFY(!PrivateGroup::isOf(4000000000U, 0));
     QVERIFY(PrivateGroup::isOf(0, 0));
 }

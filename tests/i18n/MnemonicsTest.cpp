@@ -31,7 +31,7 @@ QStringList textsOf(const QWidget* menu)
 }
 
 /** The texts of the labels and buttons that show in a window. */
-QStringList textsIn(const QWidget* window)
+QStringList labelsIn(const QWidget* window)
 {
     QStringList texts;
     const QList<QWidget*> widgets = window->findChildren<QWidget*>();
@@ -87,7 +87,7 @@ void MnemonicsTest::inMainWindow()
     window.show();
     for (const bool isUp : {false, true}) {
         monitor.setManuallyUp(isUp);
-        const QStringList buttons = textsIn(&window);
+        const QStringList buttons = labelsIn(&window);
         QVERIFY(!buttons.isEmpty());
         QCOMPARE(clashes(textsOf(window.menuBar()) + buttons), QString());
     }
@@ -103,7 +103,7 @@ void MnemonicsTest::inSettings()
     const ShownLanguage shown(language);
     const PluginWindows windows;
     QVERIFY(windows.settings());
-    const QStringList texts = textsIn(windows.settings());
+    const QStringList texts = labelsIn(windows.settings());
     QVERIFY(texts.size() > 5);
     QCOMPARE(clashes(texts), QString());
 }
@@ -116,7 +116,7 @@ void MnemonicsTest::inLinkDialog()
     QVERIFY(windows.settings() && windows.linkDialog());
     for (int type = 0; type < 3; ++type) {
         windows.chooseType(type);
-        const QStringList texts = textsIn(windows.linkDialog());
+        const QStringList texts = labelsIn(windows.linkDialog());
         QVERIFY(texts.size() > 5);
         QCOMPARE(clashes(texts), QString());
     }

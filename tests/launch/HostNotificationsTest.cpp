@@ -40,11 +40,6 @@ private:
 namespace
 {
 const char gotContainer[] = "%T: %F: Notify:Get plugin container success";
-
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
 } // namespace
 
 void HostNotificationsTest::init()

@@ -33,11 +33,6 @@ private:
 
 namespace
 {
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
-
 const char* const changes[] = {"file read again", "list emptied",   "list grown",   "links renamed",
                                "plug-in ended",   "first removed",  "actions made", "page shown and deleted",
                                "settings saved",  "language change"};

@@ -49,14 +49,6 @@ private:
     LoadedPlugin m_plugin;
 };
 
-namespace
-{
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
-} // namespace
-
 void LinkLaunchTest::desktopOpens_data()
 {
     QTest::addColumn<QByteArray>("type");

@@ -12,11 +12,6 @@ namespace
 {
 const char start[] = "Start of %F: sendNotifyToMenu: %L: ";
 const char end[] = "End of %F: sendNotifyToMenu: %L: ";
-
-FakeHost& host()
-{
-    return FakeHost::instance();
-}
 } // namespace
 
 class MenuNotificationTest : public QObject

@@ -112,5 +112,11 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
+/** The one fake host. */
+inline FakeHost& host()
+{
+    return FakeHost::instance();
+}
+
 /** The text that the fake host gives for a key in its present language. */
 QString shown(const char* key);
