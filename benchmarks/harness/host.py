@@ -9,14 +9,15 @@ import signal
 import subprocess
 import time
 from collections import namedtuple
-from contextlib import ExitStack
+from contextlib import ExitStack, closing
 from statistics import median
 
 from harness.programs import LOGGING_OFF, Failed
+from network import NetworkManager
 from session import Program, Session
 
 TURNS = 11
-START_TARGET = 1.5 # times the empty window, with FEW links
+START_TARGET = 1.4 # times the empty window, with FEW links
 FEW, MANY = 20, 500
 REST = 5 # seconds until a started program has come to rest
 
@@ -47,6 +48,18 @@ def _starts(commands):
         for name, command in commands.items():
             paints[name].append(_first_paint(command))
     return {name: Paint(*(median(values) for values in zip(*taken))) for name, taken in paints.items()}
+
+
+def _starts_with_a_service(commands):
+    """The same with a connection up, and with a service that says nothing, beside the empty window of that moment."""
+    starts = {}
+    with ExitStack() as stack:
+        network = stack.enter_context(closing(NetworkManager()))
+        network.activate("Plan")
+        starts["a connection up"] = _starts(commands)
+        network.stop()
+        starts["the service hangs"] = _starts(commands)
+    return starts
 
 
 def _trace(program, log):
@@ -80,21 +93,35 @@ def _idle(commands, seconds, folder):
         return calls
 
 
+def _ratio(paint, least):
+    return paint.milliseconds / least.milliseconds
+
+
+def _row(name, paint, least, calls):
+    return (f"| {name} | {paint.milliseconds:.1f} | {_ratio(paint, least):.2f} | {paint.cpu:.1f} | "
+            f"{paint.cpu / least.cpu:.2f} | {calls} |")
+
+
 def host_table(programs, folders, folder, idle_seconds):
     """Markdown: the starts, and the system calls while idle. There is no window manager, which takes its own time."""
-    with Session("1024x768"):
+    with Session("1024x768") as session:
+        session.start_buses()
+        # Nobody reads the screen aloud.
+        for name in "QT_ACCESSIBILITY", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON":
+            del os.environ[name]
         os.environ.update(QT_LOGGING_RULES=LOGGING_OFF, QT_PLUGIN_PATH=programs.path("qtplugins"))
         commands = _commands(programs, folders)
         starts = _starts(commands)
+        few = {name: commands[name] for name in ("empty window", f"{FEW} links")}
+        with_a_service = _starts_with_a_service(few)
         idle = _idle(commands, idle_seconds, folder)
-    least = starts["empty window"]
     lines = [f"| program | first paint, ms | to the empty window | CPU ms | CPU to the empty window | "
              f"system calls in {idle_seconds} s idle |", "|---|--:|--:|--:|--:|--:|"]
-    for name, paint in starts.items():
-        lines.append(f"| {name} | {paint.milliseconds:.1f} | {paint.milliseconds / least.milliseconds:.2f} | "
-                     f"{paint.cpu:.1f} | {paint.cpu / least.cpu:.2f} | "
-                     f"{idle.get(name, '-')} |")
-    ratio = starts[f"{FEW} links"].milliseconds / least.milliseconds
-    lines += ["", f"Target: {FEW} links in at most {START_TARGET} times the time of the empty window: "
-                  + ("met." if ratio <= START_TARGET else f"**missed**, {ratio:.2f}.")]
+    lines += [_row(name, paint, starts["empty window"], idle.get(name, "-")) for name, paint in starts.items()]
+    name = f"{FEW} links"
+    lines += [_row(f"{name}, {case}", paints[name], paints["empty window"], "-")
+              for case, paints in with_a_service.items()]
+    worst = max(_ratio(paints[name], paints["empty window"]) for paints in (starts, *with_a_service.values()))
+    lines += ["", f"Target: {name} in at most {START_TARGET} times the time of the empty window at that time: "
+                  + ("met." if worst <= START_TARGET else f"**missed**, {worst:.2f}.")]
     return "\n".join(lines) + "\n"

@@ -4,7 +4,6 @@
 #include "BusValue.h"
 
 #include <QDBusArgument>
-#include <QDBusObjectPath>
 
 template <typename Type>
 static Type exactly(const QVariant& value)
@@ -49,13 +48,17 @@ QString BusValue::path(const QVariant& value)
     return exactly<QDBusObjectPath>(value).path();
 }
 
-QVariantMap BusValue::map(const QDBusMessage& answer)
+QVariantMap BusValue::map(const QVariant& value)
 {
-    return unpacked<QVariantMap>(answer.arguments().value(0), "a{sv}");
+    return unpacked<QVariantMap>(value, "a{sv}");
 }
 
-QString BusValue::text(const QDBusMessage& answer, const QString& section, const QString& name)
+QMap<QString, QVariantMap> BusValue::sections(const QVariant& value)
 {
-    const auto sections = unpacked<QMap<QString, QVariantMap>>(answer.arguments().value(0), "a{sa{sv}}");
-    return text(sections.value(section).value(name));
+    return unpacked<QMap<QString, QVariantMap>>(value, "a{sa{sv}}");
+}
+
+QMap<QDBusObjectPath, QMap<QString, QVariantMap>> BusValue::objects(const QVariant& value)
+{
+    return unpacked<QMap<QDBusObjectPath, QMap<QString, QVariantMap>>>(value, "a{oa{sa{sv}}}");
 }

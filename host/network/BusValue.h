@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QMap>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -32,10 +33,13 @@ QStringList paths(const QVariant& value);
 /** An object path ("o"). */
 QString path(const QVariant& value);
 
-/** Values by name, the one thing that an answer says ("a{sv}"). */
-QVariantMap map(const QDBusMessage& answer);
+/** Values by name ("a{sv}"). */
+QVariantMap map(const QVariant& value);
 
-/** A text of a section, of an answer that has named values in named sections ("a{sa{sv}}"). */
-QString text(const QDBusMessage& answer, const QString& section, const QString& name);
+/** Values by name in named sections, such as those of an object's interfaces ("a{sa{sv}}"). */
+QMap<QString, QVariantMap> sections(const QVariant& value);
+
+/** Objects with the values of their interfaces ("a{oa{sa{sv}}}"). */
+QMap<QDBusObjectPath, QMap<QString, QVariantMap>> objects(const QVariant& value);
 
 } // namespace BusValue

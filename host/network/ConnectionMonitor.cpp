@@ -109,7 +109,7 @@ void ConnectionMonitor::switchSource()
         follow(m_rules.serviceLost(now()));
     } else {
         qCInfo(connectionLog, "the service is there");
-        m_rules.serviceReturned();
+        m_rules.serviceReturned(now());
     }
     look();
 }

@@ -9,10 +9,11 @@
 struct ConnectionState {
     /** How far the network lets us go. */
     enum class Reach {
-        Unknown, ///< nobody has looked yet
-        Limited, ///< not into the Internet
-        Portal,  ///< a page of the network wants a login first
-        Full,    ///< into the Internet
+        Unknown,  ///< nobody looks
+        Checking, ///< somebody looks just now
+        Limited,  ///< not into the Internet
+        Portal,   ///< a page of the network wants a login first
+        Full,     ///< into the Internet
     };
 
     bool isUp = false;

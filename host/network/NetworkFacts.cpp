@@ -3,11 +3,16 @@
 
 #include "NetworkFacts.h"
 
+#include <algorithm>
+
 #include "BusValue.h"
+
+using Reach = ConnectionState::Reach;
 
 namespace
 {
-const int mostConnections = 100; // More would only keep the bus busy.
+const int mostConnections = 100; // More would only keep the processor busy.
+const int mostObjects = 10000;   // More would only fill the memory.
 
 /** Of a connection; the numbers are NetworkManager's. */
 enum State : uint { Activating = 1, Activated = 2 };
@@ -15,18 +20,19 @@ enum State : uint { Activating = 1, Activated = 2 };
 /** Of the network; the numbers are NetworkManager's. */
 enum Connectivity : uint { None = 1, Portal = 2, Limited = 3, Full = 4 };
 
-ConnectionState::Reach reachOf(uint connectivity)
+Reach reachOf(uint connectivity)
 {
     switch (connectivity) {
     case Full:
-        return ConnectionState::Reach::Full;
+        return Reach::Full;
     case Portal:
-        return ConnectionState::Reach::Portal;
+        return Reach::Portal;
     case Limited:
+        return Reach::Limited;
     case None:
-        return ConnectionState::Reach::Limited;
+        return Reach::Checking;
     default:
-        return ConnectionState::Reach::Unknown;
+        return Reach::Unknown;
     }
 }
 
@@ -53,7 +59,25 @@ QVariantMap NetworkFacts::of(const QString& path) const
 
 void NetworkFacts::set(const QString& path, const QVariantMap& values)
 {
-    m_values.insert(path, values);
+    if (m_values.size() < mostObjects || m_values.contains(path))
+        m_values.insert(path, values);
+}
+
+bool NetworkFacts::change(const QString& path, const QVariantMap& changes, const QStringList& withdrawn)
+{
+    const auto object = m_values.find(path);
+    if (object == m_values.end())
+        return false;
+    for (auto value = changes.begin(); value != changes.end(); ++value)
+        object->insert(value.key(), value.value());
+    for (const QString& name : withdrawn)
+        object->remove(name);
+    return true;
+}
+
+void NetworkFacts::remove(const QString& path)
+{
+    m_values.remove(path);
 }
 
 QStringList NetworkFacts::connections() const
@@ -61,29 +85,52 @@ QStringList NetworkFacts::connections() const
     return BusValue::paths(of(manager()).value(QStringLiteral("ActiveConnections"))).mid(0, mostConnections);
 }
 
-NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind) const
+bool NetworkFacts::isUp(const QString& path) const
 {
-    const QString primary = BusValue::path(of(manager()).value(QStringLiteral("PrimaryConnection")));
+    return stateOf(of(path)) == Activated;
+}
+
+NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind, const QString& former) const
+{
     QString best;
+    Rank highest = Rank::None;
     const QStringList all = connections();
     for (const QString& path : all) {
-        const QVariantMap connection = of(path);
-        const bool isUp = stateOf(connection) == Activated;
-        if ((!isUp && stateOf(connection) != Activating) || !counts(connection, kind))
-            continue;
-        if (isUp && path == primary)
-            return describe(path);
-        if (best.isEmpty() || (isUp && stateOf(of(best)) != Activated))
+        const Rank found = rank(path, kind);
+        if (found > highest) {
             best = path;
+            highest = found;
+        }
     }
+    // The service calls one the default that is only on the way, for as long as that takes. Until it is up, what
+    // carried the traffic before goes on to.
+    if (kind == ConnectionKind::Any && highest == Rank::ComingUp && isDefault(of(best)) && isUp(former))
+        best = former;
     return best.isEmpty() ? Chosen() : describe(best);
 }
 
-bool NetworkFacts::counts(const QVariantMap& connection, ConnectionKind kind) const
+NetworkFacts::Rank NetworkFacts::rank(const QString& path, ConnectionKind kind) const
 {
-    if (kind == ConnectionKind::Any)
-        return BusValue::flag(connection.value(QStringLiteral("Default"))) ||
-               BusValue::flag(connection.value(QStringLiteral("Default6")));
+    const QVariantMap connection = of(path);
+    const auto isOfManager = [this, &path](const char* name) {
+        return BusValue::path(of(manager()).value(QLatin1String(name))) == path;
+    };
+    const bool counts = kind == ConnectionKind::Any ? isDefault(connection) : isMobile(connection);
+    if (isUp(path))
+        return !counts ? Rank::None : isOfManager("PrimaryConnection") ? Rank::Primary : Rank::Up;
+    // One that waits for an address has no route yet.
+    const bool isExpected = counts || (kind == ConnectionKind::Any && isOfManager("ActivatingConnection"));
+    return stateOf(connection) == Activating && isExpected ? Rank::ComingUp : Rank::None;
+}
+
+bool NetworkFacts::isDefault(const QVariantMap& connection)
+{
+    return BusValue::flag(connection.value(QStringLiteral("Default"))) ||
+           BusValue::flag(connection.value(QStringLiteral("Default6")));
+}
+
+bool NetworkFacts::isMobile(const QVariantMap& connection) const
+{
     const QString type = textOf(connection, "Type");
     // Bluetooth can be a local network as well.
     if (type == QLatin1String("bluetooth"))
@@ -106,8 +153,18 @@ NetworkFacts::Chosen NetworkFacts::describe(const QString& path) const
         return chosen;
     const QString uuid = textOf(connection, "Uuid");
     chosen.state.id = uuid.isEmpty() ? path : uuid;
-    chosen.state.reach = reachOf(BusValue::number(of(manager()).value(QStringLiteral("Connectivity"))));
+    chosen.state.reach = reach(device);
     chosen.path = path;
     chosen.modem = textOf(device, "Udi");
     return chosen;
+}
+
+Reach NetworkFacts::reach(const QVariantMap& device) const
+{
+    // The service looks at each device for itself; what it says of the whole is of the one that the traffic takes.
+    const auto said = [](const QVariantMap& values, const char* name) {
+        return reachOf(BusValue::number(values.value(QLatin1String(name))));
+    };
+    const Reach own = std::max(said(device, "Ip4Connectivity"), said(device, "Ip6Connectivity"));
+    return own == Reach::Unknown ? said(of(manager()), "Connectivity") : own;
 }

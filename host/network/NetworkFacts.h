@@ -26,18 +26,36 @@ public:
     /** The values that an object has, by name; empty while it has none. */
     QVariantMap of(const QString& path) const;
 
-    /** Takes the place of what was known of this object. */
+    /** Takes the place of what was known of this object. Of more objects than any computer has, some stay unknown. */
     void set(const QString& path, const QVariantMap& values);
+
+    /** Takes new values of an object, and forgets withdrawn ones; false, and nothing, when the object is unknown. */
+    bool change(const QString& path, const QVariantMap& changes, const QStringList& withdrawn);
+
+    /** Forgets an object. */
+    void remove(const QString& path);
 
     /** The object paths of the connections that are up or on the way, as many as are looked at. */
     QStringList connections() const;
 
-    /** The one to show, where several count: one that is up, and of these the one that the traffic takes. */
-    Chosen chosen(ConnectionKind kind) const;
+    /** Whether the connection with this path is up. */
+    bool isUp(const QString& path) const;
+
+    /**
+     * The one to show, where several count: one that is up, and of these the one that the traffic takes. former is the
+     * path of the one that was shown before; empty for none.
+     */
+    Chosen chosen(ConnectionKind kind, const QString& former) const;
 
 private:
-    bool counts(const QVariantMap& connection, ConnectionKind kind) const;
+    /** How much a connection is the one to show. */
+    enum class Rank { None, ComingUp, Up, Primary };
+
+    Rank rank(const QString& path, ConnectionKind kind) const;
+    static bool isDefault(const QVariantMap& connection);
+    bool isMobile(const QVariantMap& connection) const;
     Chosen describe(const QString& path) const;
+    ConnectionState::Reach reach(const QVariantMap& device) const;
 
     QHash<QString, QVariantMap> m_values;
 };

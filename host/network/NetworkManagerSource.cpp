@@ -3,74 +3,39 @@
 
 #include "NetworkManagerSource.h"
 
-#include <QDBusConnection>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
-#include <QDBusVariant>
-
-#include <algorithm>
-
-#include "BusValue.h"
-#include "NetworkLook.h"
-
-namespace
-{
-constexpr char networkManager[] = "org.freedesktop.NetworkManager";
-constexpr char active[] = "org.freedesktop.NetworkManager.Connection.Active";
-const uint activated = 2; // NetworkManager's number
-} // namespace
+using Reach = ConnectionState::Reach;
+using Presence = NetworkObjects::Presence;
 
 NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
     : m_kind(kind)
 {
-    m_pause.setSingleShot(true);
-    m_retry.setSingleShot(true);
-    connect(&m_pause, &QTimer::timeout, this, &NetworkManagerSource::lookWhenDue);
-    connect(&m_retry, &QTimer::timeout, this, &NetworkManagerSource::requestLook);
-    // The name of an operator may change as fast as anything else.
-    connect(&m_operator, &ModemOperator::changed, this, &NetworkManagerSource::requestLook);
-    if (QDBusConnection::systemBus().isConnected())
-        listen();
-    else
-        m_presence = Presence::Away;
-}
-
-NetworkManagerSource::~NetworkManagerSource() = default;
-
-void NetworkManagerSource::listen()
-{
-    QDBusConnection bus = QDBusConnection::systemBus();
-    auto* const watcher =
-        new QDBusServiceWatcher(QLatin1String(networkManager), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& owner) { setOwner(owner); });
-    for (const char* const interface : {networkManager, active})
-        bus.connect(QLatin1String(networkManager), QString(), QLatin1String(BusValue::properties),
-                    QStringLiteral("PropertiesChanged"), {QLatin1String(interface)}, QString(), this,
-                    SLOT(requestLook()));
-
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-    question << QLatin1String(networkManager);
-    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        // When the service came meanwhile, its coming was told.
-        if (!m_hasOwner)
-            setOwner(BusValue::text(answer->reply().arguments().value(0)));
+    for (QTimer* const timer : {&m_pause, &m_settling, &m_checking})
+        timer->setSingleShot(true);
+    m_settling.setInterval(settlingTime);
+    m_checking.setInterval(checkingTime);
+    connect(&m_pause, &QTimer::timeout, this, [this] {
+        if (m_isWanted)
+            takeChange();
     });
+    connect(&m_settling, &QTimer::timeout, this, [this] {
+        take(m_objects.facts().chosen(m_kind, m_chosen.path));
+        Q_EMIT changed();
+    });
+    connect(&m_checking, &QTimer::timeout, this, &NetworkManagerSource::changed);
+    connect(&m_objects, &NetworkObjects::presenceChanged, this, &NetworkManagerSource::takePresence);
+    connect(&m_objects, &NetworkObjects::changed, this, &NetworkManagerSource::requestChange);
+    // The name of an operator may change as fast as anything else.
+    connect(&m_operator, &ModemOperator::changed, this, &NetworkManagerSource::requestChange);
 }
 
 bool NetworkManagerSource::isKnown() const
 {
-    return m_presence != Presence::Unknown;
+    return m_objects.presence() != Presence::Unknown;
 }
 
 bool NetworkManagerSource::isAvailable() const
 {
-    return m_presence == Presence::There;
+    return m_objects.presence() == Presence::There;
 }
 
 ConnectionState NetworkManagerSource::state() const
@@ -78,81 +43,56 @@ ConnectionState NetworkManagerSource::state() const
     ConnectionState state = m_chosen.state;
     if (state.isUp)
         state.operatorName = m_operator.name();
+    // The service says the same while it looks for the first time as where it has found nothing.
+    if (state.reach == Reach::Checking && !m_checking.isActive())
+        state.reach = Reach::Limited;
     return state;
 }
 
 void NetworkManagerSource::askWhetherUp()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(networkManager), m_chosen.path,
-                                                           QLatin1String(BusValue::properties), QStringLiteral("Get"));
-    question << QLatin1String(active) << QStringLiteral("State");
-    auto* const watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(question, NetworkLook::patience), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        // There is no answer when the connection is gone, and with it its object.
-        const QVariant answer = watcher->reply().arguments().value(0).value<QDBusVariant>().variant();
-        Q_EMIT answered(BusValue::number(answer) == activated);
-    });
+    // The service tells every change unasked, so nothing is asked of it; but what it has told already, and what lies
+    // here unread, is read first.
+    QMetaObject::invokeMethod(
+        this, [this] { Q_EMIT answered(m_objects.facts().isUp(m_chosen.path)); }, Qt::QueuedConnection);
 }
 
-void NetworkManagerSource::setOwner(const QString& owner)
+void NetworkManagerSource::takePresence()
 {
-    m_hasOwner = !owner.isEmpty();
-    // What the one before said counts no longer.
-    m_look.reset();
-    m_retry.stop();
-    m_wait = 0;
-    m_facts = NetworkFacts();
-    m_chosen = NetworkFacts::Chosen();
-    m_operator.setModem(QString());
-    if (m_presence == Presence::There || !m_hasOwner)
-        setPresence(Presence::Away);
-    requestLook();
-}
-
-void NetworkManagerSource::setPresence(Presence presence)
-{
-    if (m_presence == presence)
-        return;
-    m_presence = presence;
+    m_settling.stop();
+    take(m_objects.facts().chosen(m_kind, m_chosen.path));
     Q_EMIT availabilityChanged();
 }
 
-void NetworkManagerSource::requestLook()
+void NetworkManagerSource::requestChange()
 {
     m_isWanted = true;
-    lookWhenDue();
+    if (!m_pause.isActive())
+        takeChange();
 }
 
-void NetworkManagerSource::lookWhenDue()
+void NetworkManagerSource::takeChange()
 {
-    if (!m_isWanted || !m_hasOwner || m_look || m_pause.isActive())
-        return;
     m_isWanted = false;
     m_pause.start(pause);
-    m_look = std::make_unique<NetworkLook>(m_facts);
-    connect(m_look.get(), &NetworkLook::finished, this, &NetworkManagerSource::takeLook);
+    const NetworkFacts::Chosen chosen = m_objects.facts().chosen(m_kind, m_chosen.path);
+    // When one device takes over from another, for a moment neither has the traffic.
+    if (m_chosen.state.isUp && !chosen.state.isUp) {
+        if (!m_settling.isActive())
+            m_settling.start();
+        return;
+    }
+    m_settling.stop();
+    take(chosen);
+    Q_EMIT changed();
 }
 
-void NetworkManagerSource::takeLook()
+void NetworkManagerSource::take(const NetworkFacts::Chosen& chosen)
 {
-    NetworkLook* const look = m_look.release();
-    look->deleteLater();
-    if (look->isComplete()) {
-        m_wait = 0;
-        m_retry.stop();
-    } else {
-        m_wait = std::min(std::max(2 * m_wait, NetworkLook::patience), longestWait);
-        m_retry.start(m_wait);
-    }
-    const bool isSilent = look->facts().of(NetworkFacts::manager()).isEmpty();
-    m_facts = look->facts();
-    m_chosen = m_facts.chosen(m_kind);
+    if (chosen.path != m_chosen.path)
+        m_checking.start();
+    if (chosen.state.reach != Reach::Checking)
+        m_checking.stop();
+    m_chosen = chosen;
     m_operator.setModem(m_chosen.modem);
-    if (!isAvailable())
-        setPresence(isSilent ? Presence::Away : Presence::There);
-    else
-        Q_EMIT changed();
-    lookWhenDue();
 }

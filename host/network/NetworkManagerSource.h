@@ -5,63 +5,44 @@
 
 #include <QTimer>
 
-#include <memory>
-
 #include "ConnectionKind.h"
 #include "ConnectionSource.h"
 #include "ModemOperator.h"
-#include "NetworkFacts.h"
-
-class NetworkLook;
+#include "NetworkObjects.h"
 
 /**
- * The connections of NetworkManager, over the system bus. The service may start late, stop and come back, say nonsense
- * or nothing, and say it ten thousand times a second: nothing here waits for it, and it is looked at every 100
- * milliseconds at most.
+ * The connections of NetworkManager, over the system bus. The service may say what it wants ten thousand times a
+ * second: what follows from it is told every 100 milliseconds at most.
  */
 class NetworkManagerSource : public ConnectionSource
 {
     Q_OBJECT
 
 public:
-    static constexpr int pause = 100;         ///< milliseconds from look to look
-    static constexpr int longestWait = 10000; ///< milliseconds until a service that was silent is asked again
+    static constexpr int pause = 100;          ///< milliseconds from change to change
+    static constexpr int settlingTime = 250;   ///< milliseconds that a connection is missing before it is down
+    static constexpr int checkingTime = 10000; ///< milliseconds that the service may look whether a new one is online
 
     /** Begins to listen. kind is Mobile or Any. */
     explicit NetworkManagerSource(ConnectionKind kind);
-    ~NetworkManagerSource() override;
 
     bool isKnown() const override;
     bool isAvailable() const override;
     ConnectionState state() const override;
     void askWhetherUp() override;
 
-private Q_SLOTS:
-    /** Something of what a look finds may have changed. */
-    void requestLook();
-
 private:
-    enum class Presence {
-        Unknown, ///< nothing has answered yet
-        Away,
-        There,
-    };
-
-    void listen();
-    void setOwner(const QString& owner);
-    void setPresence(Presence presence);
-    void lookWhenDue();
-    void takeLook();
+    void takePresence();
+    void requestChange();
+    void takeChange();
+    void take(const NetworkFacts::Chosen& chosen);
 
     const ConnectionKind m_kind;
-    Presence m_presence = Presence::Unknown;
-    bool m_hasOwner = false; ///< somebody has the service's name, and may answer
-    bool m_isWanted = false; ///< a look is
-    QTimer m_pause;          ///< runs while the last look is too young for another
-    QTimer m_retry;
-    int m_wait = 0;                      ///< milliseconds until the next retry
-    std::unique_ptr<NetworkLook> m_look; ///< the one under way
-    NetworkFacts m_facts;
+    NetworkObjects m_objects;
     NetworkFacts::Chosen m_chosen;
     ModemOperator m_operator;
+    bool m_isWanted = false; ///< a change is
+    QTimer m_pause;          ///< runs while the last change is too young for another
+    QTimer m_settling;       ///< runs while the connection is missing and not yet down
+    QTimer m_checking;       ///< runs while the service may look whether the connection is online
 };

@@ -83,7 +83,7 @@ Decision TransitionRules::goDown(qint64 now)
 Decision TransitionRules::inGap(const ConnectionState& state, qint64 now)
 {
     if (!state.isUp)
-        return m_gap == Gap::ServiceIsBack ? tellDown(QStringLiteral("down since the service is back")) : Decision();
+        return Decision();
     if (now <= m_handOverEnds)
         return resume(state, QStringLiteral("handed over"));
     if (state.id == m_id && m_gap == Gap::Network)
@@ -134,9 +134,11 @@ Decision TransitionRules::serviceLost(qint64 now)
     return {Announcement::None, QStringLiteral("the service is gone, waiting whether it comes back")};
 }
 
-void TransitionRules::serviceReturned()
+void TransitionRules::serviceReturned(qint64 now)
 {
     m_gap = Gap::ServiceIsBack;
+    if (m_phase == Phase::Gap)
+        m_deadline = now + handOverLimit;
 }
 
 void TransitionRules::fallAsleep()

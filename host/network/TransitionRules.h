@@ -36,8 +36,8 @@ public:
     /** What tells the state went away, which is no news of the connection itself. */
     Decision serviceLost(qint64 now);
 
-    /** It is back; what is observed next is its first word. */
-    void serviceReturned();
+    /** It is back; what is observed next is its first word, which may come before it has found what is up. */
+    void serviceReturned(qint64 now);
 
     /** The computer is about to sleep. */
     void fallAsleep();

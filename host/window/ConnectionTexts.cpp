@@ -38,6 +38,8 @@ QString ConnectionTexts::hint() const
     const ConnectionState now = m_monitor.state();
     if (now.isUp && now.reach == Reach::Portal)
         return tr("This network asks for a login first.");
+    if (now.isUp && now.reach == Reach::Checking)
+        return tr("Checking…");
     if (now.isUp && now.reach == Reach::Limited)
         return tr("The Internet is out of reach.");
     if (now.isUp || now.isComingUp)

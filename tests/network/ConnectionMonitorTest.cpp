@@ -287,13 +287,13 @@ void ConnectionMonitorTest::serviceLostAndReturned()
     m_source->setAvailable(false);
     m_source->current = ConnectionState();
     m_source->setAvailable(true);
-    QCOMPARE(m_told, QStringList("DOWN down since the service is back"));
+    // A service that has just started may not have found it yet.
     m_source->become("a");
-    QCOMPARE(m_told.size(), 2);
+    QCOMPARE(m_told, QStringList());
     m_source->setAvailable(false);
     m_source->current.id = "b";
     m_source->setAvailable(true);
-    QCOMPARE(m_told.size(), 3);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
 }
 
 void ConnectionMonitorTest::sleepIsPassedOn()

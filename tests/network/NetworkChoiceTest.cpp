@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <QDBusObjectPath>
+#include <QElapsedTimer>
+#include <QRegularExpression>
 
 #include "NetworkManagerSource.h"
 #include "PlayedNetwork.h"
@@ -19,8 +21,17 @@ private Q_SLOTS:
 
     void chooses_data();
     void chooses();
+    void telephone_data();
+    void telephone();
+    void anyBesideTheDefault();
+    void anyOnTheWay();
+    void switchIsNoGap();
+    void downIsDown();
     void reach_data();
     void reach();
+    void reachOfItsDevice_data();
+    void reachOfItsDevice();
+    void checksForTenSeconds();
     void device_data();
     void device();
     void identity();
@@ -56,6 +67,7 @@ void NetworkChoiceTest::chooses_data()
     row("down", mobileOnly, mobile, "State", 4U, "up: Telephone");
     row("of no known state", mobileOnly, mobile, "State", 4000000000U, "up: Telephone");
     row("not the one without a route", any, telephone, "Default6", false, "up: Mobile plan");
+    row("on the way without a route", any, mobile, "State", 1U, "up: Telephone");
 }
 
 static QString textOf(const ConnectionState& state)
@@ -74,17 +86,126 @@ void NetworkChoiceTest::chooses()
     NetworkManagerSource source{ConnectionKind(kind)};
     QTRY_VERIFY(source.isAvailable());
     QTEST(textOf(source.state()), "expected");
-    // What is a local network by Bluetooth is no mobile broadband, and what is nothing is down.
+}
+
+void NetworkChoiceTest::telephone_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<uint>("state");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("up") << "dun" << 2U << "up: Telephone";
+    QTest::newRow("on the way") << "dun" << 1U << "coming up: Telephone";
+    QTest::newRow("a local network is no mobile broadband") << "panu" << 2U << "down: ";
+    QTest::newRow("of no known type") << "" << 2U << "down: ";
+}
+
+void NetworkChoiceTest::telephone()
+{
+    QFETCH(const QString, type);
+    QFETCH(const uint, state);
+    PlayedNetwork network;
     network.removeObject(PlayedNetwork::mobile);
-    network.set(PlayedNetwork::stored, "type", "panu");
+    network.set(PlayedNetwork::stored, "type", type);
+    network.set(PlayedNetwork::bluetooth, "State", state);
+    {
+        NetworkManagerSource source(ConnectionKind::Mobile);
+        QTRY_VERIFY(source.isAvailable());
+        QTEST(textOf(source.state()), "expected");
+    }
+    // And when it comes later.
+    network.removeObject(PlayedNetwork::bluetooth);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isAvailable());
+    QCOMPARE(textOf(source.state()), "down: ");
+    network.addTelephone(state);
+    network.tellChanges();
+    QFETCH(const QString, expected);
+    QTRY_COMPARE(network.questions(PlayedNetwork::stored), 2);
+    QTRY_COMPARE(textOf(source.state()), expected);
+}
+
+/** The service takes a second connection for the default before that is up. */
+void NetworkChoiceTest::anyBesideTheDefault()
+{
+    PlayedNetwork network;
     network.set(PlayedNetwork::bluetooth, "Default6", false);
-    network.tellChange();
-    QTRY_COMPARE(textOf(source.state()), "down: ");
-    network.set(PlayedNetwork::stored, "type", "dun");
-    network.set(PlayedNetwork::bluetooth, "Default6", true);
     network.set(PlayedNetwork::bluetooth, "State", 1U);
-    network.tellChange();
+    NetworkManagerSource source(ConnectionKind::Any);
+    QTRY_COMPARE(textOf(source.state()), "up: Mobile plan");
+    QStringList shown;
+    connect(&source, &ConnectionSource::changed, this, [&] { shown.append(textOf(source.state())); });
+    network.set(PlayedNetwork::mobile, "Default", false);
+    network.set(PlayedNetwork::bluetooth, "Default6", true);
+    network.tellChanges();
+    network.set(PlayedNetwork::mobile, "Id", "Renamed");
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "up: Renamed");
+    network.set(PlayedNetwork::bluetooth, "State", 2U);
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "up: Telephone");
+    QVERIFY2(shown.filter(QRegularExpression("^(?!up)")).isEmpty(), qPrintable(shown.join(", ")));
+    // Nor does it go on for ever.
+    network.set(PlayedNetwork::bluetooth, "State", 1U);
+    network.set(PlayedNetwork::mobile, "State", 3U);
+    network.tellChanges();
     QTRY_COMPARE(textOf(source.state()), "coming up: Telephone");
+    network.set(PlayedNetwork::mobile, "State", 2U);
+    network.tellChanges();
+    network.set(PlayedNetwork::bluetooth, "Id", "Renamed");
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "coming up: Renamed");
+}
+
+void NetworkChoiceTest::anyOnTheWay()
+{
+    PlayedNetwork network;
+    network.removeObject(PlayedNetwork::bluetooth);
+    network.set(PlayedNetwork::mobile, "State", 1U);
+    network.set(PlayedNetwork::mobile, "Default", false);
+    NetworkManagerSource source(ConnectionKind::Any);
+    QTRY_VERIFY(source.isAvailable());
+    QCOMPARE(textOf(source.state()), "down: ");
+    network.set(PlayedNetwork::manager, "ActivatingConnection",
+                QVariant::fromValue(QDBusObjectPath(PlayedNetwork::mobile)));
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "coming up: Mobile plan");
+}
+
+void NetworkChoiceTest::switchIsNoGap()
+{
+    PlayedNetwork network;
+    network.set(PlayedNetwork::bluetooth, "State", 1U);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isAvailable());
+    QStringList shown;
+    connect(&source, &ConnectionSource::changed, this, [&] { shown.append(textOf(source.state())); });
+    network.set(PlayedNetwork::mobile, "State", 3U);
+    network.tellChanges();
+    network.set(PlayedNetwork::bluetooth, "State", 2U);
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "up: Telephone");
+    QVERIFY2(shown.filter(QRegularExpression("^(?!up)")).isEmpty(), qPrintable(shown.join(", ")));
+}
+
+void NetworkChoiceTest::downIsDown()
+{
+    PlayedNetwork network;
+    network.removeObject(PlayedNetwork::bluetooth);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isAvailable());
+    QStringList shown;
+    connect(&source, &ConnectionSource::changed, this, [&] { shown.append(textOf(source.state())); });
+    network.set(PlayedNetwork::mobile, "State", 3U);
+    network.tellChanges();
+    // As on the way down it says more than that.
+    for (int i = 0; i < 5; ++i) {
+        network.set(PlayedNetwork::mobile, "Id", QString::number(i));
+        network.tellChanges();
+    }
+    QTRY_COMPARE(textOf(source.state()), "down: ");
+    // It was up until then, whatever it was called.
+    QCOMPARE(shown.last(), "down: ");
+    QVERIFY2(shown.filter("4").isEmpty(), qPrintable(shown.join(", ")));
 }
 
 void NetworkChoiceTest::reach_data()
@@ -92,7 +213,7 @@ void NetworkChoiceTest::reach_data()
     QTest::addColumn<QVariant>("connectivity");
     QTest::addColumn<int>("reach");
     QTest::newRow("unknown") << QVariant(0U) << int(Reach::Unknown);
-    QTest::newRow("none") << QVariant(1U) << int(Reach::Limited);
+    QTest::newRow("none") << QVariant(1U) << int(Reach::Checking);
     QTest::newRow("portal") << QVariant(2U) << int(Reach::Portal);
     QTest::newRow("limited") << QVariant(3U) << int(Reach::Limited);
     QTest::newRow("full") << QVariant(4U) << int(Reach::Full);
@@ -107,6 +228,54 @@ void NetworkChoiceTest::reach()
     NetworkManagerSource source(ConnectionKind::Mobile);
     QTRY_VERIFY(source.isAvailable());
     QTEST(int(source.state().reach), "reach");
+}
+
+void NetworkChoiceTest::reachOfItsDevice_data()
+{
+    QTest::addColumn<uint>("ip4");
+    QTest::addColumn<uint>("ip6");
+    QTest::addColumn<int>("reach");
+    QTest::newRow("not told") << 0U << 0U << int(Reach::Full);
+    QTest::newRow("by one") << 4U << 1U << int(Reach::Full);
+    QTest::newRow("by the other") << 1U << 4U << int(Reach::Full);
+    QTest::newRow("limited") << 3U << 1U << int(Reach::Limited);
+    QTest::newRow("portal") << 1U << 2U << int(Reach::Portal);
+    QTest::newRow("portal and limited") << 2U << 3U << int(Reach::Portal);
+    QTest::newRow("not yet known") << 0U << 1U << int(Reach::Checking);
+}
+
+void NetworkChoiceTest::reachOfItsDevice()
+{
+    QFETCH(const uint, ip4);
+    QFETCH(const uint, ip6);
+    PlayedNetwork network;
+    network.set(PlayedNetwork::modem, "Ip4Connectivity", ip4);
+    network.set(PlayedNetwork::modem, "Ip6Connectivity", ip6);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isAvailable());
+    QTEST(int(source.state().reach), "reach");
+}
+
+void NetworkChoiceTest::checksForTenSeconds()
+{
+    PlayedNetwork network;
+    network.set(PlayedNetwork::manager, "Connectivity", 1U);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QElapsedTimer clock;
+    QTRY_COMPARE(source.state().reach, Reach::Checking);
+    clock.start();
+    bool isTold = false;
+    connect(&source, &ConnectionSource::changed, this, [&isTold] { isTold = true; });
+    QTRY_VERIFY_WITH_TIMEOUT(isTold, 60000);
+    QCOMPARE(source.state().reach, Reach::Limited);
+    QVERIFY2(clock.elapsed() > NetworkManagerSource::checkingTime / 2, qPrintable(QString::number(clock.elapsed())));
+    // It is the same connection still, so this is no first look.
+    network.set(PlayedNetwork::manager, "Connectivity", 4U);
+    network.tellChanges();
+    QTRY_COMPARE(source.state().reach, Reach::Full);
+    network.set(PlayedNetwork::manager, "Connectivity", 1U);
+    network.tellChanges();
+    QTRY_COMPARE(source.state().reach, Reach::Limited);
 }
 
 void NetworkChoiceTest::device_data()
@@ -139,10 +308,10 @@ void NetworkChoiceTest::identity()
     QCOMPARE(source.state().id, PlayedNetwork::mobile);
     network.set(PlayedNetwork::mobile, "Uuid", "one");
     network.set(PlayedNetwork::bluetooth, "State", 4U);
-    network.tellChange();
+    network.tellChanges();
     QTRY_COMPARE(source.state().id, "one");
     network.set(PlayedNetwork::mobile, "State", 1U);
-    network.tellChange();
+    network.tellChanges();
     QTRY_VERIFY(source.state().isComingUp);
     QCOMPARE(source.state().id, QString());
 }
@@ -157,7 +326,7 @@ void NetworkChoiceTest::operatorIsTheModems()
     QTRY_COMPARE(source.state().operatorName, "Southern Mobile");
     // A telephone has no modem.
     network.set(PlayedNetwork::mobile, "State", 4U);
-    network.tellChange();
+    network.tellChanges();
     QTRY_COMPARE(source.state().name, "Telephone");
     QCOMPARE(source.state().operatorName, QString());
 }

@@ -21,11 +21,15 @@ private Q_SLOTS:
 
     void wrongType_data();
     void wrongType();
+    void changeToWrongType();
     void wrongAnswer_data();
     void wrongAnswer();
+    void wrongSettings_data();
+    void wrongSettings();
     void wrongSignal_data();
     void wrongSignal();
     void manyConnections();
+    void manyObjects();
 };
 
 namespace
@@ -74,6 +78,7 @@ QList<Property> properties()
     return {
         {"manager", PlayedNetwork::manager, "ActiveConnections", lists},
         {"manager", PlayedNetwork::manager, "PrimaryConnection", paths},
+        {"manager", PlayedNetwork::manager, "ActivatingConnection", paths},
         {"manager", PlayedNetwork::manager, "Connectivity", {"number"}},
         {"connection", PlayedNetwork::mobile, "Type", texts},
         {"connection", PlayedNetwork::mobile, "Id", texts},
@@ -87,6 +92,7 @@ QList<Property> properties()
         {"device", PlayedNetwork::modem, "Interface", texts},
         {"device", PlayedNetwork::modem, "IpInterface", texts},
         {"device", PlayedNetwork::modem, "Udi", texts},
+        {"device", PlayedNetwork::modem, "Ip4Connectivity", {"number"}},
     };
 }
 
@@ -143,61 +149,100 @@ void NetworkNonsenseTest::wrongType()
         QCOMPARE(said, unsaid.value(path + name));
 }
 
+void NetworkNonsenseTest::changeToWrongType()
+{
+    for (const Property& property : properties()) {
+        // What is stored is asked for once.
+        if (property.path == PlayedNetwork::stored)
+            continue;
+        PlayedNetwork network;
+        network.remove(property.path, property.name);
+        NetworkManagerSource source(ConnectionKind::Mobile);
+        QTRY_VERIFY(source.isAvailable());
+        const QString unsaid = SourceText::of(source.state());
+        for (const auto& value : values()) {
+            network.set(property.path, property.name, value.second);
+            network.tellChanges();
+        }
+        // The last one fits none.
+        QTRY_COMPARE(SourceText::of(source.state()), unsaid);
+    }
+}
+
 void NetworkNonsenseTest::wrongAnswer_data()
 {
-    QTest::addColumn<QString>("path");
     QTest::addColumn<QVariant>("answer");
-    const QList<QPair<const char*, QString>> objects = {{"connection", PlayedNetwork::mobile},
-                                                        {"device", PlayedNetwork::modem},
-                                                        {"telephone", PlayedNetwork::telephone},
-                                                        {"stored", PlayedNetwork::stored}};
-    for (const auto& object : objects) {
-        for (const auto& value : values()) {
-            if (value.first != "map")
-                QTest::addRow("%s is %s", object.first, value.first.constData()) << object.second << value.second;
-        }
-    }
+    for (const auto& value : values())
+        QTest::newRow(value.first) << value.second;
 }
 
 void NetworkNonsenseTest::wrongAnswer()
 {
-    QFETCH(const QString, path);
     QFETCH(const QVariant, answer);
-    static QHash<QString, QStringList> gone;
-    if (!gone.contains(path)) {
-        PlayedNetwork network;
-        network.removeObject(path);
-        gone.insert(path, heard(network));
-    }
     PlayedNetwork network;
-    network.setAnswer(path, answer);
-    // heard() takes the mobile connection away, but not this answer of it.
-    QCOMPARE(heard(network), gone.value(path));
+    network.setAnswer(PlayedNetwork::objects, answer);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isKnown());
+    QVERIFY(!source.isAvailable());
+}
+
+void NetworkNonsenseTest::wrongSettings_data()
+{
+    wrongAnswer_data();
+}
+
+void NetworkNonsenseTest::wrongSettings()
+{
+    QFETCH(const QVariant, answer);
+    PlayedNetwork network;
+    network.setAnswer(PlayedNetwork::stored, answer);
+    network.removeObject(PlayedNetwork::mobile);
+    NetworkManagerSource source(ConnectionKind::Mobile);
+    QTRY_VERIFY(source.isAvailable());
+    QCOMPARE(source.state().name, QString());
 }
 
 void NetworkNonsenseTest::wrongSignal_data()
 {
+    QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("interface");
-    QTest::addColumn<QVariantList>("arguments");
-    for (const char* const interface :
-         {"org.freedesktop.NetworkManager", "org.freedesktop.NetworkManager.Connection.Active"}) {
-        QTest::addRow("%s: only the interface", interface) << interface << QVariantList();
-        for (const auto& value : values())
-            QTest::addRow("%s: %s", interface, value.first.constData()) << interface << QVariantList({value.second});
-    }
+    QTest::addColumn<QString>("signal");
+    QTest::addColumn<QVariantList>("before");
+    const QString properties = "org.freedesktop.DBus.Properties", objects = "org.freedesktop.DBus.ObjectManager";
+    const auto path = QVariant::fromValue(QDBusObjectPath(PlayedNetwork::mobile));
+    const QVariant connection = "org.freedesktop.NetworkManager.Connection.Active";
+    QTest::newRow("changed") << PlayedNetwork::mobile << properties << "PropertiesChanged"
+                             << QVariantList({connection});
+    QTest::newRow("changed what nobody has")
+        << "/nowhere" << properties << "PropertiesChanged" << QVariantList({connection});
+    QTest::newRow("withdrawn") << PlayedNetwork::mobile << properties << "PropertiesChanged"
+                               << QVariantList({connection, QVariantMap()});
+    QTest::newRow("added") << PlayedNetwork::objects << objects << "InterfacesAdded" << QVariantList();
+    QTest::newRow("added what") << PlayedNetwork::objects << objects << "InterfacesAdded" << QVariantList({path});
+    QTest::newRow("added in the manager's place")
+        << PlayedNetwork::objects << objects << "InterfacesAdded"
+        << QVariantList({path, QVariant::fromValue(QMap<QString, QVariantMap>({{PlayedNetwork::name, {}}}))});
+    QTest::newRow("removed") << PlayedNetwork::objects << objects << "InterfacesRemoved" << QVariantList();
+    QTest::newRow("removed what") << PlayedNetwork::objects << objects << "InterfacesRemoved" << QVariantList({path});
 }
 
 void NetworkNonsenseTest::wrongSignal()
 {
+    QFETCH(const QString, path);
     QFETCH(const QString, interface);
-    QFETCH(const QVariantList, arguments);
+    QFETCH(const QString, signal);
+    QFETCH(const QVariantList, before);
     PlayedNetwork network;
     NetworkManagerSource source(ConnectionKind::Mobile);
     QTRY_VERIFY(source.isAvailable());
+    QString expected = SourceText::of(source.state());
+    network.tellAnything(path, interface, signal, before);
+    for (const auto& value : values())
+        network.tellAnything(path, interface, signal, before + QVariantList({value.second}));
+    // What is right is heard after it, and nothing else has changed.
     network.set(PlayedNetwork::mobile, "Id", "Other");
-    // Whatever it says of the change, it says that there is one.
-    network.tellAnything(interface, arguments);
-    QTRY_COMPARE(source.state().name, "Other");
+    network.tellChanges();
+    QTRY_COMPARE(SourceText::of(source.state()), expected.replace("Mobile plan", "Other"));
 }
 
 void NetworkNonsenseTest::manyConnections()
@@ -207,12 +252,30 @@ void NetworkNonsenseTest::manyConnections()
     for (int i = 0; i < 10000; ++i)
         paths.append(QDBusObjectPath(QString("/connection/%1").arg(i)));
     paths.insert(50, QDBusObjectPath(PlayedNetwork::mobile));
+    paths.insert(150, QDBusObjectPath(PlayedNetwork::bluetooth));
     network.set(PlayedNetwork::manager, "ActiveConnections", QVariant::fromValue(paths));
     NetworkManagerSource source(ConnectionKind::Mobile);
     QTRY_VERIFY(source.isAvailable());
     QCOMPARE(source.state().name, "Mobile plan");
-    QCOMPARE(network.questions("/connection/98"), 1);
-    QCOMPARE(network.questions("/connection/99"), 0);
+    network.removeObject(PlayedNetwork::mobile);
+    network.tellChanges();
+    QTRY_COMPARE(source.state().name, QString());
+    QCOMPARE(network.questions(PlayedNetwork::stored), 0);
+}
+
+void NetworkNonsenseTest::manyObjects()
+{
+    NetworkFacts facts;
+    for (int i = 0; i < 20000; ++i)
+        facts.set(QString::number(i), {{"State", 2U}});
+    QVERIFY(facts.isUp("0"));
+    QVERIFY(!facts.isUp("19999"));
+    // There is room for what is known, and for others when something goes.
+    facts.set("0", {{"State", 1U}});
+    QVERIFY(!facts.isUp("0"));
+    facts.remove("0");
+    facts.set("19999", {{"State", 2U}});
+    QVERIFY(facts.isUp("19999"));
 }
 
 REGISTER_TEST(NetworkNonsenseTest)

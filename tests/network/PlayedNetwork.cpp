@@ -11,6 +11,7 @@
 #include <QProcess>
 
 const QString PlayedNetwork::name = "org.freedesktop.NetworkManager";
+const QString PlayedNetwork::objects = "/org/freedesktop";
 const QString PlayedNetwork::manager = "/org/freedesktop/NetworkManager";
 const QString PlayedNetwork::mobile = manager + "/ActiveConnection/1";
 const QString PlayedNetwork::modem = manager + "/Devices/1";
@@ -20,9 +21,19 @@ const QString PlayedNetwork::stored = manager + "/Settings/2";
 const QString PlayedModems::modem = "/org/freedesktop/ModemManager1/Modem/0";
 const QString PlayedModems::mobileNetwork = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 
+namespace
+{
+const char properties[] = "org.freedesktop.DBus.Properties";
+const char objectManager[] = "org.freedesktop.DBus.ObjectManager";
+
+using Sections = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Sections>;
+} // namespace
+
 void useOwnSystemBus()
 {
-    qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
+    qDBusRegisterMetaType<Sections>();
+    qDBusRegisterMetaType<Objects>();
     static QProcess* bus = nullptr;
     if (bus)
         return;
@@ -54,7 +65,10 @@ PlayedService::~PlayedService()
 
 void PlayedService::set(const QString& path, const QString& name, const QVariant& value)
 {
+    if (!m_objects.contains(path))
+        m_added.insert(path);
     m_objects[path].insert(name, value);
+    m_set[path].insert(name, value);
 }
 
 void PlayedService::remove(const QString& path, const QString& name)
@@ -65,6 +79,25 @@ void PlayedService::remove(const QString& path, const QString& name)
 void PlayedService::removeObject(const QString& path)
 {
     m_objects.remove(path);
+    m_removed.insert(path);
+}
+
+void PlayedService::tellChanges()
+{
+    for (const QString& path : std::as_const(m_removed))
+        tellAnything(PlayedNetwork::objects, objectManager, "InterfacesRemoved",
+                     {QVariant::fromValue(QDBusObjectPath(path)), QStringList(interfaceOf(path))});
+    for (auto object = m_set.cbegin(); object != m_set.cend(); ++object) {
+        if (m_added.contains(object.key()))
+            tellAnything(PlayedNetwork::objects, objectManager, "InterfacesAdded",
+                         {QVariant::fromValue(QDBusObjectPath(object.key())),
+                          QVariant::fromValue(Sections({{interfaceOf(object.key()), object.value()}}))});
+        else
+            tell(object.key(), interfaceOf(object.key()), object.value());
+    }
+    m_removed.clear();
+    m_added.clear();
+    m_set.clear();
 }
 
 void PlayedService::setSilent(const QString& path, bool isSilent)
@@ -96,17 +129,18 @@ int PlayedService::questions(const QString& path) const
 
 void PlayedService::tell(const QString& path, const QString& interface, const QVariantMap& changes, int times)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.DBus.Properties", "PropertiesChanged");
+    QDBusMessage signal = QDBusMessage::createSignal(path, properties, "PropertiesChanged");
     signal << interface << changes << QStringList();
     for (int i = 0; i < times; ++i)
         m_bus.send(signal);
 }
 
-void PlayedService::tellAnything(const QString& interface, const QVariantList& arguments)
+void PlayedService::tellAnything(const QString& path, const QString& interface, const QString& signal,
+                                 const QVariantList& arguments)
 {
-    QDBusMessage signal = QDBusMessage::createSignal("/", "org.freedesktop.DBus.Properties", "PropertiesChanged");
-    signal.setArguments(QVariantList({interface}) + arguments);
-    m_bus.send(signal);
+    QDBusMessage message = QDBusMessage::createSignal(path, interface, signal);
+    message.setArguments(arguments);
+    m_bus.send(message);
 }
 
 bool PlayedService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)
@@ -139,17 +173,19 @@ QDBusMessage PlayedService::answerTo(const QDBusMessage& question) const
     const QVariant answer = m_answers.value(question.path());
     if (answer.isValid())
         return question.createReply(answer);
+    if (question.member() == "GetManagedObjects") {
+        Objects all;
+        for (auto object = m_objects.cbegin(); object != m_objects.cend(); ++object)
+            all.insert(QDBusObjectPath(object.key()), {{interfaceOf(object.key()), object.value()}});
+        return question.createReply(QVariant::fromValue(all));
+    }
     if (!m_objects.contains(question.path()))
         return question.createErrorReply(QDBusError::UnknownObject, "played");
     const QVariantMap values = m_objects.value(question.path());
-    if (question.member() == "GetAll")
-        return question.createReply(values);
     if (question.member() == "Get")
         return question.createReply(
             QVariant::fromValue(QDBusVariant(values.value(question.arguments().value(1).toString(), 0U))));
-    QMap<QString, QVariantMap> sections;
-    sections.insert("bluetooth", values);
-    return question.createReply(QVariant::fromValue(sections));
+    return question.createReply(QVariant::fromValue(Sections({{"bluetooth", values}})));
 }
 
 PlayedNetwork::PlayedNetwork()
@@ -175,20 +211,39 @@ PlayedNetwork::PlayedNetwork()
     set(modem, "Interface", "cdc-wdm0");
     set(modem, "IpInterface", "wwan0");
     set(modem, "Udi", PlayedModems::modem);
+    addTelephone(2);
+    set(telephone, "Interface", "bnep0");
+    set(stored, "type", "dun");
+    tellChanges(); // to nobody
+}
+
+void PlayedNetwork::addTelephone(uint state)
+{
     set(bluetooth, "Type", "bluetooth");
     set(bluetooth, "Id", "Telephone");
     set(bluetooth, "Uuid", "two");
-    set(bluetooth, "State", 2U);
+    set(bluetooth, "State", state);
     set(bluetooth, "Default", false);
     set(bluetooth, "Default6", true);
-    set(bluetooth, "Devices", paths({QDBusObjectPath(telephone)}));
-    set(bluetooth, "Connection", path(stored));
-    set(telephone, "Interface", "bnep0");
-    set(stored, "type", "dun");
+    set(bluetooth, "Devices", QVariant::fromValue(QList<QDBusObjectPath>({QDBusObjectPath(telephone)})));
+    set(bluetooth, "Connection", QVariant::fromValue(QDBusObjectPath(stored)));
+}
+
+QString PlayedNetwork::interfaceOf(const QString& path) const
+{
+    if (path == manager)
+        return name;
+    static const QHash<QString, QString> kinds = {{"ActiveConnection", "Connection.Active"}, {"Devices", "Device"}};
+    return name + '.' + kinds.value(path.section('/', -2, -2), "Settings.Connection");
 }
 
 PlayedModems::PlayedModems()
     : PlayedService("org.freedesktop.ModemManager1")
 {
     set(modem, "OperatorName", "Northern Mobile");
+}
+
+QString PlayedModems::interfaceOf(const QString&) const
+{
+    return mobileNetwork;
 }

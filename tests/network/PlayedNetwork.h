@@ -26,26 +26,34 @@ public:
     void remove(const QString& path, const QString& name);
     void removeObject(const QString& path);
 
-    /** Answers no question about this object from now on, or again, those from before first. */
+    /** Tells by signals what was set and removed since the last time, or since it is there. */
+    void tellChanges();
+
+    /** Answers no question to this object from now on, or again, those from before first. */
     void setSilent(const QString& path, bool isSilent);
 
-    /** Answers every question about this object with this error; with an empty one properly again. */
+    /** Answers every question to this object with this error; with an empty one properly again. */
     void setError(const QString& path, const QString& error);
 
-    /** Answers with this in place of the values of the object; with an invalid one properly again. */
+    /** Answers with this whatever the object is asked; with an invalid one properly again. */
     void setAnswer(const QString& path, const QVariant& answer);
 
-    /** How many questions came about this object. */
+    /** How many questions came to this object. */
     int questions(const QString& path) const;
 
     /** Says that values of an object changed, so many times as fast as it can. */
     void tell(const QString& path, const QString& interface, const QVariantMap& changes = {}, int times = 1);
 
-    /** Says with these arguments, of any number and type, that something of its main object changed. */
-    void tellAnything(const QString& interface, const QVariantList& arguments);
+    /** Says this signal of an object with these arguments, of any number and type. */
+    void tellAnything(const QString& path, const QString& interface, const QString& signal,
+                      const QVariantList& arguments);
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
     QString introspect(const QString& path) const override;
+
+protected:
+    /** The interface of an object's properties. */
+    virtual QString interfaceOf(const QString& path) const = 0;
 
 private:
     void answer(const QDBusMessage& question);
@@ -54,6 +62,8 @@ private:
     const QString m_name;
     QDBusConnection m_bus;
     QHash<QString, QVariantMap> m_objects;
+    QHash<QString, QVariantMap> m_set; ///< what was set and not told
+    QSet<QString> m_added, m_removed;  ///< objects, and not told
     QSet<QString> m_silent;
     QList<QDBusMessage> m_open; ///< questions without an answer
     QHash<QString, QString> m_errors;
@@ -65,12 +75,15 @@ private:
 class PlayedNetwork : public PlayedService
 {
 public:
-    static const QString name, manager, mobile, modem, telephone, bluetooth, stored;
+    static const QString name, objects, manager, mobile, modem, telephone, bluetooth, stored;
 
     PlayedNetwork();
 
-    /** Says that something of NetworkManager itself changed. */
-    void tellChange(int times = 1) { tell(manager, name, {}, times); }
+    /** Adds the connection by Bluetooth, which is there at first, with this state. */
+    void addTelephone(uint state);
+
+protected:
+    QString interfaceOf(const QString& path) const override;
 };
 
 /** ModemManager with the modem of PlayedNetwork, registered with "Northern Mobile". */
@@ -82,6 +95,9 @@ public:
     PlayedModems();
 
     void tellOperator(const QVariant& operatorName) { tell(modem, mobileNetwork, {{"OperatorName", operatorName}}); }
+
+protected:
+    QString interfaceOf(const QString& path) const override;
 };
 
 /** To be called before anything uses the system bus: makes it one of the test's own. */

@@ -49,7 +49,7 @@ public:
         else if (name == "lost")
             note(m_rules.serviceLost(m_now));
         else if (name == "back")
-            m_rules.serviceReturned();
+            m_rules.serviceReturned(m_now);
         else if (name == "asked")
             withdraw();
         else if (name != "end")
@@ -63,6 +63,7 @@ private:
     {
         static const QHash<QString, Reach> reaches = {{QString(), Reach::Full},
                                                       {"unknown", Reach::Unknown},
+                                                      {"checking", Reach::Checking},
                                                       {"limited", Reach::Limited},
                                                       {"portal", Reach::Portal}};
         ConnectionState state;
@@ -122,7 +123,7 @@ void TransitionRulesTest::table_data()
         QTest::newRow(qPrintable(cells.first().mid(2))) << cells.at(1) << cells.last().chopped(2);
         ++rows;
     }
-    QCOMPARE(rows, 68);
+    QCOMPARE(rows, 74);
 }
 
 void TransitionRulesTest::table()
