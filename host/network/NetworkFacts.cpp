@@ -61,7 +61,19 @@ QStringList NetworkFacts::connections() const
     return BusValue::paths(of(manager()).value(QStringLiteral("ActiveConnections"))).mid(0, mostConnections);
 }
 
-NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind) const
+NetworkFacts::Chosen NetworkFacts::chosen(const ConnectionChoice& choice) const
+{
+    const QString best = bestOf(choice);
+    if (!best.isEmpty())
+        return describe(best);
+    Chosen none;
+    if (choice.kind == ConnectionKind::Mobile)
+        none.state.inItsPlace = inItsPlace();
+    return none;
+}
+
+/** The path of the one to show; empty for none. */
+QString NetworkFacts::bestOf(const ConnectionChoice& choice) const
 {
     const QString primary = BusValue::path(of(manager()).value(QStringLiteral("PrimaryConnection")));
     QString best;
@@ -69,21 +81,36 @@ NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind) const
     for (const QString& path : all) {
         const QVariantMap connection = of(path);
         const bool isUp = stateOf(connection) == Activated;
-        if ((!isUp && stateOf(connection) != Activating) || !counts(connection, kind))
+        if ((!isUp && stateOf(connection) != Activating) || !counts(connection, choice))
             continue;
         if (isUp && path == primary)
-            return describe(path);
+            return path;
         if (best.isEmpty() || (isUp && stateOf(of(best)) != Activated))
             best = path;
     }
-    return best.isEmpty() ? Chosen() : describe(best);
+    return best;
 }
 
-bool NetworkFacts::counts(const QVariantMap& connection, ConnectionKind kind) const
+/** By what the user is in the Internet while nothing that counts is. */
+ConnectionState::InItsPlace NetworkFacts::inItsPlace() const
 {
-    if (kind == ConnectionKind::Any)
+    using InItsPlace = ConnectionState::InItsPlace;
+    const QString path = bestOf(ConnectionKind::Any);
+    if (path.isEmpty() || describe(path).state.reach != ConnectionState::Reach::Full)
+        return InItsPlace::Nothing;
+    const QString type = textOf(of(path), "Type");
+    if (type == QLatin1String("802-3-ethernet"))
+        return InItsPlace::Ethernet;
+    return type == QLatin1String("802-11-wireless") ? InItsPlace::Wireless : InItsPlace::Other;
+}
+
+bool NetworkFacts::counts(const QVariantMap& connection, const ConnectionChoice& choice) const
+{
+    if (choice.kind == ConnectionKind::Any)
         return BusValue::flag(connection.value(QStringLiteral("Default"))) ||
                BusValue::flag(connection.value(QStringLiteral("Default6")));
+    if (!choice.countsPlan(textOf(connection, "Uuid")))
+        return false;
     const QString type = textOf(connection, "Type");
     // Bluetooth can be a local network as well.
     if (type == QLatin1String("bluetooth"))

@@ -6,14 +6,14 @@
 #include <QHash>
 #include <QVariantMap>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionState.h"
 
 /** What NetworkManager said of itself, of its connections and of their devices; and what follows for us. */
 class NetworkFacts
 {
 public:
-    /** The connection that counts. All is empty while there is none. */
+    /** The connection that counts. While there is none, all is empty but what is there in its place. */
     struct Chosen {
         ConnectionState state;
         QString path;  ///< of the connection on the bus, while it is up
@@ -33,10 +33,12 @@ public:
     QStringList connections() const;
 
     /** The one to show, where several count: one that is up, and of these the one that the traffic takes. */
-    Chosen chosen(ConnectionKind kind) const;
+    Chosen chosen(const ConnectionChoice& choice) const;
 
 private:
-    bool counts(const QVariantMap& connection, ConnectionKind kind) const;
+    QString bestOf(const ConnectionChoice& choice) const;
+    bool counts(const QVariantMap& connection, const ConnectionChoice& choice) const;
+    ConnectionState::InItsPlace inItsPlace() const;
     Chosen describe(const QString& path) const;
 
     QHash<QString, QVariantMap> m_values;

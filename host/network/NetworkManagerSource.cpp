@@ -19,10 +19,24 @@ namespace
 constexpr char networkManager[] = "org.freedesktop.NetworkManager";
 constexpr char active[] = "org.freedesktop.NetworkManager.Connection.Active";
 const uint activated = 2; // NetworkManager's number
+
+/** What is up does not count while it roams, and is still on the way as long as that is unknown. */
+ConnectionState withoutRoaming(ConnectionState state, ModemOperator::Roaming roaming)
+{
+    if (roaming == ModemOperator::Roaming::No)
+        return state;
+    state.isUp = false;
+    state.isComingUp = roaming == ModemOperator::Roaming::Unknown;
+    state.reach = ConnectionState::Reach::Unknown;
+    state.id.clear();
+    if (roaming == ModemOperator::Roaming::Yes)
+        state.inItsPlace = ConnectionState::InItsPlace::Roaming;
+    return state;
+}
 } // namespace
 
-NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
-    : m_kind(kind)
+NetworkManagerSource::NetworkManagerSource(const ConnectionChoice& choice)
+    : m_choice(choice)
 {
     m_pause.setSingleShot(true);
     m_retry.setSingleShot(true);
@@ -76,9 +90,16 @@ bool NetworkManagerSource::isAvailable() const
 ConnectionState NetworkManagerSource::state() const
 {
     ConnectionState state = m_chosen.state;
-    if (state.isUp)
-        state.operatorName = m_operator.name();
-    return state;
+    if (!state.isUp)
+        return state;
+    state.operatorName = m_operator.name();
+    return m_choice.forbidsRoaming() ? withoutRoaming(state, m_operator.roaming()) : state;
+}
+
+/** Whether it hangs on ModemManager alone if the connection counts; it says so by another look. */
+bool NetworkManagerSource::isRoamingUnknown() const
+{
+    return m_chosen.state.isUp && m_choice.forbidsRoaming() && m_operator.roaming() == ModemOperator::Roaming::Unknown;
 }
 
 void NetworkManagerSource::askWhetherUp()
@@ -148,8 +169,10 @@ void NetworkManagerSource::takeLook()
     }
     const bool isSilent = look->facts().of(NetworkFacts::manager()).isEmpty();
     m_facts = look->facts();
-    m_chosen = m_facts.chosen(m_kind);
+    m_chosen = m_facts.chosen(m_choice);
     m_operator.setModem(m_chosen.modem);
+    if (!isAvailable() && !isSilent && isRoamingUnknown())
+        return; // Its first word would be that nothing is up, and what is up would be news then.
     if (!isAvailable())
         setPresence(isSilent ? Presence::Away : Presence::There);
     else

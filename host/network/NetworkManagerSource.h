@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionSource.h"
 #include "ModemOperator.h"
 #include "NetworkFacts.h"
@@ -27,8 +27,8 @@ public:
     static constexpr int pause = 100;         ///< milliseconds from look to look
     static constexpr int longestWait = 10000; ///< milliseconds until a service that was silent is asked again
 
-    /** Begins to listen. kind is Mobile or Any. */
-    explicit NetworkManagerSource(ConnectionKind kind);
+    /** Begins to listen for what counts by choice, whose kind is Mobile or Any. */
+    explicit NetworkManagerSource(const ConnectionChoice& choice);
     ~NetworkManagerSource() override;
 
     bool isKnown() const override;
@@ -47,13 +47,14 @@ private:
         There,
     };
 
+    bool isRoamingUnknown() const;
     void listen();
     void setOwner(const QString& owner);
     void setPresence(Presence presence);
     void lookWhenDue();
     void takeLook();
 
-    const ConnectionKind m_kind;
+    const ConnectionChoice m_choice;
     Presence m_presence = Presence::Unknown;
     bool m_hasOwner = false; ///< somebody has the service's name, and may answer
     bool m_isWanted = false; ///< a look is

@@ -17,6 +17,7 @@ const QString PlayedNetwork::modem = manager + "/Devices/1";
 const QString PlayedNetwork::bluetooth = manager + "/ActiveConnection/2";
 const QString PlayedNetwork::telephone = manager + "/Devices/2";
 const QString PlayedNetwork::stored = manager + "/Settings/2";
+const QString PlayedNetwork::settings = manager + "/Settings";
 const QString PlayedModems::modem = "/org/freedesktop/ModemManager1/Modem/0";
 const QString PlayedModems::mobileNetwork = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 
@@ -147,8 +148,13 @@ QDBusMessage PlayedService::answerTo(const QDBusMessage& question) const
     if (question.member() == "Get")
         return question.createReply(
             QVariant::fromValue(QDBusVariant(values.value(question.arguments().value(1).toString(), 0U))));
+    if (question.member() == "ListConnections")
+        return question.createReply(values.value("Connections"));
     QMap<QString, QVariantMap> sections;
-    sections.insert("bluetooth", values);
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const int dot = int(value.key().indexOf('.'));
+        sections[dot < 0 ? "bluetooth" : value.key().left(dot)].insert(value.key().mid(dot + 1), value.value());
+    }
     return question.createReply(QVariant::fromValue(sections));
 }
 
@@ -185,10 +191,15 @@ PlayedNetwork::PlayedNetwork()
     set(bluetooth, "Connection", path(stored));
     set(telephone, "Interface", "bnep0");
     set(stored, "type", "dun");
+    set(stored, "connection.type", "bluetooth");
+    set(stored, "connection.id", "Telephone");
+    set(stored, "connection.uuid", "two");
+    set(settings, "Connections", paths({QDBusObjectPath(stored)}));
 }
 
 PlayedModems::PlayedModems()
     : PlayedService("org.freedesktop.ModemManager1")
 {
     set(modem, "OperatorName", "Northern Mobile");
+    set(modem, "RegistrationState", 1U);
 }

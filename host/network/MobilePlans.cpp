@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+// SPDX-License-Identifier: MIT
+
+#include "MobilePlans.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include "BusValue.h"
+
+namespace
+{
+const int mostConnections = 1000; // More would only keep the bus busy.
+
+/** Of the settings of a stored connection, as NetworkManager writes them down. */
+bool isMobile(const QDBusMessage& settings)
+{
+    const QString type = BusValue::text(settings, QStringLiteral("connection"), QStringLiteral("type"));
+    // Bluetooth can be a local network as well.
+    if (type == QLatin1String("bluetooth"))
+        return BusValue::text(settings, type, QStringLiteral("type")) == QLatin1String("dun");
+    return type == QLatin1String("gsm") || type == QLatin1String("cdma");
+}
+} // namespace
+
+MobilePlans::MobilePlans(QObject* parent)
+    : QObject(parent)
+{
+}
+
+MobilePlans::~MobilePlans() = default;
+
+void MobilePlans::ask()
+{
+    m_plans.clear();
+    send(QStringLiteral("/org/freedesktop/NetworkManager/Settings"), "org.freedesktop.NetworkManager.Settings",
+         "ListConnections", [this](const QDBusMessage& answer) {
+             if (answer.type() != QDBusMessage::ReplyMessage) {
+                 Q_EMIT found({}, false);
+                 return;
+             }
+             m_paths = BusValue::paths(answer.arguments().value(0)).mid(0, mostConnections);
+             askNext();
+         });
+}
+
+/** One after the other: a bus takes only so many questions at once. */
+void MobilePlans::askNext()
+{
+    if (m_paths.isEmpty()) {
+        Q_EMIT found(m_plans, true);
+        return;
+    }
+    send(m_paths.takeFirst(), "org.freedesktop.NetworkManager.Settings.Connection", "GetSettings",
+         [this](const QDBusMessage& answer) {
+             // That it is gone meanwhile, or another user's, is an answer as well.
+             if (QDBusError(answer).type() == QDBusError::NoReply) {
+                 Q_EMIT found({}, false);
+                 return;
+             }
+             const QString section = QStringLiteral("connection");
+             const QString uuid = BusValue::text(answer, section, QStringLiteral("uuid"));
+             if (isMobile(answer) && !uuid.isEmpty())
+                 m_plans.insert(uuid, BusValue::text(answer, section, QStringLiteral("id")));
+             askNext();
+         });
+}
+
+void MobilePlans::send(const QString& path, const char* interface, const char* method,
+                       const std::function<void(const QDBusMessage& answer)>& read)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.NetworkManager"), path,
+                                                           QLatin1String(interface), QLatin1String(method));
+    // Nobody has to be started for an answer.
+    question.setAutoStartService(false);
+    m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(question, patience));
+    connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, [this, read] {
+        QDBusPendingCallWatcher* const watcher = m_answer.release();
+        watcher->deleteLater();
+        read(watcher->reply());
+    });
+}
