@@ -6,7 +6,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QEvent>
-#include <QLabel>
 #include <QRadioButton>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -14,17 +13,10 @@
 #include <algorithm>
 
 #include "ShownText.h"
+#include "WrappedText.h"
 
 namespace
 {
-QLabel* newText()
-{
-    QLabel* const label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 /** A part of the page that belongs to the button above it, as far in as the button's text begins. */
 QLayout* indented(QWidget* part, const QRadioButton* above)
 {
@@ -53,14 +45,14 @@ QVBoxLayout* newColumn(QWidget* part)
 
 ConnectionPage::ConnectionPage(const ConnectionChoice& choice, bool isForNextTime)
     : m_choice(choice)
-    , m_runNote(newText())
+    , m_runNote(new WrappedText)
     , m_mobile(new QRadioButton)
     , m_mobilePart(new QWidget)
     , m_anyPlan(new QRadioButton)
     , m_somePlans(new QRadioButton)
     , m_planPart(new QWidget)
     , m_planColumn(newColumn(m_planPart))
-    , m_plansNote(newText())
+    , m_plansNote(new WrappedText)
     , m_notWhileRoaming(new QCheckBox)
     , m_any(new QRadioButton)
     , m_manual(new QRadioButton)
