@@ -12,7 +12,7 @@
 
 namespace
 {
-const int mostConnections = 1000; // More would only keep the bus busy.
+const int mostStored = 1000; // More would only keep the bus busy.
 
 /** Of the settings of a stored connection, as NetworkManager writes them down. */
 bool isMobile(const QDBusMessage& settings)
@@ -41,7 +41,7 @@ void MobilePlans::ask()
                  Q_EMIT found({}, false);
                  return;
              }
-             m_paths = BusValue::paths(answer.arguments().value(0)).mid(0, mostConnections);
+             m_paths = BusValue::paths(answer.arguments().value(0)).mid(0, mostStored);
              askNext();
          });
 }

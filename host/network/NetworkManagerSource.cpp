@@ -171,11 +171,11 @@ void NetworkManagerSource::takeLook()
     m_facts = look->facts();
     m_chosen = m_facts.chosen(m_choice);
     m_operator.setModem(m_chosen.modem);
-    if (!isAvailable() && !isSilent && isRoamingUnknown())
-        return; // Its first word would be that nothing is up, and what is up would be news then.
-    if (!isAvailable())
-        setPresence(isSilent ? Presence::Away : Presence::There);
-    else
+    // Its first word would be that nothing is up, and what is up would be news then.
+    const bool isTooEarly = !isSilent && isRoamingUnknown();
+    if (isAvailable())
         Q_EMIT changed();
+    else if (!isTooEarly)
+        setPresence(isSilent ? Presence::Away : Presence::There);
     lookWhenDue();
 }
