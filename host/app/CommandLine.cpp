@@ -8,7 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
+
+#include "ConnectionChoice.h"
 
 namespace
 {
@@ -24,10 +25,11 @@ public:
         , pluginFolder(QStringLiteral("plugin-dir"), tr("Load the plug-ins of DIR."), QStringLiteral("DIR"))
         , language(QStringLiteral("language"), tr("Show texts in the language LANG, such as en or pt_BR."),
                    QStringLiteral("LANG"))
-        , connection(QStringLiteral("connection"),
-                     tr("Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a "
-                        "default route) or manual (you press a button)."),
-                     QStringLiteral("KIND"))
+        , connection(
+              QStringLiteral("connection"),
+              tr("Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), "
+                 "any (whatever has a default route) or manual (you press a button)."),
+              QStringLiteral("KIND"))
         , hidden(QStringLiteral("hidden"),
                  tr("Wait in the tray without a window; where there is no tray, the window shows."))
         , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no graphical session."))
@@ -49,17 +51,9 @@ public:
         }
         if (parser.isSet(pluginFolder) && !QFileInfo(parser.value(pluginFolder)).isDir())
             return tr("There is no folder \"%1\".").arg(parser.value(pluginFolder));
-        if (parser.isSet(connection) && !kinds().contains(parser.value(connection)))
+        if (parser.isSet(connection) && !ConnectionChoice::kinds().contains(parser.value(connection)))
             return tr("No such kind of connection: \"%1\".").arg(parser.value(connection));
         return QString();
-    }
-
-    /** What the user may write after --connection. */
-    static QHash<QString, ConnectionKind> kinds()
-    {
-        return {{QStringLiteral("mobile"), ConnectionKind::Mobile},
-                {QStringLiteral("any"), ConnectionKind::Any},
-                {QStringLiteral("manual"), ConnectionKind::Manual}};
     }
 
     CommandLine::Action action() const
@@ -97,7 +91,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.dataFolder = options.parser.value(options.dataFolder);
     line.pluginFolder = options.parser.value(options.pluginFolder);
     line.language = options.parser.value(options.language);
-    line.connection = Options::kinds().value(options.parser.value(options.connection), ConnectionKind::Mobile);
+    const QHash<QString, ConnectionKind> kinds = ConnectionChoice::kinds();
+    const auto kind = kinds.constFind(options.parser.value(options.connection));
+    if (kind != kinds.constEnd())
+        line.connection = *kind;
     line.isHidden = options.parser.isSet(options.hidden);
     return line;
 }
@@ -113,8 +110,8 @@ QStringList CommandLine::againHidden() const
     add(options.dataFolder, dataFolder.isEmpty() ? QString() : QDir().absoluteFilePath(dataFolder));
     add(options.pluginFolder, pluginFolder.isEmpty() ? QString() : QDir().absoluteFilePath(pluginFolder));
     add(options.language, language);
-    if (connection != ConnectionKind::Mobile)
-        add(options.connection, Options::kinds().key(connection));
+    if (connection)
+        add(options.connection, ConnectionChoice::kinds().key(*connection));
     return arguments << QStringLiteral("--") + options.hidden.names().constFirst();
 }
 

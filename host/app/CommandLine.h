@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 #include "ConnectionKind.h"
 
 /** What the user asked for on the command line. */
@@ -13,12 +15,12 @@ struct CommandLine {
     enum Action { ShowWindow, ListLinks, ShowHelp, ShowVersion, Refuse };
 
     Action action = ShowWindow;
-    QString error;        ///< with Refuse: one line that says what is wrong
-    QString dataFolder;   ///< empty for the default
-    QString pluginFolder; ///< empty for the installed one
-    QString language;     ///< empty for the one chosen in the program, or else the system's
-    ConnectionKind connection = ConnectionKind::Mobile;
-    bool isHidden = false; ///< the window waits in the tray
+    QString error;                            ///< with Refuse: one line that says what is wrong
+    QString dataFolder;                       ///< empty for the default
+    QString pluginFolder;                     ///< empty for the installed one
+    QString language;                         ///< empty for the one chosen in the program, or else the system's
+    std::optional<ConnectionKind> connection; ///< none for the one chosen in the program
+    bool isHidden = false;                    ///< the window waits in the tray
 
     /** What asks for the same again, and for a window that waits in the tray. Paths are absolute. */
     QStringList againHidden() const;

@@ -8,8 +8,9 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionMonitor.h"
 #include "DesktopNotices.h"
 #include "DialupService.h"
@@ -24,9 +25,11 @@
 #include "PluginContainer.h"
 #include "SleepWatch.h"
 
+class ConnectionPanel;
 class ConnectionTexts;
 class MainWindow;
 class PluginMessages;
+class ProgramPage;
 class RunningProgram;
 class Tray;
 class Translator;
@@ -69,11 +72,11 @@ public:
     void setSessionArguments(const QStringList& arguments);
 
     /**
-     * Builds the menu from the plug-ins, shows the main window and follows connections of this kind from now on. The
-     * plug-ins are told of the start when the window is on the screen, or at once where it is hidden: it then waits in
-     * the tray, and shows where there is none.
+     * Builds the menu from the plug-ins, shows the main window and follows the connections that the user chose from now
+     * on, or in this run those of kind. The plug-ins are told of the start when the window is on the screen, or at once
+     * where it is hidden: it then waits in the tray, and shows where there is none.
      */
-    void showWindow(ConnectionKind kind, bool isHidden = false);
+    void showWindow(std::optional<ConnectionKind> kind, bool isHidden = false);
 
     /** The end of looking after the links. False where they are kept, but could not be put in place. */
     bool endLinks();
@@ -93,6 +96,8 @@ private:
     void windowClosed();
     void keepWindowPlace();
     void quit();
+    void follow(const ConnectionChoice& choice);
+    ProgramPage* newConnectionPage();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
     bool isSeen() const;
@@ -115,7 +120,10 @@ private:
     QString m_linkToEdit;
     QTimer m_editing; ///< goes off when that link is to be edited
     QStringList m_sessionArguments;
+    std::optional<ConnectionKind> m_kindOfThisRun; ///< where the user's choice is not to count
+    ConnectionChoice m_choice;                     ///< the user's
     std::unique_ptr<ConnectionTexts> m_texts;
+    ConnectionPanel* m_panel = nullptr; ///< the window's
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<PluginMessages> m_pluginMessages;
     std::unique_ptr<Tray> m_tray;

@@ -8,11 +8,14 @@
 #include <QApplication>
 
 #include "Autostart.h"
+#include "ConnectionPage.h"
 #include "GeneralPage.h"
 #include "HistoryPage.h"
 #include "ISettingUIPlugin.h"
 #include "MainWindow.h"
+#include "MobilePlans.h"
 #include "SettingsDialog.h"
+#include "UserSettings.h"
 
 /** In the settings, those that are open or new ones. Whoever is asked something else answers that first. */
 void Host::editLink(const QString& link)
@@ -32,6 +35,7 @@ void Host::showSettings(const QString& link)
     QObject::connect(&guard, &LinkGuard::stateChanged, history, &HistoryPage::refresh);
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
     dialog.addPage(history);
+    dialog.addPage(newConnectionPage());
     GeneralPage* const general = new GeneralPage(Autostart::isOn());
     QObject::connect(general, &GeneralPage::startWithSessionChosen, general, [this, general](bool isOn) {
         const bool isDone = isOn ? Autostart::turnOn(m_sessionArguments) : Autostart::turnOff();
@@ -46,4 +50,19 @@ void Host::showSettings(const QString& link)
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);
+}
+
+ProgramPage* Host::newConnectionPage()
+{
+    ConnectionPage* const page = new ConnectionPage(m_choice, m_kindOfThisRun.has_value());
+    MobilePlans* const plans = new MobilePlans(page);
+    QObject::connect(page, &ConnectionPage::plansWanted, plans, &MobilePlans::ask);
+    QObject::connect(plans, &MobilePlans::found, page, &ConnectionPage::setPlans);
+    QObject::connect(page, &ConnectionPage::chosen, page, [this](const ConnectionChoice& choice) {
+        m_choice = choice;
+        UserSettings::setConnection(choice);
+        if (!m_kindOfThisRun)
+            follow(choice);
+    });
+    return page;
 }

@@ -24,29 +24,41 @@
 #include "UserFolder.h"
 #include "UserSettings.h"
 
-void Host::showWindow(ConnectionKind kind, bool isHidden)
+void Host::showWindow(std::optional<ConnectionKind> kind, bool isHidden)
 {
+    m_kindOfThisRun = kind;
+    m_choice = UserSettings::connection();
+    ConnectionChoice choice = m_choice;
+    choice.kind = kind.value_or(choice.kind);
     // Whether the program ends with its window depends on the tray.
     QApplication::setQuitOnLastWindowClosed(false);
-    m_texts = std::make_unique<ConnectionTexts>(m_monitor, kind);
+    m_texts = std::make_unique<ConnectionTexts>(m_monitor, choice.kind);
     const QString language = m_translator.followsSystem() ? QString() : m_translator.current();
     LanguageMenu* const languages = new LanguageMenu(Translator::languages(), language);
     QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& chosen) {
         UserSettings::setLanguage(chosen);
         setLanguage(chosen);
     });
-    m_window = std::make_unique<MainWindow>(new ConnectionPanel(m_monitor, kind), languages);
+    m_panel = new ConnectionPanel(m_monitor, choice.kind);
+    m_window = std::make_unique<MainWindow>(m_panel, languages);
     m_window->restorePlace(UserSettings::windowPlace());
     m_tray = std::make_unique<Tray>(*m_window, m_window->linkMenu());
     connectWindow();
     connectMessages();
     m_menuManager.rebuild();
     // Before the window shows, so that it shows the real state from the beginning.
-    m_monitor.start(newSystemSource(kind));
+    follow(choice);
     if (isHidden)
         m_window->stayHidden();
     else
         m_window->show();
+}
+
+void Host::follow(const ConnectionChoice& choice)
+{
+    m_texts->setKind(choice.kind);
+    m_panel->setKind(choice.kind);
+    m_monitor.start(newSystemSource(choice));
 }
 
 void Host::connectWindow()

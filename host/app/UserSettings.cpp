@@ -6,10 +6,12 @@
 #include <QFile>
 #include <QSettings>
 #include <QStringList>
+#include <QVariantMap>
 
 #include "UserFolder.h"
 
 static const QString languageKey = QStringLiteral("language");
+static const QString connectionGroup = QStringLiteral("connection");
 static const QString windowPlaceKey = QStringLiteral("windowPlace");
 static const QString agreedKey = QStringLiteral("agreedAddresses");
 
@@ -23,13 +25,20 @@ static QVariant kept(const QString& key)
     return QSettings(file(), QSettings::IniFormat).value(key);
 }
 
-static void keep(const QString& key, const QVariant& value)
+static void keep(const QVariantMap& values, const QString& group = QString())
 {
     QSettings settings(file(), QSettings::IniFormat);
-    settings.setValue(key, value);
+    settings.beginGroup(group);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        settings.setValue(value.key(), value.value());
     settings.sync();
     if (settings.status() != QSettings::NoError)
         qWarning("The choice cannot be kept in %s", qUtf8Printable(file()));
+}
+
+static void keep(const QString& key, const QVariant& value)
+{
+    keep({{key, value}});
 }
 
 void UserSettings::removeLeftLock()
@@ -45,6 +54,22 @@ QString UserSettings::language()
 void UserSettings::setLanguage(const QString& language)
 {
     keep(languageKey, language);
+}
+
+ConnectionChoice UserSettings::connection()
+{
+    QSettings settings(file(), QSettings::IniFormat);
+    settings.beginGroup(connectionGroup);
+    QVariantMap values;
+    const QStringList keys = settings.childKeys();
+    for (const QString& key : keys)
+        values.insert(key, settings.value(key));
+    return ConnectionChoice::of(values);
+}
+
+void UserSettings::setConnection(const ConnectionChoice& choice)
+{
+    keep(choice.values(), connectionGroup);
 }
 
 QByteArray UserSettings::windowPlace()

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "ConnectionChoice.h"
+
 /** The user's choices in the program itself, kept in vellumconnect.ini in the user's folder. */
 namespace UserSettings
 {
@@ -15,6 +17,12 @@ QString language();
 
 /** Keeps language for the next start. Failure is written to the warning channel. */
 void setLanguage(const QString& language);
+
+/** Which connections count; as by default where nothing good is kept. */
+ConnectionChoice connection();
+
+/** Keeps which connections count. Failure is written to the warning channel. */
+void setConnection(const ConnectionChoice& choice);
 
 /** Where the window was and how large, as the toolkit writes it down; empty where it was never kept. */
 QByteArray windowPlace();

@@ -74,10 +74,6 @@
         <translation>لا يوجد نوع اتصال كهذا: &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>مراقبة الاتصالات من النوع KIND: إما mobile (النطاق العريض المحمول، وهو المبدئي) أو any (أي اتصال له مسار مبدئي) أو manual (بزر تضغطه).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>عرض الروابط السريعة ثم الخروج. لا يحتاج إلى جلسة رسومية.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>البرنامج قيد التشغيل بالفعل، بالعملية %1، مع المجلد %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>مراقبة الاتصالات من النوع KIND في هذا التشغيل، أيًا كان ما في الإعدادات: إما mobile (النطاق العريض المحمول) أو any (أي اتصال له مسار مبدئي) أو manual (بزر تضغطه).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>ألغِ</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>في هذا التشغيل يحدد سطر الأوامر الاتصالات التي تُحتسب. ما تختاره هنا يُحتسب ابتداءً من التشغيل التالي.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>النطاق العريض ال&amp;محمول</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>أي با&amp;قة</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>ال&amp;باقات المحددة هنا فقط</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>ليس أثناء ال&amp;تجوال</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>أي ات&amp;صال</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>زر &amp;خاص بي</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (غير موجودة الآن)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>لا يخبر NetworkManager بالباقات الموجودة.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>ما لم تُحدَّد أي باقة تُحتسب كل باقة.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>لا توجد باقات محمول بعد.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>لا يعمل NetworkManager</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>متصل بالإنترنت عبر Ethernet؛ في انتظار النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>متصل بالإنترنت عبر Wi-Fi؛ في انتظار النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>متصل بالإنترنت عبر اتصال آخر؛ في انتظار النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>تجوال؛ في انتظار شبكتك.</translation>
     </message>
 </context>
 <context>

@@ -74,10 +74,6 @@
         <translation>Diese Art von Verbindung gibt es nicht: „%1“.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Verbindungen der Art KIND überwachen: mobile (mobiles Breitband, Voreinstellung), any (jede mit Standardroute) oder manual (per Schaltfläche).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Die Schnellzugriff-Links ausgeben und beenden. Braucht keine grafische Sitzung.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Es läuft schon, als Prozess %1, mit dem Ordner %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>In diesem Lauf Verbindungen der Art KIND überwachen, was immer die Einstellungen sagen: mobile (mobiles Breitband), any (jede mit Standardroute) oder manual (per Schaltfläche).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>In diesem Lauf bestimmt die Befehlszeile, welche Verbindungen zählen. Was Sie hier wählen, gilt ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>&amp;Mobiles Breitband</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>&amp;Jeder Tarif</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>Nur die &amp;hier angekreuzten Tarife</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Nicht beim &amp;Roaming</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>&amp;Beliebige Verbindung</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>&amp;Eigene Schaltfläche</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (zurzeit nicht vorhanden)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager sagt nicht, welche Tarife es gibt.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Solange keiner angekreuzt ist, zählt jeder Tarif.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Es gibt noch keine Mobilfunktarife.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager läuft nicht</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>Online über Ethernet; Warten auf mobiles Breitband.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Online über WLAN; Warten auf mobiles Breitband.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>Online über eine andere Verbindung; Warten auf mobiles Breitband.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Roaming; Warten auf Ihr eigenes Netz.</translation>
     </message>
 </context>
 <context>

@@ -74,10 +74,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -95,6 +91,10 @@
     </message>
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -191,6 +242,22 @@
     </message>
     <message>
         <source>NetworkManager is not running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -74,10 +74,6 @@
         <translation>No existe este tipo de conexión: «%1».</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Vigila las conexiones de tipo KIND: mobile (banda ancha móvil, lo predeterminado), any (cualquiera con una ruta predeterminada) o manual (con un botón).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Muestra los enlaces rápidos y sale. No necesita una sesión gráfica.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Ya se está ejecutando, como proceso %1, con la carpeta %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Vigila en esta ejecución las conexiones de tipo KIND, diga lo que diga la configuración: mobile (banda ancha móvil), any (cualquiera con una ruta predeterminada) o manual (con un botón).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>En esta ejecución la línea de órdenes decide qué conexiones cuentan. Lo que elija aquí cuenta a partir del próximo inicio.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>Banda ancha &amp;móvil</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>Cualquier &amp;plan</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Solo los planes marcados aquí</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>No en &amp;itinerancia</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Cualquier cone&amp;xión</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>Mi propio &amp;botón</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (no está ahora)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager no dice qué planes hay.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Mientras no se marque ninguno, cuenta cualquier plan.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Todavía no hay planes móviles.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager no está en ejecución</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>En línea por Ethernet; esperando la banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>En línea por Wi-Fi; esperando la banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>En línea por otra conexión; esperando la banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>En itinerancia; esperando su propia red.</translation>
     </message>
 </context>
 <context>

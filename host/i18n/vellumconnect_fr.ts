@@ -74,10 +74,6 @@
         <translation>Ce type de connexion n’existe pas&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Surveille les connexions de type KIND&#xa0;: mobile (haut débit mobile, par défaut), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Affiche les liens rapides et quitte. Ne nécessite pas de session graphique.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Le programme est déjà en cours d’exécution, processus %1, avec le dossier %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Surveille pour cette fois les connexions de type KIND, quels que soient les paramètres&#xa0;: mobile (haut débit mobile), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>Pour cette fois, la ligne de commande dit quelles connexions comptent. Ce que vous choisissez ici comptera à partir du prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>Haut débit &amp;mobile</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>&amp;Tout forfait</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Seulement les forfaits cochés ici</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Pas en &amp;itinérance</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Toute &amp;connexion</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>Mon propre &amp;bouton</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (absent pour l’instant)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager ne dit pas quels forfaits existent.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Tant qu’aucun n’est coché, tout forfait compte.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Il n’y a pas encore de forfait mobile.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>En ligne par Ethernet&#xa0;; en attente du haut débit mobile.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>En ligne par Wi-Fi&#xa0;; en attente du haut débit mobile.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>En ligne par une autre connexion&#xa0;; en attente du haut débit mobile.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Itinérance&#xa0;; en attente de votre propre réseau.</translation>
     </message>
 </context>
 <context>

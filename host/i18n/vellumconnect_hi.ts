@@ -74,10 +74,6 @@
         <translation>ऐसा कोई कनेक्शन प्रकार नहीं है: &quot;%1&quot;।</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>KIND प्रकार के कनेक्शन पर नज़र रखता है: mobile (मोबाइल ब्रॉडबैंड, डिफ़ॉल्ट), any (जिसका भी डिफ़ॉल्ट रूट हो) या manual (आप बटन दबाते हैं)।</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>त्वरित लिंक दिखाकर बंद होता है। ग्राफ़िकल सत्र की ज़रूरत नहीं।</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>यह पहले से चल रहा है, प्रोसेस %1 के रूप में, फ़ोल्डर %2 के साथ।</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>सेटिंग्स कुछ भी कहें, इस बार KIND प्रकार के कनेक्शन पर नज़र रखता है: mobile (मोबाइल ब्रॉडबैंड), any (जिसका भी डिफ़ॉल्ट रूट हो) या manual (आप बटन दबाते हैं)।</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>रद्द करें</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>कनेक्शन</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>इस बार कमांड लाइन तय करती है कि कौन से कनेक्शन गिने जाएँ। यहाँ का चुनाव अगली बार शुरू होने से लागू होगा।</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>मोबाइल ब्रॉडबैंड (&amp;M)</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>कोई भी प्लान (&amp;P)</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>केवल यहाँ चुने गए प्लान (&amp;T)</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>रोमिंग में नहीं (&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>कोई भी कनेक्शन (&amp;A)</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>मेरा अपना बटन (&amp;B)</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (अभी मौजूद नहीं)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager नहीं बताता कि कौन से प्लान हैं।</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>जब तक कोई चुना नहीं गया, हर प्लान गिना जाता है।</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>अभी कोई मोबाइल प्लान नहीं है।</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager नहीं चल रहा है</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>ईथरनेट से ऑनलाइन; मोबाइल ब्रॉडबैंड की प्रतीक्षा है।</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>वाई-फ़ाई से ऑनलाइन; मोबाइल ब्रॉडबैंड की प्रतीक्षा है।</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>दूसरे कनेक्शन से ऑनलाइन; मोबाइल ब्रॉडबैंड की प्रतीक्षा है।</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>रोमिंग; आपके अपने नेटवर्क की प्रतीक्षा है।</translation>
     </message>
 </context>
 <context>

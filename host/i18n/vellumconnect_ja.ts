@@ -74,10 +74,6 @@
         <translation>この種類の接続はありません: 「%1」</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>種類 KIND の接続を監視します: mobile (モバイルブロードバンド、既定)、any (既定の経路を持つものすべて)、manual (ボタンを押す)。</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>クイックリンクを出力して終了します。グラフィカルセッションは不要です。</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>すでに実行中です (プロセス %1、フォルダー %2)。</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>設定にかかわらず、今回は種類 KIND の接続を監視します: mobile (モバイルブロードバンド)、any (既定の経路を持つものすべて)、manual (ボタンを押す)。</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>今回は、対象とする接続をコマンドラインが決めています。ここでの選択は次回の起動から有効です。</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>モバイルブロードバンド(&amp;M)</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>任意のプラン(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>ここで選んだプランのみ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>ローミング中は対象外(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>任意の接続(&amp;A)</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>自分で押すボタン(&amp;B)</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (現在なし)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager からプランの一覧を得られません。</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>何も選ばれていない間は、すべてのプランが対象です。</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>モバイルのプランはまだありません。</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager が動作していません</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>イーサネットでオンライン。モバイルブロードバンドを待っています。</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Wi-Fi でオンライン。モバイルブロードバンドを待っています。</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>別の接続でオンライン。モバイルブロードバンドを待っています。</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>ローミング中。契約先のネットワークを待っています。</translation>
     </message>
 </context>
 <context>

@@ -74,10 +74,6 @@
         <translation>Nie ma takiego rodzaju połączenia: „%1”.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Śledzi połączenia rodzaju KIND: mobile (komórkowe szerokopasmowe, domyślnie), any (każde z trasą domyślną) lub manual (naciskasz przycisk).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Wypisuje szybkie odnośniki i kończy działanie. Nie wymaga sesji graficznej.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Program już działa jako proces %1 z folderem %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>W tym uruchomieniu śledzi połączenia rodzaju KIND, niezależnie od ustawień: mobile (komórkowe szerokopasmowe), any (każde z trasą domyślną) lub manual (naciskasz przycisk).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Połączenie</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>W tym uruchomieniu to wiersz poleceń mówi, które połączenia się liczą. Wybór dokonany tutaj liczy się od następnego uruchomienia.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>Szerokopasmowe połączenie &amp;komórkowe</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>&amp;Dowolny plan</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Tylko plany zaznaczone tutaj</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Nie w &amp;roamingu</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Dowolne &amp;połączenie</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>Własny przy&amp;cisk</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (teraz nieobecny)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager nie podaje, jakie są plany.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Dopóki żaden nie jest zaznaczony, liczy się każdy plan.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Nie ma jeszcze planów komórkowych.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager nie działa</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>Online przez Ethernet; oczekiwanie na szerokopasmowe połączenie komórkowe.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Online przez Wi-Fi; oczekiwanie na szerokopasmowe połączenie komórkowe.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>Online przez inne połączenie; oczekiwanie na szerokopasmowe połączenie komórkowe.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Roaming; oczekiwanie na własną sieć.</translation>
     </message>
 </context>
 <context>

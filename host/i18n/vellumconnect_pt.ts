@@ -74,10 +74,6 @@
         <translation>Não existe este tipo de conexão: &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Monitora as conexões do tipo KIND: mobile (banda larga móvel, o padrão), any (qualquer uma com rota padrão) ou manual (por um botão).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Lista os atalhos e sai. Não precisa de sessão gráfica.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>O programa já está em execução, como processo %1, com a pasta %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Monitora nesta execução as conexões do tipo KIND, seja o que for que digam as configurações: mobile (banda larga móvel), any (qualquer uma com rota padrão) ou manual (por um botão).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Conexão</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>Nesta execução a linha de comando decide quais conexões contam. O que você escolher aqui vale a partir do próximo início.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>Banda larga &amp;móvel</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>Qualquer &amp;plano</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Somente os planos marcados aqui</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Não em &amp;roaming</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Qualquer cone&amp;xão</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>Meu próprio &amp;botão</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (ausente agora)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>O NetworkManager não diz quais planos existem.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Enquanto nenhum estiver marcado, qualquer plano conta.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Ainda não há planos móveis.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>O NetworkManager não está em execução</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>Online por Ethernet; aguardando a banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Online por Wi-Fi; aguardando a banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>Online por outra conexão; aguardando a banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Em roaming; aguardando a sua própria rede.</translation>
     </message>
 </context>
 <context>

@@ -58,10 +58,6 @@
         <translation>Mostra os textos no idioma LANG, por exemplo en ou pt_BR.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Vigia as ligações do tipo KIND: mobile (banda larga móvel, a predefinição), any (qualquer uma com rota predefinida) ou manual (por um botão).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Lista os atalhos e sai. Não precisa de sessão gráfica.</translation>
     </message>
@@ -97,6 +93,10 @@
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>O programa já está em execução, como processo %1, com a pasta %2.</translation>
     </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Vigia nesta execução as ligações do tipo KIND, digam o que disserem as definições: mobile (banda larga móvel), any (qualquer uma com rota predefinida) ou manual (por um botão).</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -117,6 +117,57 @@
     <message>
         <source>Address not opened</source>
         <translation>Endereço não aberto</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>Nesta execução a linha de comandos decide que ligações contam. O que escolher aqui vale a partir do próximo arranque.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>Banda larga &amp;móvel</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>Qualquer &amp;tarifário</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Só os tarifários marcados aqui</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Não em &amp;roaming</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Qualquer &amp;ligação</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>O meu próprio &amp;botão</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (ausente agora)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>O NetworkManager não diz que tarifários existem.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Enquanto nenhum estiver marcado, qualquer tarifário conta.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Ainda não há tarifários móveis.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>O NetworkManager não está em execução</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>Online por Ethernet; à espera da banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Online por Wi-Fi; à espera da banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>Online por outra ligação; à espera da banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Em roaming; à espera da sua própria rede.</translation>
     </message>
 </context>
 <context>

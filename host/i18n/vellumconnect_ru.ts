@@ -74,10 +74,6 @@
         <translation>Нет такого вида подключения: «%1».</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>Следить за подключениями вида KIND: mobile (мобильное широкополосное, по умолчанию), any (любое с маршрутом по умолчанию) или manual (вы нажимаете кнопку).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Вывести быстрые ссылки и выйти. Графический сеанс не нужен.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Программа уже запущена: процесс %1, папка %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>В этом запуске следить за подключениями вида KIND, что бы ни говорила настройка: mobile (мобильное широкополосное), any (любое с маршрутом по умолчанию) или manual (вы нажимаете кнопку).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>В этом запуске командная строка определяет, какие подключения считаются. Выбранное здесь действует со следующего запуска.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>&amp;Мобильное широкополосное подключение</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>Любой &amp;тариф</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>Только отмеченные &amp;здесь тарифы</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>Не в &amp;роуминге</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>&amp;Любое подключение</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>Своя &amp;кнопка</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (сейчас отсутствует)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager не сообщает, какие есть тарифы.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Пока ни один не отмечен, считается любой тариф.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Мобильных тарифов пока нет.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager не запущен</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>В сети через Ethernet; ожидание мобильного широкополосного подключения.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>В сети через Wi-Fi; ожидание мобильного широкополосного подключения.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>В сети через другое подключение; ожидание мобильного широкополосного подключения.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Роуминг; ожидание вашей собственной сети.</translation>
     </message>
 </context>
 <context>

@@ -74,10 +74,6 @@
         <translation>Böyle bir bağlantı türü yok: &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>KIND türündeki bağlantıları izler: mobile (mobil geniş bant, öntanımlı), any (öntanımlı rotası olan her bağlantı) veya manual (bir düğmeye basarsınız).</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>Kısayolları listeler ve çıkar. Grafik oturumu gerektirmez.</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>Zaten çalışıyor: işlem %1, klasör %2.</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>Ayarlar ne derse desin bu çalıştırmada KIND türündeki bağlantıları izler: mobile (mobil geniş bant), any (öntanımlı rotası olan her bağlantı) veya manual (bir düğmeye basarsınız).</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>Bu çalıştırmada hangi bağlantıların sayılacağını komut satırı belirler. Burada seçtiğiniz bir sonraki başlatmadan itibaren geçerlidir.</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>&amp;Mobil geniş bant</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>Herhangi bir &amp;tarife</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>&amp;Yalnızca burada işaretlenen tarifeler</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>&amp;Dolaşımda değil</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>Herhangi bir &amp;bağlantı</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>&amp;Kendi düğmem</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1 (şu anda yok)</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager hangi tarifelerin olduğunu söylemiyor.</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>Hiçbiri işaretli değilken her tarife sayılır.</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>Henüz mobil tarife yok.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager çalışmıyor</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>Ethernet ile çevrimiçi; mobil geniş bant bekleniyor.</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>Wi-Fi ile çevrimiçi; mobil geniş bant bekleniyor.</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>Başka bir bağlantıyla çevrimiçi; mobil geniş bant bekleniyor.</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>Dolaşımda; kendi şebekeniz bekleniyor.</translation>
     </message>
 </context>
 <context>

@@ -74,10 +74,6 @@
         <translation>没有此连接类型：“%1”。</translation>
     </message>
     <message>
-        <source>Watch connections of type KIND: mobile (mobile broadband, the default), any (whatever has a default route) or manual (you press a button).</source>
-        <translation>监视 KIND 类型的连接：mobile（移动宽带，默认）、any（任何有默认路由的连接）或 manual（由您按按钮）。</translation>
-    </message>
-    <message>
         <source>Print the quick links and exit. Needs no graphical session.</source>
         <translation>输出快速链接并退出。无需图形会话。</translation>
     </message>
@@ -96,6 +92,10 @@
     <message>
         <source>It is running already, as process %1, with the folder %2.</source>
         <translation>程序已在运行，进程 %1，文件夹 %2。</translation>
+    </message>
+    <message>
+        <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
+        <translation>不论设置如何，本次运行监视 KIND 类型的连接：mobile（移动宽带）、any（任何有默认路由的连接）或 manual（由您按按钮）。</translation>
     </message>
 </context>
 <context>
@@ -117,6 +117,57 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionPage</name>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>In this run the command line says which connections count. What you choose here counts from the next start on.</source>
+        <translation>本次运行由命令行决定哪些连接算数。您在此处的选择从下次启动起生效。</translation>
+    </message>
+    <message>
+        <source>&amp;Mobile broadband</source>
+        <translation>移动宽带(&amp;M)</translation>
+    </message>
+    <message>
+        <source>An&amp;y plan</source>
+        <translation>任何套餐(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Only the plans &amp;ticked here</source>
+        <translation>仅此处勾选的套餐(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Not while &amp;roaming</source>
+        <translation>漫游时不算(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Any connection</source>
+        <translation>任何连接(&amp;A)</translation>
+    </message>
+    <message>
+        <source>My own &amp;button</source>
+        <translation>我自己的按钮(&amp;B)</translation>
+    </message>
+    <message>
+        <source>%1 (not there now)</source>
+        <translation>%1（目前不存在）</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not say which plans there are.</source>
+        <translation>NetworkManager 未告知有哪些套餐。</translation>
+    </message>
+    <message>
+        <source>While none is ticked, any plan counts.</source>
+        <translation>未勾选任何套餐时，任何套餐都算数。</translation>
+    </message>
+    <message>
+        <source>There are no mobile plans yet.</source>
+        <translation>还没有移动套餐。</translation>
     </message>
 </context>
 <context>
@@ -192,6 +243,22 @@
     <message>
         <source>NetworkManager is not running</source>
         <translation>NetworkManager 未运行</translation>
+    </message>
+    <message>
+        <source>Online by Ethernet; waiting for mobile broadband.</source>
+        <translation>已通过以太网联网；正在等待移动宽带。</translation>
+    </message>
+    <message>
+        <source>Online by Wi-Fi; waiting for mobile broadband.</source>
+        <translation>已通过 Wi-Fi 联网；正在等待移动宽带。</translation>
+    </message>
+    <message>
+        <source>Online by another connection; waiting for mobile broadband.</source>
+        <translation>已通过其他连接联网；正在等待移动宽带。</translation>
+    </message>
+    <message>
+        <source>Roaming; waiting for your own network.</source>
+        <translation>正在漫游；正在等待您自己的网络。</translation>
     </message>
 </context>
 <context>

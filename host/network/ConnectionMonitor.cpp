@@ -18,7 +18,13 @@ ConnectionMonitor::ConnectionMonitor()
 
 void ConnectionMonitor::start(std::unique_ptr<ConnectionSource> service)
 {
+    // Another choice is no news of a connection. What was up, and is so now, is up since the same time.
     m_service = std::move(service);
+    m_manual = std::make_unique<ManualSource>();
+    m_rules = TransitionRules();
+    m_isAsking = false;
+    m_hasLooked = false;
+    arm();
     qCInfo(connectionLog, "listening to %s",
            !isManual()      ? "the service"
            : lacksService() ? "the user until the service is there"
@@ -47,7 +53,12 @@ ConnectionState ConnectionMonitor::state() const
 
 QDateTime ConnectionMonitor::upSince() const
 {
-    return m_upSince;
+    return state().isUp ? m_upSince : QDateTime();
+}
+
+bool ConnectionMonitor::wasUpBefore() const
+{
+    return state().isUp && m_wasUpBefore;
 }
 
 bool ConnectionMonitor::isManual() const
@@ -94,8 +105,10 @@ void ConnectionMonitor::look()
     if (seen.id != m_upId) {
         m_upId = seen.id;
         m_upSince = seen.isUp && m_hasLooked ? QDateTime::currentDateTime() : QDateTime();
+        m_wasUpBefore = !m_hasEverLooked;
     }
     m_hasLooked = true;
+    m_hasEverLooked = true;
     follow(m_rules.observe(seen, now()));
     Q_EMIT changed();
 }

@@ -30,7 +30,7 @@ public:
 
     /**
      * Listens to service from now on, which may be null: then only the user tells. A connection that is up by now is
-     * not announced. To be called once.
+     * not announced. What was listened to before is gone, with what the user told.
      */
     void start(std::unique_ptr<ConnectionSource> service);
 
@@ -39,6 +39,9 @@ public:
 
     /** Since when it is up; invalid while it is not, and for a connection that was up before start(). */
     QDateTime upSince() const;
+
+    /** Whether it is up, and has been since before the first start(). */
+    bool wasUpBefore() const;
 
     /** Whether it listens to the user now, for want of a service. */
     bool isManual() const;
@@ -76,14 +79,16 @@ private:
     qint64 now() const;
 
     std::unique_ptr<ConnectionSource> m_service;
-    const std::unique_ptr<ManualSource> m_manual;
+    std::unique_ptr<ManualSource> m_manual;
     TransitionRules m_rules;
     QElapsedTimer m_clock;
     QTimer m_deadline;
-    bool m_hasLooked = false;
-    bool m_isAsking = false; ///< whether a connection is up that is to be told
-    QString m_askedId;       ///< of that connection
-    QString m_reason;        ///< why it is to be told
+    bool m_hasLooked = false;     ///< since the last start()
+    bool m_hasEverLooked = false; ///< since the first
+    bool m_wasUpBefore = false;   ///< what is up was so when it looked for the first time of all
+    bool m_isAsking = false;      ///< whether a connection is up that is to be told
+    QString m_askedId;            ///< of that connection
+    QString m_reason;             ///< why it is to be told
     QString m_upId;
     QDateTime m_upSince;
 };

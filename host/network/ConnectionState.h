@@ -16,6 +16,15 @@ struct ConnectionState {
         Full,     ///< into the Internet
     };
 
+    /** What is there while the connection that counts is not up. */
+    enum class InItsPlace {
+        Nothing,
+        Ethernet, ///< the user is in the Internet by a cable
+        Wireless, ///< by Wi-Fi
+        Other,    ///< by something else
+        Roaming,  ///< it is up, but in the network of another operator, where it is not to count
+    };
+
     bool isUp = false;
     bool isComingUp = false; ///< only while it is not up
     Reach reach = Reach::Unknown;
@@ -23,4 +32,5 @@ struct ConnectionState {
     QString name;         ///< as the user knows it; empty where nobody named it
     QString device;       ///< such as "wwan0"; empty when unknown
     QString operatorName; ///< of the mobile network; empty when unknown
+    InItsPlace inItsPlace = InItsPlace::Nothing;
 };

@@ -18,6 +18,7 @@ constexpr char modemManager[] = "org.freedesktop.ModemManager1";
 constexpr char modems[] = "/org/freedesktop/ModemManager1/Modem/";
 constexpr char mobileNetwork[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 constexpr char operatorName[] = "OperatorName";
+constexpr char registration[] = "RegistrationState";
 
 bool isInNumber(QChar character)
 {
@@ -30,6 +31,12 @@ bool isModem(const QString& path)
     const QString number = path.mid(int(QLatin1String(modems).size()));
     return path.startsWith(QLatin1String(modems)) && !number.isEmpty() &&
            std::all_of(number.begin(), number.end(), isInNumber);
+}
+
+/** The numbers are ModemManager's: roaming, for text messages only, and for calls by an older network as well. */
+bool isRoaming(uint registrationState)
+{
+    return registrationState == 5 || registrationState == 7 || registrationState == 10;
 }
 } // namespace
 
@@ -49,7 +56,7 @@ void ModemOperator::setModem(const QString& path)
                        SLOT(readChange(QString, QVariantMap)));
     m_modem = modem;
     m_answer.reset();
-    setName(QString());
+    set(QString(), m_modem.isEmpty() ? Roaming::No : Roaming::Unknown);
     if (m_modem.isEmpty())
         return;
     bus.connect(QLatin1String(modemManager), m_modem, QLatin1String(BusValue::properties), signal, this,
@@ -59,13 +66,20 @@ void ModemOperator::setModem(const QString& path)
 
 void ModemOperator::ask()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(QLatin1String(modemManager), m_modem,
-                                                           QLatin1String(BusValue::properties), QStringLiteral("Get"));
-    question << QLatin1String(mobileNetwork) << QLatin1String(operatorName);
-    m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(question));
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QLatin1String(modemManager), m_modem, QLatin1String(BusValue::properties), QStringLiteral("GetAll"));
+    question << QLatin1String(mobileNetwork);
+    m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(question, patience));
     connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, [this] {
-        const QVariant answer = m_answer->reply().arguments().value(0).value<QDBusVariant>().variant();
-        setName(BusValue::text(answer));
+        const QDBusMessage answer = m_answer->reply();
+        m_answer.release()->deleteLater();
+        // Who may be roaming is not taken for at home because nobody answers.
+        if (QDBusError(answer).type() == QDBusError::NoReply)
+            return ask();
+        // A modem without such a network has no values.
+        const QVariantMap values = BusValue::map(answer.arguments().value(0));
+        take({{QLatin1String(operatorName), values.value(QLatin1String(operatorName))},
+              {QLatin1String(registration), values.value(QLatin1String(registration))}});
     });
 }
 
@@ -74,16 +88,34 @@ QString ModemOperator::name() const
     return m_name;
 }
 
-void ModemOperator::readChange(const QString& interface, const QVariantMap& changes)
+ModemOperator::Roaming ModemOperator::roaming() const
 {
-    if (interface == QLatin1String(mobileNetwork) && changes.contains(QLatin1String(operatorName)))
-        setName(BusValue::text(changes.value(QLatin1String(operatorName))));
+    return m_roaming;
 }
 
-void ModemOperator::setName(const QString& name)
+void ModemOperator::readChange(const QString& interface, const QVariantMap& changes)
 {
-    if (m_name == name)
+    if (interface == QLatin1String(mobileNetwork))
+        take(changes);
+}
+
+/** What is not among the values stays as it was. */
+void ModemOperator::take(const QVariantMap& values)
+{
+    QString name = m_name;
+    if (values.contains(QLatin1String(operatorName)))
+        name = BusValue::text(values.value(QLatin1String(operatorName)));
+    Roaming roaming = m_roaming;
+    if (values.contains(QLatin1String(registration)))
+        roaming = isRoaming(BusValue::number(values.value(QLatin1String(registration)))) ? Roaming::Yes : Roaming::No;
+    set(name, roaming);
+}
+
+void ModemOperator::set(const QString& name, Roaming roaming)
+{
+    if (m_name == name && m_roaming == roaming)
         return;
     m_name = name;
+    m_roaming = roaming;
     Q_EMIT changed();
 }

@@ -11,14 +11,22 @@
 class QDBusPendingCallWatcher;
 
 /**
- * The name of the mobile network that a modem is registered with, by ModemManager over the system bus. It comes later
- * than the modem and changes on the way, as when roaming.
+ * The mobile network that a modem is registered with, by ModemManager over the system bus: its name, and whether it is
+ * another operator's than that of the user's card. Both come later than the modem and change on the way.
  */
 class ModemOperator : public QObject
 {
     Q_OBJECT
 
 public:
+    static constexpr int patience = 2000; ///< milliseconds until a silent ModemManager is asked again
+
+    enum class Roaming {
+        Unknown, ///< ModemManager has not said it yet
+        No,      ///< nor where there is no modem that could say it, such as that of a telephone
+        Yes,
+    };
+
     /** Knows no modem and no name. */
     ModemOperator();
     ~ModemOperator() override;
@@ -29,8 +37,11 @@ public:
     /** The name; empty while unknown. */
     QString name() const;
 
+    /** Whether the modem is in the network of another operator. */
+    Roaming roaming() const;
+
 Q_SIGNALS:
-    /** name() changed. */
+    /** name() or roaming() changed. */
     void changed();
 
 private Q_SLOTS:
@@ -38,9 +49,11 @@ private Q_SLOTS:
 
 private:
     void ask();
-    void setName(const QString& name);
+    void take(const QVariantMap& values);
+    void set(const QString& name, Roaming roaming);
 
     QString m_modem;
     QString m_name;
+    Roaming m_roaming = Roaming::No;
     std::unique_ptr<QDBusPendingCallWatcher> m_answer; ///< of this modem, which may take its time
 };

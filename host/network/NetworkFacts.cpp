@@ -90,13 +90,25 @@ bool NetworkFacts::isUp(const QString& path) const
     return stateOf(of(path)) == Activated;
 }
 
-NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind, const QString& former) const
+NetworkFacts::Chosen NetworkFacts::chosen(const ConnectionChoice& choice, const QString& former) const
+{
+    const QString best = bestOf(choice, former);
+    if (!best.isEmpty())
+        return describe(best);
+    Chosen none;
+    if (choice.kind == ConnectionKind::Mobile)
+        none.state.inItsPlace = inItsPlace();
+    return none;
+}
+
+/** The path of the one to show; empty for none. */
+QString NetworkFacts::bestOf(const ConnectionChoice& choice, const QString& former) const
 {
     QString best;
     Rank highest = Rank::None;
     const QStringList all = connections();
     for (const QString& path : all) {
-        const Rank found = rank(path, kind);
+        const Rank found = rank(path, choice);
         if (found > highest) {
             best = path;
             highest = found;
@@ -104,23 +116,37 @@ NetworkFacts::Chosen NetworkFacts::chosen(ConnectionKind kind, const QString& fo
     }
     // The service calls one the default that is only on the way, for as long as that takes. Until it is up, what
     // carried the traffic before goes on to.
-    if (kind == ConnectionKind::Any && highest == Rank::ComingUp && isDefault(of(best)) && isUp(former))
-        best = former;
-    return best.isEmpty() ? Chosen() : describe(best);
+    const bool isOnTheWay = choice.kind == ConnectionKind::Any && highest == Rank::ComingUp && isDefault(of(best));
+    return isOnTheWay && isUp(former) ? former : best;
 }
 
-NetworkFacts::Rank NetworkFacts::rank(const QString& path, ConnectionKind kind) const
+NetworkFacts::Rank NetworkFacts::rank(const QString& path, const ConnectionChoice& choice) const
 {
     const QVariantMap connection = of(path);
     const auto isOfManager = [this, &path](const char* name) {
         return BusValue::path(of(manager()).value(QLatin1String(name))) == path;
     };
-    const bool counts = kind == ConnectionKind::Any ? isDefault(connection) : isMobile(connection);
+    const bool isAny = choice.kind == ConnectionKind::Any;
+    const bool counts =
+        isAny ? isDefault(connection) : isMobile(connection) && choice.countsPlan(textOf(connection, "Uuid"));
     if (isUp(path))
         return !counts ? Rank::None : isOfManager("PrimaryConnection") ? Rank::Primary : Rank::Up;
     // One that waits for an address has no route yet.
-    const bool isExpected = counts || (kind == ConnectionKind::Any && isOfManager("ActivatingConnection"));
+    const bool isExpected = counts || (isAny && isOfManager("ActivatingConnection"));
     return stateOf(connection) == Activating && isExpected ? Rank::ComingUp : Rank::None;
+}
+
+/** By what the user is in the Internet while nothing that counts is. */
+ConnectionState::InItsPlace NetworkFacts::inItsPlace() const
+{
+    using InItsPlace = ConnectionState::InItsPlace;
+    const QString path = bestOf(ConnectionKind::Any, QString());
+    if (path.isEmpty() || describe(path).state.reach != Reach::Full)
+        return InItsPlace::Nothing;
+    const QString type = textOf(of(path), "Type");
+    if (type == QLatin1String("802-3-ethernet"))
+        return InItsPlace::Ethernet;
+    return type == QLatin1String("802-11-wireless") ? InItsPlace::Wireless : InItsPlace::Other;
 }
 
 bool NetworkFacts::isDefault(const QVariantMap& connection)
@@ -145,7 +171,7 @@ NetworkFacts::Chosen NetworkFacts::describe(const QString& path) const
     const QVariantMap device = of(BusValue::paths(connection.value(QStringLiteral("Devices"))).value(0));
     const QString ipInterface = textOf(device, "IpInterface");
     Chosen chosen;
-    chosen.state.isUp = stateOf(connection) == Activated;
+    chosen.state.isUp = isUp(path);
     chosen.state.isComingUp = !chosen.state.isUp;
     chosen.state.name = textOf(connection, "Id");
     chosen.state.device = ipInterface.isEmpty() ? textOf(device, "Interface") : ipInterface;

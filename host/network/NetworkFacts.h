@@ -6,14 +6,14 @@
 #include <QHash>
 #include <QVariantMap>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionState.h"
 
 /** What NetworkManager said of itself, of its connections and of their devices; and what follows for us. */
 class NetworkFacts
 {
 public:
-    /** The connection that counts. All is empty while there is none. */
+    /** The connection that counts. While there is none, all is empty but what is there in its place. */
     struct Chosen {
         ConnectionState state;
         QString path;  ///< of the connection on the bus, while it is up
@@ -45,13 +45,15 @@ public:
      * The one to show, where several count: one that is up, and of these the one that the traffic takes. former is the
      * path of the one that was shown before; empty for none.
      */
-    Chosen chosen(ConnectionKind kind, const QString& former) const;
+    Chosen chosen(const ConnectionChoice& choice, const QString& former) const;
 
 private:
     /** How much a connection is the one to show. */
     enum class Rank { None, ComingUp, Up, Primary };
 
-    Rank rank(const QString& path, ConnectionKind kind) const;
+    QString bestOf(const ConnectionChoice& choice, const QString& former) const;
+    Rank rank(const QString& path, const ConnectionChoice& choice) const;
+    ConnectionState::InItsPlace inItsPlace() const;
     static bool isDefault(const QVariantMap& connection);
     bool isMobile(const QVariantMap& connection) const;
     Chosen describe(const QString& path) const;

@@ -6,8 +6,26 @@
 using Reach = ConnectionState::Reach;
 using Presence = NetworkObjects::Presence;
 
-NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
-    : m_kind(kind)
+namespace
+{
+/** What is up does not count while it roams, and is still on the way as long as that is unknown. */
+ConnectionState withoutRoaming(ConnectionState state, ModemOperator::Roaming roaming)
+{
+    if (roaming == ModemOperator::Roaming::No)
+        return state;
+    state.isUp = false;
+    state.isComingUp = roaming == ModemOperator::Roaming::Unknown;
+    state.reach = Reach::Unknown;
+    state.id.clear();
+    if (roaming == ModemOperator::Roaming::Yes)
+        state.inItsPlace = ConnectionState::InItsPlace::Roaming;
+    return state;
+}
+} // namespace
+
+NetworkManagerSource::NetworkManagerSource(const ConnectionChoice& choice)
+    : m_choice(choice)
+    , m_presence(m_objects.presence())
 {
     for (QTimer* const timer : {&m_pause, &m_settling, &m_checking})
         timer->setSingleShot(true);
@@ -18,7 +36,7 @@ NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
             takeChange();
     });
     connect(&m_settling, &QTimer::timeout, this, [this] {
-        take(m_objects.facts().chosen(m_kind, m_chosen.path));
+        take(m_objects.facts().chosen(m_choice, m_chosen.path));
         Q_EMIT changed();
     });
     connect(&m_checking, &QTimer::timeout, this, &NetworkManagerSource::changed);
@@ -30,23 +48,30 @@ NetworkManagerSource::NetworkManagerSource(ConnectionKind kind)
 
 bool NetworkManagerSource::isKnown() const
 {
-    return m_objects.presence() != Presence::Unknown;
+    return m_presence != Presence::Unknown;
 }
 
 bool NetworkManagerSource::isAvailable() const
 {
-    return m_objects.presence() == Presence::There;
+    return m_presence == Presence::There;
 }
 
 ConnectionState NetworkManagerSource::state() const
 {
     ConnectionState state = m_chosen.state;
-    if (state.isUp)
-        state.operatorName = m_operator.name();
+    if (!state.isUp)
+        return state;
+    state.operatorName = m_operator.name();
     // The service says the same while it looks for the first time as where it has found nothing.
     if (state.reach == Reach::Checking && !m_checking.isActive())
         state.reach = Reach::Limited;
-    return state;
+    return m_choice.forbidsRoaming() ? withoutRoaming(state, m_operator.roaming()) : state;
+}
+
+/** Whether it hangs on ModemManager alone if the connection counts; it says so by another change. */
+bool NetworkManagerSource::isRoamingUnknown() const
+{
+    return m_chosen.state.isUp && m_choice.forbidsRoaming() && m_operator.roaming() == ModemOperator::Roaming::Unknown;
 }
 
 void NetworkManagerSource::askWhetherUp()
@@ -60,7 +85,16 @@ void NetworkManagerSource::askWhetherUp()
 void NetworkManagerSource::takePresence()
 {
     m_settling.stop();
-    take(m_objects.facts().chosen(m_kind, m_chosen.path));
+    take(m_objects.facts().chosen(m_choice, m_chosen.path));
+    tellPresence();
+}
+
+void NetworkManagerSource::tellPresence()
+{
+    // Its first word would be that nothing is up, and what is up would be news then.
+    if (isRoamingUnknown())
+        return;
+    m_presence = m_objects.presence();
     Q_EMIT availabilityChanged();
 }
 
@@ -75,7 +109,7 @@ void NetworkManagerSource::takeChange()
 {
     m_isWanted = false;
     m_pause.start(pause);
-    const NetworkFacts::Chosen chosen = m_objects.facts().chosen(m_kind, m_chosen.path);
+    const NetworkFacts::Chosen chosen = m_objects.facts().chosen(m_choice, m_chosen.path);
     // When one device takes over from another, for a moment neither has the traffic.
     if (m_chosen.state.isUp && !chosen.state.isUp) {
         if (!m_settling.isActive())
@@ -84,7 +118,10 @@ void NetworkManagerSource::takeChange()
     }
     m_settling.stop();
     take(chosen);
-    Q_EMIT changed();
+    if (m_presence == m_objects.presence())
+        Q_EMIT changed();
+    else
+        tellPresence();
 }
 
 void NetworkManagerSource::take(const NetworkFacts::Chosen& chosen)

@@ -5,7 +5,7 @@
 
 #include <QTimer>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionSource.h"
 #include "ModemOperator.h"
 #include "NetworkObjects.h"
@@ -23,8 +23,8 @@ public:
     static constexpr int settlingTime = 250;   ///< milliseconds that a connection is missing before it is down
     static constexpr int checkingTime = 10000; ///< milliseconds that the service may look whether a new one is online
 
-    /** Begins to listen. kind is Mobile or Any. */
-    explicit NetworkManagerSource(ConnectionKind kind);
+    /** Begins to listen for what counts by choice, whose kind is Mobile or Any. */
+    explicit NetworkManagerSource(const ConnectionChoice& choice);
 
     bool isKnown() const override;
     bool isAvailable() const override;
@@ -32,13 +32,16 @@ public:
     void askWhetherUp() override;
 
 private:
+    bool isRoamingUnknown() const;
     void takePresence();
+    void tellPresence();
     void requestChange();
     void takeChange();
     void take(const NetworkFacts::Chosen& chosen);
 
-    const ConnectionKind m_kind;
+    const ConnectionChoice m_choice;
     NetworkObjects m_objects;
+    NetworkObjects::Presence m_presence; ///< as it was told
     NetworkFacts::Chosen m_chosen;
     ModemOperator m_operator;
     bool m_isWanted = false; ///< a change is

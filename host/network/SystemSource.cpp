@@ -5,9 +5,9 @@
 
 #include "NetworkManagerSource.h"
 
-std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind)
+std::unique_ptr<ConnectionSource> newSystemSource(const ConnectionChoice& choice)
 {
-    if (kind == ConnectionKind::Manual)
+    if (choice.kind == ConnectionKind::Manual)
         return nullptr;
-    return std::make_unique<NetworkManagerSource>(kind);
+    return std::make_unique<NetworkManagerSource>(choice);
 }

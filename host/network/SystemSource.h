@@ -5,8 +5,8 @@
 
 #include <memory>
 
-#include "ConnectionKind.h"
+#include "ConnectionChoice.h"
 #include "ConnectionSource.h"
 
-/** The service that tells of such connections; null for Manual. */
-std::unique_ptr<ConnectionSource> newSystemSource(ConnectionKind kind);
+/** The service that tells of the connections that count by choice; null for Manual. */
+std::unique_ptr<ConnectionSource> newSystemSource(const ConnectionChoice& choice);

@@ -59,6 +59,12 @@ ConnectionPanel::ConnectionPanel(ConnectionMonitor& monitor, ConnectionKind kind
     refresh();
 }
 
+void ConnectionPanel::setKind(ConnectionKind kind)
+{
+    m_texts.setKind(kind);
+    refresh();
+}
+
 void ConnectionPanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)

@@ -21,6 +21,9 @@ public:
     /** Shows what monitor knows, which must outlive the panel; kind is what it was asked to look for. */
     ConnectionPanel(ConnectionMonitor& monitor, ConnectionKind kind);
 
+    /** Takes the place of that kind. */
+    void setKind(ConnectionKind kind);
+
 protected:
     /** Follows a change of the language. */
     void changeEvent(QEvent* event) override;
@@ -30,7 +33,7 @@ private:
     void setRow(QLabel* value, const QString& caption, const QString& text);
 
     ConnectionMonitor& m_monitor;
-    const ConnectionTexts m_texts;
+    ConnectionTexts m_texts;
     QLabel* m_heading = nullptr;
     QLabel* m_hint = nullptr;
     QPushButton* m_button = nullptr;

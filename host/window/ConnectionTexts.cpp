@@ -10,11 +10,17 @@
 #include "ShownText.h"
 
 using Reach = ConnectionState::Reach;
+using InItsPlace = ConnectionState::InItsPlace;
 
 ConnectionTexts::ConnectionTexts(const ConnectionMonitor& monitor, ConnectionKind kind)
     : m_monitor(monitor)
     , m_kind(kind)
 {
+}
+
+void ConnectionTexts::setKind(ConnectionKind kind)
+{
+    m_kind = kind;
 }
 
 QString ConnectionTexts::state() const
@@ -46,14 +52,32 @@ QString ConnectionTexts::hint() const
         return QString();
     if (m_monitor.isManual())
         return tr("Press Connect when your connection is up.");
-    return m_kind == ConnectionKind::Mobile ? tr("Waiting for mobile broadband.") : tr("Waiting for a connection.");
+    return m_kind == ConnectionKind::Mobile ? inItsPlace() : tr("Waiting for a connection.");
+}
+
+/** What there is while mobile broadband is waited for. */
+QString ConnectionTexts::inItsPlace() const
+{
+    switch (m_monitor.state().inItsPlace) {
+    case InItsPlace::Ethernet:
+        return tr("Online by Ethernet; waiting for mobile broadband.");
+    case InItsPlace::Wireless:
+        return tr("Online by Wi-Fi; waiting for mobile broadband.");
+    case InItsPlace::Other:
+        return tr("Online by another connection; waiting for mobile broadband.");
+    case InItsPlace::Roaming:
+        return tr("Roaming; waiting for your own network.");
+    case InItsPlace::Nothing:
+        break;
+    }
+    return tr("Waiting for mobile broadband.");
 }
 
 QString ConnectionTexts::since(const QDate& today) const
 {
     const QDateTime time = m_monitor.upSince();
     if (!time.isValid())
-        return m_monitor.state().isUp ? tr("before this program started") : QString();
+        return m_monitor.wasUpBefore() ? tr("before this program started") : QString();
     const QLocale locale;
     return time.date() == today ? locale.toString(time.time(), QLocale::ShortFormat)
                                 : locale.toString(time, QLocale::ShortFormat);

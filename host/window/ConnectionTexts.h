@@ -20,6 +20,9 @@ public:
     /** Speaks of what monitor knows, which must outlive the texts; kind is what it was asked to look for. */
     ConnectionTexts(const ConnectionMonitor& monitor, ConnectionKind kind);
 
+    /** Takes the place of the kind that monitor was asked to look for. */
+    void setKind(ConnectionKind kind);
+
     /** The state in a word or two. */
     QString state() const;
 
@@ -29,13 +32,15 @@ public:
     /** What keeps the user from the Internet, or what is waited for; empty where there is nothing to say. */
     QString hint() const;
 
-    /** Since when the connection is up, as said on this day; empty while it is not. */
+    /** Since when the connection is up, as said on this day; empty while it is not, or nobody knows. */
     QString since(const QDate& today = QDate::currentDate()) const;
 
     /** Why the user has to press a button although a service was asked for; empty while it is there. */
     QString missingService() const;
 
 private:
+    QString inItsPlace() const;
+
     const ConnectionMonitor& m_monitor;
     ConnectionKind m_kind;
 };

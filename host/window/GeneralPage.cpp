@@ -5,23 +5,15 @@
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "ShownText.h"
-
-static QLabel* newText()
-{
-    QLabel* const label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
+#include "WrappedText.h"
 
 GeneralPage::GeneralPage(bool startsWithSession)
     : m_startWithSession(new QCheckBox)
-    , m_hint(newText())
-    , m_failure(newText())
+    , m_hint(new WrappedText)
+    , m_failure(new WrappedText)
 {
     QVBoxLayout* const column = new QVBoxLayout(this);
     column->addWidget(m_startWithSession);

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -16,6 +15,7 @@
 #include "LinkHistory.h"
 #include "LinkItems.h"
 #include "ShownText.h"
+#include "WrappedText.h"
 
 static const int contentRole = Qt::UserRole;
 static const int namesShown = 5; // of one kind of change
@@ -59,14 +59,13 @@ private:
 HistoryPage::HistoryPage(const LinkHistory& history)
     : m_history(history)
     , m_list(new QTreeWidget)
-    , m_hint(new QLabel)
+    , m_hint(new WrappedText)
     , m_goBack(new QPushButton)
 {
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->header()->setSectionsMovable(false);
-    m_hint->setWordWrap(true);
     m_goBack->setAutoDefault(false);
     QVBoxLayout* const column = new QVBoxLayout(this);
     column->addWidget(m_hint);

@@ -24,10 +24,20 @@ QWidget* PageArea::pageParent() const
 
 void PageArea::setPage(QWidget* page, Room room)
 {
+    if (m_page)
+        m_page->removeEventFilter(this);
     m_page = page;
     m_room = room;
+    if (m_page)
+        m_page->installEventFilter(this);
+    makeRoom();
+}
+
+void PageArea::makeRoom()
+{
     pageParent()->setMinimumSize(
-        page ? page->sizeHint().expandedTo(page->minimumSizeHint()).expandedTo(page->minimumSize()) : QSize(0, 0));
+        m_page ? m_page->sizeHint().expandedTo(m_page->minimumSizeHint()).expandedTo(m_page->minimumSize())
+               : QSize(0, 0));
     place();
     updateGeometry();
 }
@@ -41,6 +51,10 @@ bool PageArea::eventFilter(QObject* object, QEvent* event)
 {
     if (object == pageParent() && event->type() == QEvent::Resize)
         place();
+    if (object == m_page && m_room == Whole && event->type() == QEvent::LayoutRequest) {
+        makeRoom();
+        Q_EMIT resized();
+    }
     return QScrollArea::eventFilter(object, event);
 }
 

@@ -29,11 +29,16 @@ public:
     /** As large as shows the whole page. */
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /** The page, one that uses the whole room, wants to be of another size than before. */
+    void resized();
+
 protected:
-    /** Lets the page follow the size of its parent. */
+    /** Lets the page follow the size of its parent, and the room what the page wants. */
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void makeRoom();
     void place();
 
     QPointer<QWidget> m_page;

@@ -52,6 +52,7 @@ SettingsDialog::SettingsDialog(const QList<PluginWith<ISettingUIPlugin>>& plugin
         }
     });
 
+    connect(m_area, &PageArea::resized, this, &SettingsDialog::growToPage);
     listPages();
     connect(m_list, &QListWidget::currentRowChanged, this, &SettingsDialog::showPage);
 

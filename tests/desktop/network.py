@@ -41,6 +41,15 @@ class NetworkManager(PlayedService):
         self._manager.EmitSignal(self.name, "DeviceAdded", "o", [path])
         return path
 
+    def store(self, name, kind="gsm", **settings):
+        """Keeps a connection that is not up."""
+        self._stored(name, kind, settings)
+
+    def forget(self, name, kind="gsm"):
+        """Deletes a connection that is kept."""
+        path = self._connections.pop((name, kind))
+        self.at(path, "org.freedesktop.NetworkManager.Settings.Connection").Delete()
+
     def activate(self, name, kind="gsm", **settings):
         """Brings a connection up at once; returns its path, for the other calls. Settings are those of its kind."""
         return self._activate(name, kind, 2, **settings)
@@ -51,9 +60,12 @@ class NetworkManager(PlayedService):
 
     def _activate(self, name, kind, state, **settings):
         self._number += 1
-        stored = self._connections.get((name, kind)) or self._store(name, kind, settings)
+        stored = self._stored(name, kind, settings)
         return self._manager.AddActiveConnection([self._devices[kind]], stored, "/", str(self._number),
                                                  dbus.UInt32(state))
+
+    def _stored(self, name, kind, own):
+        return self._connections.get((name, kind)) or self._store(name, kind, own)
 
     def _store(self, name, kind, own):
         settings = {"connection": {"id": name, "type": kind, "uuid": f"00000000-{name}-{kind}"}, kind: own}
@@ -105,7 +117,7 @@ class NetworkManager(PlayedService):
 
 
 class ModemManager(PlayedService):
-    """ModemManager with one modem, registered with an operator."""
+    """ModemManager with one modem, registered with an operator, at home."""
 
     _interface = "org.freedesktop.ModemManager1.Modem.Modem3gpp"
 
@@ -113,10 +125,15 @@ class ModemManager(PlayedService):
         super().__init__("org.freedesktop.ModemManager1", "--system", "org.freedesktop.ModemManager1",
                          "/org/freedesktop/ModemManager1", "org.freedesktop.ModemManager1")
         self.at("/org/freedesktop/ModemManager1").AddObject(
-            MODEM, self._interface, {"OperatorName": operator}, dbus.Array([], signature="(ssss)"))
+            MODEM, self._interface, {"OperatorName": operator, "RegistrationState": dbus.UInt32(1)},
+            dbus.Array([], signature="(ssss)"))
 
     def set_operator(self, operator):
         self.at(MODEM).UpdateProperties(self._interface, {"OperatorName": operator})
+
+    def set_roaming(self, is_roaming):
+        """Whether that is the network of another operator than the user's own."""
+        self.at(MODEM).UpdateProperties(self._interface, {"RegistrationState": dbus.UInt32(5 if is_roaming else 1)})
 
 
 class Logind(PlayedService):

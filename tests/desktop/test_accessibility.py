@@ -8,7 +8,7 @@ from scenario import TITLE, main
 from settings_dialog import TYPES
 from settings_scenario import SettingsScenario
 
-OPERABLE = ("push button", "text", "check box", "combo box", "menu item", "page tab")
+OPERABLE = ("push button", "text", "check box", "radio button", "combo box", "menu item", "page tab")
 
 
 class Accessibility(SettingsScenario):
@@ -50,6 +50,13 @@ class Accessibility(SettingsScenario):
         settings.window.find("list item", "History").click()
         settings.window.find("push button", "Go Back to This")
         self.assertEqual(self.labels(settings.window), {"push button": ["Go Back to This", "OK", "Cancel"]})
+        settings.window.find("list item", "Connection").click()
+        settings.window.find("check box")
+        self.assertEqual(self.labels(settings.window), {"check box": ["Not while roaming"],
+                                                        "radio button": ["Mobile broadband", "Any plan",
+                                                                         "Only the plans ticked here", "Any connection",
+                                                                         "My own button"],
+                                                        "push button": ["OK", "Cancel"]})
         settings.window.find("list item", "General").click()
         settings.window.find("check box")
         self.assertEqual(self.labels(settings.window), {"check box": ["Start with the session"],

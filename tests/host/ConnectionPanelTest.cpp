@@ -50,6 +50,9 @@ private Q_SLOTS:
     void saysHowItIs();
     void saysWhatItWaitsFor_data();
     void saysWhatItWaitsFor();
+    void saysWhatThereIsInItsPlace_data();
+    void saysWhatThereIsInItsPlace();
+    void followsTheKind();
     void hasARowForAllThatIsKnown_data();
     void hasARowForAllThatIsKnown();
     void saysSinceWhen();
@@ -155,6 +158,54 @@ void ConnectionPanelTest::saysWhatItWaitsFor()
     QFETCH(QString, hint);
     show(isManual, ConnectionKind(kind));
     QCOMPARE(texts(), QStringList({"Not connected", hint}));
+}
+
+void ConnectionPanelTest::saysWhatThereIsInItsPlace_data()
+{
+    QTest::addColumn<int>("inItsPlace");
+    QTest::addColumn<QString>("hint");
+    const auto row = [](const char* name, ConnectionState::InItsPlace inItsPlace, const char* hint) {
+        QTest::newRow(name) << int(inItsPlace) << QString(hint);
+    };
+    using InItsPlace = ConnectionState::InItsPlace;
+    row("nothing", InItsPlace::Nothing, "Waiting for mobile broadband.");
+    row("cable", InItsPlace::Ethernet, "Online by Ethernet; waiting for mobile broadband.");
+    row("Wi-Fi", InItsPlace::Wireless, "Online by Wi-Fi; waiting for mobile broadband.");
+    row("another", InItsPlace::Other, "Online by another connection; waiting for mobile broadband.");
+    row("roaming", InItsPlace::Roaming, "Roaming; waiting for your own network.");
+}
+
+void ConnectionPanelTest::saysWhatThereIsInItsPlace()
+{
+    QFETCH(int, inItsPlace);
+    QFETCH(QString, hint);
+    show(false, ConnectionKind::Mobile);
+    ConnectionState state;
+    state.inItsPlace = ConnectionState::InItsPlace(inItsPlace);
+    m_source->become(state);
+    QCOMPARE(texts(), QStringList({"Not connected", hint}));
+    state.isComingUp = true;
+    m_source->become(state);
+    QCOMPARE(texts().size(), 1);
+    // Once the user tells, the service has nothing to say.
+    m_source->setAvailable(false);
+    QCOMPARE(texts().last(), "Press Connect when your connection is up.");
+}
+
+void ConnectionPanelTest::followsTheKind()
+{
+    show(false, ConnectionKind::Mobile);
+    QCOMPARE(texts().last(), "Waiting for mobile broadband.");
+    m_panel->setKind(ConnectionKind::Any);
+    QCOMPARE(texts(), waiting);
+    ConnectionTexts texts(*m_monitor, ConnectionKind::Any);
+    texts.setKind(ConnectionKind::Mobile);
+    QCOMPARE(texts.hint(), "Waiting for mobile broadband.");
+    // Nobody knows since when it is up.
+    auto made = std::make_unique<FakeSource>();
+    made->become("b");
+    m_monitor->start(std::move(made));
+    QCOMPARE(this->texts(), QStringList("Connected"));
 }
 
 void ConnectionPanelTest::hasARowForAllThatIsKnown_data()

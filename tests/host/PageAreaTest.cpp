@@ -3,6 +3,9 @@
 
 // The place of a settings page, and how a page stands in it.
 
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
 #include "PageArea.h"
 #include "Test.h"
 
@@ -18,6 +21,7 @@ private Q_SLOTS:
     void keepsThePageAsLargeAsItself();
     void keepsAPageOfItsOwnSizeInTheMiddle_data();
     void keepsAPageOfItsOwnSizeInTheMiddle();
+    void makesRoomForAPageThatGrows();
     void doesNotKeepAFormerPage();
     void doesWithoutAPageThatIsGone();
 };
@@ -135,6 +139,30 @@ void PageAreaTest::keepsAPageOfItsOwnSizeInTheMiddle()
     QWidget* const next = new SizedPage(area->pageParent(), QSize(10, 10), QSize(10, 10));
     area->setPage(next);
     QTRY_COMPARE(next->geometry(), area->pageParent()->rect());
+}
+
+void PageAreaTest::makesRoomForAPageThatGrows()
+{
+    const std::unique_ptr<PageArea> area = shownArea();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+    QWidget* const page = new QWidget(area->pageParent());
+    QVBoxLayout* const column = new QVBoxLayout(page);
+    area->setPage(page);
+    page->show();
+    const QSignalSpy resized(area.get(), &PageArea::resized);
+    QWidget* const part = new SizedPage(nullptr, QSize(100, 1000), QSize(100, 1000));
+    column->addWidget(part);
+    QTRY_VERIFY(resized.size() > 0);
+    QVERIFY(area->sizeHint().height() > 1000);
+    QTRY_COMPARE(part->height(), 1000);
+    // A former one takes no room.
+    QWidget* const next = new SizedPage(area->pageParent(), QSize(10, 10), QSize(10, 10));
+    area->setPage(next);
+    const int count = resized.size();
+    delete part;
+    QCoreApplication::processEvents();
+    QCOMPARE(resized.size(), count);
+    QCOMPARE(area->sizeHint(), QSize(400, 360));
 }
 
 void PageAreaTest::doesNotKeepAFormerPage()

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void knowsAddressesByTheirExactSpelling_data();
     void knowsAddressesByTheirExactSpelling();
     void keepsTheWindowsPlace();
+    void keepsTheChoiceOfConnections();
+    void brokenChoiceOfConnectionsIsByDefault();
     void removesALockThatWasLeft();
     void makesTheMissingFolder();
     void warnsWhenItCannotBeKept();
@@ -126,6 +128,37 @@ void UserSettingsTest::keepsTheWindowsPlace()
     UserSettings::setWindowPlace(place);
     QCOMPARE(UserSettings::windowPlace(), place);
     QCOMPARE(UserSettings::language(), QString());
+}
+
+void UserSettingsTest::keepsTheChoiceOfConnections()
+{
+    const OwnFolder folder;
+    QVERIFY(UserSettings::connection() == ConnectionChoice());
+    QVERIFY(!QFileInfo::exists(OwnFolder::file()));
+    UserSettings::setLanguage("de");
+    ConnectionChoice choice;
+    choice.plans = {{"one", "Home, \"sweet\"\nhome"}, {"two;=%", QString()}};
+    choice.isNotWhileRoaming = true;
+    UserSettings::setConnection(choice);
+    QVERIFY(UserSettings::connection() == choice);
+    UserSettings::setConnection(ConnectionKind::Any);
+    QVERIFY(UserSettings::connection() == ConnectionChoice(ConnectionKind::Any));
+    QCOMPARE(UserSettings::language(), "de");
+    QFile file(OwnFolder::file());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("[connection]\nkind=any\n"));
+}
+
+void UserSettingsTest::brokenChoiceOfConnectionsIsByDefault()
+{
+    const OwnFolder folder;
+    QFile file(OwnFolder::file());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[connection]\nkind=@Variant(nonsense)\nplans=one\nnotWhileRoaming=1, 2\nunknown=7\n");
+    file.close();
+    const RecordingTrace trace;
+    QVERIFY(UserSettings::connection() == ConnectionChoice());
+    QCOMPARE(trace.warningLines.filter("The choice of connections has no good value").size(), 3);
 }
 
 void UserSettingsTest::removesALockThatWasLeft()

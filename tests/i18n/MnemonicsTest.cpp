@@ -6,12 +6,14 @@
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QLabel>
+#include <QListWidget>
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "Catalogue.h"
 #include "ConnectionMonitor.h"
+#include "ConnectionPage.h"
 #include "ConnectionPanel.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
@@ -103,9 +105,15 @@ void MnemonicsTest::inSettings()
     const ShownLanguage shown(language);
     const PluginWindows windows;
     QVERIFY(windows.settings());
-    const QStringList texts = labelsIn(windows.settings());
-    QVERIFY(texts.size() > 5);
-    QCOMPARE(clashes(texts), QString());
+    ConnectionPage* const connection = new ConnectionPage(ConnectionChoice(), true);
+    connection->setPlans({{"1", "R&M"}, {"2", "&Any"}}, true);
+    windows.settings()->addPage(connection);
+    for (const int page : {0, 1}) {
+        windows.settings()->findChild<QListWidget*>()->setCurrentRow(page);
+        const QStringList texts = labelsIn(windows.settings());
+        QVERIFY(texts.size() > 5);
+        QCOMPARE(clashes(texts), QString());
+    }
 }
 
 void MnemonicsTest::inLinkDialog()

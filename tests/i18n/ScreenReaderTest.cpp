@@ -8,6 +8,7 @@
 
 #include "Catalogue.h"
 #include "ConnectionMonitor.h"
+#include "ConnectionPage.h"
 #include "ConnectionPanel.h"
 #include "GeneralPage.h"
 #include "HistoryPage.h"
@@ -94,9 +95,12 @@ void ScreenReaderTest::settings()
     const QTemporaryDir folder;
     const LinkHistory history(folder.path(), folder.filePath("history"));
     windows.settings()->addPage(new HistoryPage(history));
+    ConnectionPage* const connection = new ConnectionPage(ConnectionChoice(), true);
+    connection->setPlans({{"1", "Home"}, {"2", ""}}, true);
+    windows.settings()->addPage(connection);
     windows.settings()->addPage(new GeneralPage(false));
     QListWidget* const list = windows.settings()->findChild<QListWidget*>();
-    QCOMPARE(list->count(), 3);
+    QCOMPARE(list->count(), 4);
     for (int page = 0; page < list->count(); ++page) {
         list->setCurrentRow(page);
         int count = 0;

@@ -12,11 +12,13 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionHeader>
 #include <QTabBar>
 #include <QTableWidget>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -210,7 +212,44 @@ QString verdict(const Place& place)
 
 QList<Place> placesOf(const QLabel* label)
 {
+    if (label->wordWrap())
+        return {}; // See verdictOnWrapped().
     return {Place{label, label->text(), label->font(), label->contentsRect()}};
+}
+
+int inkHeightOf(QWidget* widget)
+{
+    return inkOf(widget->grab().toImage().convertToFormat(QImage::Format_Grayscale8)).height();
+}
+
+/** On a label whose text is wrapped at words: beside one with more room; empty where it is whole. */
+QString verdictOnWrapped(QLabel* label)
+{
+    QLabel roomy(label->text());
+    roomy.setFont(label->font());
+    roomy.setWordWrap(true);
+    roomy.setLayoutDirection(label->layoutDirection());
+    // Twenty lines of pixels above as well as below, so that the letters fall onto pixels as they do there.
+    roomy.resize(label->width(), label->height() + 40);
+    const int height = inkHeightOf(&roomy) - inkHeightOf(label);
+    QTextLayout layout(label->text(), label->font());
+    layout.beginLayout();
+    int width = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(label->width());
+        width = qMax(width, int(line.naturalTextWidth()));
+    }
+    layout.endLayout();
+    const QSize hidden = label->size() - label->visibleRegion().boundingRect().size();
+    if (height == 0 && width <= label->width() && hidden.isNull())
+        return QString();
+    return QString("%1 \"%2\": %3 pixels of height cut, a line of %4 pixels (of %5), %6 by %7 out of sight")
+        .arg(nameOf(label), label->text())
+        .arg(height)
+        .arg(width)
+        .arg(label->width())
+        .arg(hidden.width())
+        .arg(hidden.height());
 }
 
 QList<Place> placesOf(const QAbstractButton* button)
@@ -220,7 +259,9 @@ QList<Place> placesOf(const QAbstractButton* button)
     const QPushButton* const push = qobject_cast<const QPushButton*>(button);
     if (push && push->autoDefault())
         option.features |= QStyleOptionButton::AutoDefaultButton;
-    const auto element = push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
+    const auto element = push                                        ? QStyle::SE_PushButtonContents
+                         : qobject_cast<const QRadioButton*>(button) ? QStyle::SE_RadioButtonContents
+                                                                     : QStyle::SE_CheckBoxContents;
     QRect rect = button->style()->subElementRect(element, &option, button);
     if (!button->icon().isNull())
         rect.setWidth(rect.width() - button->iconSize().width() - 4);
@@ -297,7 +338,8 @@ QList<Place> placesIn(const QWidget* widget)
 {
     if (const auto* const label = qobject_cast<const QLabel*>(widget))
         return placesOf(label);
-    if (qobject_cast<const QPushButton*>(widget) || qobject_cast<const QCheckBox*>(widget))
+    if (qobject_cast<const QPushButton*>(widget) || qobject_cast<const QCheckBox*>(widget) ||
+        qobject_cast<const QRadioButton*>(widget))
         return placesOf(static_cast<const QAbstractButton*>(widget));
     if (const auto* const choice = qobject_cast<const QComboBox*>(widget))
         return placesOf(choice);
@@ -315,7 +357,7 @@ QStringList cutTexts(QWidget* window)
 {
     QStringList lines;
     const QList<QWidget*> widgets = window->findChildren<QWidget*>();
-    for (const QWidget* const widget : widgets) {
+    for (QWidget* const widget : widgets) {
         // A dialog over the window is measured by itself.
         if (!widget->isVisible() || widget->window() != window)
             continue;
@@ -330,6 +372,10 @@ QStringList cutTexts(QWidget* window)
         }
         if (const auto* const table = qobject_cast<const QTableWidget*>(widget))
             lines += verdictsOnRows(table);
+        QLabel* const label = qobject_cast<QLabel*>(widget);
+        const QString wrapped = label && label->wordWrap() ? verdictOnWrapped(label) : QString();
+        if (!wrapped.isEmpty())
+            lines.append(wrapped);
     }
     return lines;
 }

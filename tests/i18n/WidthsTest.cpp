@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The plug-in's windows, whose sizes are fixed in pixels, show their texts whole in every language and size of letters.
+// The plug-in's windows, whose sizes are fixed in pixels, show their texts whole in every language and size of letters,
+// and so does the program's page with the longest ones.
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QListWidget>
 #include <QScreen>
 #include <QTabBar>
 #include <QTextLayout>
 
 #include "Catalogue.h"
+#include "ConnectionPage.h"
 #include "LetterScale.h"
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void everyLetterHasAGlyph();
     void pageShowsItsTexts_data() { addRows(); }
     void pageShowsItsTexts();
+    void ownPageShowsItsTexts_data() { addRows(); }
+    void ownPageShowsItsTexts();
     void dialogShowsItsTexts_data() { addRows(); }
     void dialogShowsItsTexts();
 
@@ -100,6 +105,28 @@ void WidthsTest::pageShowsItsTexts()
     const PluginWindows windows;
     QVERIFY(windows.settings());
     QVERIFY(QTest::qWaitForWindowExposed(windows.settings()));
+    const QStringList cut = cutTexts(windows.settings());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+}
+
+void WidthsTest::ownPageShowsItsTexts()
+{
+    QFETCH(QString, language);
+    QFETCH(double, points);
+    useFont(points);
+    const ShownLanguage shown(language);
+    const PluginWindows windows;
+    QVERIFY(windows.settings());
+    ConnectionChoice choice;
+    choice.plans = {{"1", "Home"}};
+    ConnectionPage* const page = new ConnectionPage(choice, true);
+    windows.settings()->addPage(page);
+    windows.settings()->findChild<QListWidget*>()->setCurrentRow(1);
+    QVERIFY(QTest::qWaitForWindowExposed(windows.settings()));
+    // Plans come when the page shows already.
+    page->setPlans({{"2", "Work"}}, true);
+    QCoreApplication::processEvents();
+    QVERIFY(page->isVisible());
     const QStringList cut = cutTexts(windows.settings());
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
 }

@@ -32,6 +32,11 @@ private Q_SLOTS:
     void userIsNotAskedWhileThereIsAService();
     void usersWordEndsWhenTheServiceComes();
     void serviceLostAndReturned();
+    void anotherChoiceIsNoNews_data();
+    void anotherChoiceIsNoNews();
+    void anotherChoiceEndsWhatWasUnderWay();
+    void anotherChoiceKeepsTheTime();
+    void anotherChoiceEndsTheUsersWord();
     void sleepIsPassedOn();
     void waitsAMinuteAfterSleep();
 
@@ -294,6 +299,111 @@ void ConnectionMonitorTest::serviceLostAndReturned()
     m_source->current.id = "b";
     m_source->setAvailable(true);
     QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::anotherChoiceIsNoNews_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<bool>("isKnown");
+    const QString none;
+    for (const bool isKnown : {true, false}) {
+        const char* const when = isKnown ? "at once" : "later";
+        QTest::addRow("the same, %s", when) << "a"
+                                            << "a" << isKnown;
+        QTest::addRow("another, %s", when) << "a"
+                                           << "b" << isKnown;
+        QTest::addRow("up, %s", when) << none << "b" << isKnown;
+        QTest::addRow("down, %s", when) << "a" << none << isKnown;
+        QTest::addRow("never up, %s", when) << none << none << isKnown;
+    }
+}
+
+void ConnectionMonitorTest::anotherChoiceIsNoNews()
+{
+    QFETCH(const QString, before);
+    QFETCH(const QString, after);
+    QFETCH(const bool, isKnown);
+    start();
+    m_source->become(before);
+    m_told.clear();
+    auto made = std::make_unique<FakeSource>();
+    m_source = made.get();
+    m_source->become(after);
+    m_source->known = m_source->available = isKnown;
+    m_monitor->start(std::move(made));
+    m_source->known = true;
+    if (!isKnown)
+        m_source->setAvailable(true);
+    QCOMPARE(m_monitor->state().isUp, !after.isEmpty());
+    QVERIFY(!m_monitor->findChild<QTimer*>()->isActive());
+    QVERIFY(!m_monitor->wasUpBefore());
+    QCOMPARE(m_told, QStringList());
+    // What happens from now on is.
+    m_source->become(QString());
+    m_monitor->start(nullptr);
+    m_monitor->setManuallyUp(true);
+    QCOMPARE(m_told, QStringList("UP up and in the Internet"));
+}
+
+void ConnectionMonitorTest::anotherChoiceEndsWhatWasUnderWay()
+{
+    start();
+    const QTimer* const deadline = m_monitor->findChild<QTimer*>();
+    m_source->become("a", ConnectionState::Reach::Limited);
+    QVERIFY(deadline->isActive());
+    auto made = std::make_unique<FakeSource>();
+    FakeSource* const asked = made.get();
+    m_monitor->start(std::move(made));
+    QVERIFY(!deadline->isActive());
+    asked->answersAtOnce = false;
+    asked->become("b");
+    QCOMPARE(asked->questions, 1);
+    made = std::make_unique<FakeSource>();
+    made->become("c");
+    FakeSource* const last = made.get();
+    m_monitor->start(std::move(made));
+    // The answer to a question that nobody asked this one.
+    Q_EMIT last->answered(true);
+    QCOMPARE(m_told, QStringList());
+}
+
+void ConnectionMonitorTest::anotherChoiceKeepsTheTime()
+{
+    const auto startWith = [this](const QString& id) {
+        auto made = std::make_unique<FakeSource>();
+        m_source = made.get();
+        m_source->become(id);
+        m_monitor->start(std::move(made));
+    };
+    startWith("a");
+    QVERIFY(m_monitor->wasUpBefore());
+    startWith("a");
+    QVERIFY(m_monitor->wasUpBefore());
+    startWith("b");
+    QVERIFY(!m_monitor->wasUpBefore());
+    QVERIFY(!m_monitor->upSince().isValid());
+    m_source->become("c");
+    const QDateTime since = m_monitor->upSince();
+    QVERIFY(since.isValid());
+    startWith("c");
+    QCOMPARE(m_monitor->upSince(), since);
+    auto silent = std::make_unique<FakeSource>();
+    silent->known = silent->available = false;
+    m_monitor->start(std::move(silent));
+    QVERIFY(!m_monitor->upSince().isValid());
+}
+
+void ConnectionMonitorTest::anotherChoiceEndsTheUsersWord()
+{
+    m_monitor->start(nullptr);
+    m_monitor->setManuallyUp(true);
+    QVERIFY(m_monitor->state().isUp);
+    m_made->available = false;
+    m_monitor->start(std::move(m_made));
+    QVERIFY(!m_monitor->state().isUp);
+    m_monitor->setManuallyUp(true);
+    QCOMPARE(m_told.size(), 2);
 }
 
 void ConnectionMonitorTest::sleepIsPassedOn()

@@ -265,9 +265,8 @@ void NetworkChoiceTest::checksForTenSeconds()
     QTRY_COMPARE(source.state().reach, Reach::Checking);
     clock.start();
     bool isTold = false;
-    connect(&source, &ConnectionSource::changed, this, [&isTold] { isTold = true; });
+    connect(&source, &ConnectionSource::changed, this, [&] { isTold = source.state().reach == Reach::Limited; });
     QTRY_VERIFY_WITH_TIMEOUT(isTold, 60000);
-    QCOMPARE(source.state().reach, Reach::Limited);
     QVERIFY2(clock.elapsed() > NetworkManagerSource::checkingTime / 2, qPrintable(QString::number(clock.elapsed())));
     // It is the same connection still, so this is no first look.
     network.set(PlayedNetwork::manager, "Connectivity", 4U);

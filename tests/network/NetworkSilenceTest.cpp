@@ -67,7 +67,7 @@ void NetworkSilenceTest::heardAtStart()
     start();
     QVERIFY(m_source->isAvailable());
     QCOMPARE(SourceText::of(m_source->state()), "up 1, coming 0, reach 4, id \"one\", name \"Mobile plan\", "
-                                                "device \"wwan0\", operator \"\"");
+                                                "device \"wwan0\", operator \"\", in its place 0");
 }
 
 void NetworkSilenceTest::knowsNothingBeforeTheFirstAnswer()

@@ -18,6 +18,7 @@ const QString PlayedNetwork::modem = manager + "/Devices/1";
 const QString PlayedNetwork::bluetooth = manager + "/ActiveConnection/2";
 const QString PlayedNetwork::telephone = manager + "/Devices/2";
 const QString PlayedNetwork::stored = manager + "/Settings/2";
+const QString PlayedNetwork::settings = manager + "/Settings";
 const QString PlayedModems::modem = "/org/freedesktop/ModemManager1/Modem/0";
 const QString PlayedModems::mobileNetwork = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 
@@ -182,10 +183,19 @@ QDBusMessage PlayedService::answerTo(const QDBusMessage& question) const
     if (!m_objects.contains(question.path()))
         return question.createErrorReply(QDBusError::UnknownObject, "played");
     const QVariantMap values = m_objects.value(question.path());
+    if (question.member() == "GetAll")
+        return question.createReply(values);
     if (question.member() == "Get")
         return question.createReply(
             QVariant::fromValue(QDBusVariant(values.value(question.arguments().value(1).toString(), 0U))));
-    return question.createReply(QVariant::fromValue(Sections({{"bluetooth", values}})));
+    if (question.member() == "ListConnections")
+        return question.createReply(values.value("Connections"));
+    Sections sections;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const int dot = int(value.key().indexOf('.'));
+        sections[dot < 0 ? "bluetooth" : value.key().left(dot)].insert(value.key().mid(dot + 1), value.value());
+    }
+    return question.createReply(QVariant::fromValue(sections));
 }
 
 PlayedNetwork::PlayedNetwork()
@@ -214,6 +224,10 @@ PlayedNetwork::PlayedNetwork()
     addTelephone(2);
     set(telephone, "Interface", "bnep0");
     set(stored, "type", "dun");
+    set(stored, "connection.type", "bluetooth");
+    set(stored, "connection.id", "Telephone");
+    set(stored, "connection.uuid", "two");
+    set(settings, "Connections", paths({QDBusObjectPath(stored)}));
     tellChanges(); // to nobody
 }
 
@@ -241,6 +255,7 @@ PlayedModems::PlayedModems()
     : PlayedService("org.freedesktop.ModemManager1")
 {
     set(modem, "OperatorName", "Northern Mobile");
+    set(modem, "RegistrationState", 1U);
 }
 
 QString PlayedModems::interfaceOf(const QString&) const

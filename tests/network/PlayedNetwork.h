@@ -21,7 +21,10 @@ public:
     /** Leaves the bus, as when it was killed. */
     ~PlayedService() override;
 
-    /** Gives an object this property, by the object's own or a new value. */
+    /**
+     * Gives an object this property, by the object's own or a new value. One of a stored connection is in the section
+     * "bluetooth", or in that which its name begins with, such as "connection.id".
+     */
     void set(const QString& path, const QString& name, const QVariant& value);
     void remove(const QString& path, const QString& name);
     void removeObject(const QString& path);
@@ -75,7 +78,7 @@ private:
 class PlayedNetwork : public PlayedService
 {
 public:
-    static const QString name, objects, manager, mobile, modem, telephone, bluetooth, stored;
+    static const QString name, objects, manager, mobile, modem, telephone, bluetooth, stored, settings;
 
     PlayedNetwork();
 
@@ -86,7 +89,7 @@ protected:
     QString interfaceOf(const QString& path) const override;
 };
 
-/** ModemManager with the modem of PlayedNetwork, registered with "Northern Mobile". */
+/** ModemManager with the modem of PlayedNetwork, registered with "Northern Mobile", at home. */
 class PlayedModems : public PlayedService
 {
 public:
@@ -95,6 +98,7 @@ public:
     PlayedModems();
 
     void tellOperator(const QVariant& operatorName) { tell(modem, mobileNetwork, {{"OperatorName", operatorName}}); }
+    void tellRegistration(const QVariant& state) { tell(modem, mobileNetwork, {{"RegistrationState", state}}); }
 
 protected:
     QString interfaceOf(const QString& path) const override;
