@@ -3,14 +3,17 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
 
 #include <memory>
 
+#include "ConnectionDecisions.h"
 #include "ConnectionKind.h"
 #include "ConnectionMonitor.h"
+#include "Decisions.h"
 #include "DesktopNotices.h"
 #include "DialupService.h"
 #include "Gatekeeper.h"
@@ -30,6 +33,7 @@ class PluginMessages;
 class RunningProgram;
 class Tray;
 class Translator;
+class WhyWindow;
 
 /** The program put together: container, services, plug-ins and window, in the order in which they need each other. */
 class Host
@@ -88,11 +92,15 @@ private:
     void giveIcons(const QList<QAction*>& actions);
     void loadFolder(const QString& pluginFolder);
     void connectWindow();
+    void tellStarted();
+    void tellConnectionChanged(bool isUp, const QString& reason);
+    void tellPassedOver(const QString& mark);
     void announce();
     void showConnection();
     void windowClosed();
     void keepWindowPlace();
     void quit();
+    void showWhy();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
     bool isSeen() const;
@@ -103,7 +111,9 @@ private:
     Translator& m_translator;
     Gatekeeper m_gatekeeper;
     PluginContainer m_container;
+    Decisions m_decisions;
     ConnectionMonitor m_monitor;
+    ConnectionDecisions m_connectionDecisions; ///< hears of a connection before plug-ins do
     DialupService m_dialupService;
     NotifyService m_notifyService;
     MenuManager m_menuManager;
@@ -117,6 +127,7 @@ private:
     QStringList m_sessionArguments;
     std::unique_ptr<ConnectionTexts> m_texts;
     std::unique_ptr<MainWindow> m_window;
+    QPointer<WhyWindow> m_whyWindow; ///< the window's; null while it is closed
     std::unique_ptr<PluginMessages> m_pluginMessages;
     std::unique_ptr<Tray> m_tray;
     std::unique_ptr<RunningProgram> m_runningProgram;

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 // SPDX-License-Identifier: MIT
 
-// The plug-in's windows, whose sizes are fixed in pixels, show their texts whole in every language and size of letters.
+// The plug-in's windows, whose sizes are fixed in pixels, and that of the decisions show their texts whole in every
+// language and size of letters.
 
 #include <QApplication>
 #include <QFontInfo>
@@ -10,11 +11,13 @@
 #include <QTextLayout>
 
 #include "Catalogue.h"
+#include "Decisions.h"
 #include "LetterScale.h"
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
 #include "Test.h"
 #include "TextFit.h"
+#include "WhyWindow.h"
 
 class WidthsTest : public QObject
 {
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void everyLetterHasAGlyph();
     void pageShowsItsTexts_data() { addRows(); }
     void pageShowsItsTexts();
+    void whyWindowShowsItsTexts_data() { addRows(); }
+    void whyWindowShowsItsTexts();
     void dialogShowsItsTexts_data() { addRows(); }
     void dialogShowsItsTexts();
 
@@ -101,6 +106,21 @@ void WidthsTest::pageShowsItsTexts()
     QVERIFY(windows.settings());
     QVERIFY(QTest::qWaitForWindowExposed(windows.settings()));
     const QStringList cut = cutTexts(windows.settings());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+}
+
+void WidthsTest::whyWindowShowsItsTexts()
+{
+    QFETCH(QString, language);
+    QFETCH(double, points);
+    useFont(points);
+    const ShownLanguage shown(language);
+    QVERIFY(shown.isKnown());
+    const Decisions decisions;
+    WhyWindow window(decisions, nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QStringList cut = cutTexts(&window);
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
 }
 
