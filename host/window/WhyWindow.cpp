@@ -31,6 +31,8 @@ WhyWindow::WhyWindow(const Decisions& decisions, QWidget* parent)
     , m_close(new QPushButton)
 {
     m_hint->setWordWrap(true);
+    // The marks of some scripts are higher than the font says.
+    m_hint->setMargin(2);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);

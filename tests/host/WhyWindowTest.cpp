@@ -23,6 +23,7 @@ private Q_SLOTS:
 
     void listsNewestFirst();
     void followsTheListWhileItIsOpen();
+    void makesRoomForNewRows();
     void showsNamesAsTheyStand();
     void keepsTheDirectionOfNames();
     void copiesAll();
@@ -95,6 +96,21 @@ void WhyWindowTest::followsTheListWhileItIsOpen()
     QCOMPARE(names().constLast(), "2");
     QCOMPARE(list().selectedItems().size(), 1);
     QCOMPARE(list().selectedItems().constFirst()->text(1), "200");
+}
+
+void WhyWindowTest::makesRoomForNewRows()
+{
+    add("A");
+    const int narrow = list().columnWidth(1);
+    add(QString(30, 'm'));
+    const int wide = list().columnWidth(1);
+    QVERIFY(wide > narrow);
+    // But not for any.
+    add(QString(100, 'm'));
+    QVERIFY(list().columnWidth(1) < 3 * wide);
+    list().setColumnWidth(1, 500);
+    add("B");
+    QCOMPARE(list().columnWidth(1), 500);
 }
 
 void WhyWindowTest::showsNamesAsTheyStand()
