@@ -27,7 +27,7 @@ bool DecisionsOnBus::ask(const QString& userFolder, QString& text)
     return reply.isValid();
 }
 
-QString DecisionsOnBus::List() const
+QString DecisionsOnBus::List()
 {
     return Decisions::text(m_decisions.newestFirst());
 }

@@ -31,7 +31,7 @@ public:
 
 public Q_SLOTS:
     // By its name on the bus.
-    QString List() const;
+    QString List();
 
 private:
     const Decisions& m_decisions;

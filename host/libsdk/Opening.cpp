@@ -6,7 +6,7 @@
 #include "OpenedLink.h"
 #include "OpeningCause.h"
 
-static Opening::Listener& currentListener()
+static Opening::Listener& openingListener()
 {
     static Opening::Listener listener;
     return listener;
@@ -51,12 +51,12 @@ void Opening::fail(const QString& reason) const
 
 void Opening::setListener(const Listener& listener)
 {
-    currentListener() = listener;
+    openingListener() = listener;
 }
 
 void Opening::tell(const QString& outcome) const
 {
-    if (!currentListener())
+    if (!openingListener())
         return;
     Decision decision;
     decision.time = QDateTime::currentDateTime();
@@ -66,5 +66,5 @@ void Opening::tell(const QString& outcome) const
         decision.what = tr("Unknown link");
     decision.cause = m_cause;
     decision.outcome = outcome;
-    currentListener()(decision);
+    openingListener()(decision);
 }

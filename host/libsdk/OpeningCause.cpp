@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 
-static const OpeningCause*& innermost()
+static const OpeningCause*& innermostCause()
 {
     static const OpeningCause* cause = nullptr;
     return cause;
@@ -13,17 +13,18 @@ static const OpeningCause*& innermost()
 
 OpeningCause::OpeningCause(const QString& words)
     : m_words(words)
-    , m_former(innermost())
+    , m_former(innermostCause())
 {
-    innermost() = this;
+    innermostCause() = this;
 }
 
 OpeningCause::~OpeningCause()
 {
-    innermost() = m_former;
+    innermostCause() = m_former;
 }
 
 QString OpeningCause::current()
 {
-    return innermost() ? innermost()->m_words : QCoreApplication::translate("OpeningCause", "A plug-in asked for it");
+    return innermostCause() ? innermostCause()->m_words
+                            : QCoreApplication::translate("OpeningCause", "A plug-in asked for it");
 }

@@ -34,5 +34,5 @@ void ConnectionDecisions::add(const QString& reason, const QString& outcome)
     rememberName();
     const QString sentence = QCoreApplication::translate("TransitionRules", qUtf8Printable(reason));
     m_decisions.add({QDateTime::currentDateTime(), m_name.isEmpty() ? tr("Connection") : m_name,
-                     QLocale().toUpper(sentence.left(1)) + sentence.mid(1), outcome});
+                     QLocale().toUpper(sentence.at(0)) + sentence.mid(1), outcome});
 }

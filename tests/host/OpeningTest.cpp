@@ -73,20 +73,14 @@ void OpeningTest::namesWhatIsOpened_data()
                              << "Unknown link";
 }
 
-static QString knownName;
-
-static QString nameOf(const QString&)
-{
-    return knownName;
-}
-
 void OpeningTest::namesWhatIsOpened()
 {
     QFETCH(QString, link);
     QFETCH(QString, target);
-    knownName = link;
     OpenedLink::Known known;
-    known.nameOf = nameOf;
+    known.nameOf = [&link](const QString&) {
+        return link;
+    };
     OpenedLink::setKnown(known);
     const Opening opening(target);
     QCOMPARE(opening.link(), link);
