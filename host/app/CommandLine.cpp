@@ -33,9 +33,11 @@ public:
         , hidden(QStringLiteral("hidden"),
                  tr("Wait in the tray without a window; where there is no tray, the window shows."))
         , listLinks(QStringLiteral("list-links"), tr("Print the quick links and exit. Needs no graphical session."))
+        , why(QStringLiteral("why"),
+              tr("Print which links the running program opened or did not, and why, newest first, and exit."))
     {
         parser.setApplicationDescription(tr("Connection manager with quick links."));
-        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks});
+        parser.addOptions({help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks, why});
     }
 
     /** What is wrong with the arguments; empty when nothing is. */
@@ -62,10 +64,12 @@ public:
             return CommandLine::ShowHelp;
         if (parser.isSet(version))
             return CommandLine::ShowVersion;
-        return parser.isSet(listLinks) ? CommandLine::ListLinks : CommandLine::ShowWindow;
+        if (parser.isSet(listLinks))
+            return CommandLine::ListLinks;
+        return parser.isSet(why) ? CommandLine::ShowDecisions : CommandLine::ShowWindow;
     }
 
-    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks;
+    QCommandLineOption help, version, dataFolder, pluginFolder, language, connection, hidden, listLinks, why;
     QCommandLineParser parser;
 };
 } // namespace
@@ -123,6 +127,16 @@ QString CommandLine::helpText()
 QString CommandLine::runningAlready(qint64 process, const QString& folder)
 {
     return Options::tr("It is running already, as process %1, with the folder %2.").arg(process).arg(folder);
+}
+
+QString CommandLine::notRunning(const QString& folder)
+{
+    return Options::tr("No running program with the folder %1 can be asked.").arg(folder);
+}
+
+QString CommandLine::noDecisionsText()
+{
+    return Options::tr("Nothing was decided yet") + QLatin1Char('\n');
 }
 
 QString CommandLine::versionText()

@@ -12,7 +12,7 @@
 
 /** What the user asked for on the command line. */
 struct CommandLine {
-    enum Action { ShowWindow, ListLinks, ShowHelp, ShowVersion, Refuse };
+    enum Action { ShowWindow, ListLinks, ShowDecisions, ShowHelp, ShowVersion, Refuse };
 
     Action action = ShowWindow;
     QString error;                            ///< with Refuse: one line that says what is wrong
@@ -39,6 +39,12 @@ struct CommandLine {
 
     /** What is said where the program runs already with this folder, as the process with this number. */
     static QString runningAlready(qint64 process, const QString& folder);
+
+    /** What is said where no program with this folder can be asked for its decisions. */
+    static QString notRunning(const QString& folder);
+
+    /** The answer to --why of a program that has decided nothing yet. */
+    static QString noDecisionsText();
 
     /** The answer to --version. */
     static QString versionText();

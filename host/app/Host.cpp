@@ -12,6 +12,7 @@
 #include "MainWindow.h"
 #include "Notice.h"
 #include "OpenedLink.h"
+#include "Opening.h"
 #include "Places.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
@@ -21,6 +22,7 @@
 #include "Tray.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
+#include "WhyWindow.h"
 
 /** The one that was asked for, or else that of the installation. */
 static QString folderOfPlugins(const QString& asked)
@@ -30,6 +32,7 @@ static QString folderOfPlugins(const QString& asked)
 
 Host::Host(Translator& translator)
     : m_translator(translator)
+    , m_connectionDecisions(m_monitor, m_decisions)
     , m_dialupService(m_monitor)
     , m_notifyService(m_container)
     , m_menuManager(m_container)
@@ -41,6 +44,7 @@ Host::Host(Translator& translator)
                           [this](const QString& address) {
                               return m_links.nameOf(address);
                           }});
+    Opening::setListener([this](const Decision& decision) { m_decisions.add(decision); });
     m_container.setGate(&m_gatekeeper);
     installPluginContainer(&m_container);
     registerComponent(HostContract::notifyService, &m_notifyService);
@@ -53,6 +57,7 @@ Host::~Host()
     setNoticeOutlet(nullptr);
     EditLinkButton::setEditor(nullptr);
     OpenedLink::setKnown({});
+    Opening::setListener(nullptr);
     // The menu's entries point into the plug-ins, and pages of plug-ins may stand in the window.
     m_runningProgram.reset();
     m_tray.reset();

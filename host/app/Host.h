@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -11,7 +12,9 @@
 #include <optional>
 
 #include "ConnectionChoice.h"
+#include "ConnectionDecisions.h"
 #include "ConnectionMonitor.h"
+#include "Decisions.h"
 #include "DesktopNotices.h"
 #include "DialupService.h"
 #include "Gatekeeper.h"
@@ -33,6 +36,7 @@ class ProgramPage;
 class RunningProgram;
 class Tray;
 class Translator;
+class WhyWindow;
 
 /** The program put together: container, services, plug-ins and window, in the order in which they need each other. */
 class Host
@@ -91,6 +95,9 @@ private:
     void giveIcons(const QList<QAction*>& actions);
     void loadFolder(const QString& pluginFolder);
     void connectWindow();
+    void tellStarted();
+    void tellConnectionChanged(bool isUp, const QString& reason);
+    void tellPassedOver(const QString& mark);
     void announce();
     void showConnection();
     void windowClosed();
@@ -98,6 +105,7 @@ private:
     void quit();
     void follow(const ConnectionChoice& choice);
     ProgramPage* newConnectionPage();
+    void showWhy();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
     bool isSeen() const;
@@ -108,7 +116,9 @@ private:
     Translator& m_translator;
     Gatekeeper m_gatekeeper;
     PluginContainer m_container;
+    Decisions m_decisions;
     ConnectionMonitor m_monitor;
+    ConnectionDecisions m_connectionDecisions; ///< hears of a connection before plug-ins do
     DialupService m_dialupService;
     NotifyService m_notifyService;
     MenuManager m_menuManager;
@@ -125,6 +135,7 @@ private:
     std::unique_ptr<ConnectionTexts> m_texts;
     ConnectionPanel* m_panel = nullptr; ///< the window's
     std::unique_ptr<MainWindow> m_window;
+    QPointer<WhyWindow> m_whyWindow; ///< the window's; null while it is closed
     std::unique_ptr<PluginMessages> m_pluginMessages;
     std::unique_ptr<Tray> m_tray;
     std::unique_ptr<RunningProgram> m_runningProgram;

@@ -11,10 +11,13 @@
 #include "BringToFront.h"
 #include "ConnectionPanel.h"
 #include "ConnectionTexts.h"
+#include "DecisionsOnBus.h"
 #include "EditLinkButton.h"
+#include "IQuickLinkPlugin.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "Notice.h"
+#include "OpeningCause.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
 #include "RunningProgram.h"
@@ -23,6 +26,7 @@
 #include "Tray.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
+#include "WhyWindow.h"
 
 void Host::showWindow(std::optional<ConnectionKind> kind, bool isHidden)
 {
@@ -72,7 +76,7 @@ void Host::connectWindow()
         // Not before: it waits for the disk.
         m_linkKeeper.watch(m_window.get());
         showRefusals();
-        PluginNotifications::tellStarted(m_container);
+        tellStarted();
         announce();
         m_icons.start();
     });
@@ -87,17 +91,39 @@ void Host::connectWindow()
                      [this] { m_pluginMessages->ask(m_gatekeeper.leftOut().all()); });
     QObject::connect(m_pluginMessages.get(), &PluginMessages::decided, window,
                      [this](bool isLoadedAgain) { decideAboutLeftOut(isLoadedAgain); });
+    QObject::connect(window, &MainWindow::whyRequested, window, [this] { showWhy(); });
     QObject::connect(window, &MainWindow::closed, window, [this] { windowClosed(); });
     QObject::connect(window, &MainWindow::hidden, window, [this] { keepWindowPlace(); });
     QObject::connect(window, &MainWindow::quitRequested, window, [this] { quit(); });
     QObject::connect(m_tray.get(), &Tray::quitRequested, window, [this] { quit(); });
     QObject::connect(&m_monitor, &ConnectionMonitor::changed, window, [this] { showConnection(); });
-    QObject::connect(&m_monitor, &ConnectionMonitor::announced, window, [this](bool isUp, const QString& reason) {
-        PluginNotifications::tellConnectionChanged(m_container, isUp, reason);
-    });
+    QObject::connect(&m_monitor, &ConnectionMonitor::announced, window,
+                     [this](bool isUp, const QString& reason) { tellConnectionChanged(isUp, reason); });
     m_sleepWatch = std::make_unique<SleepWatch>();
     QObject::connect(m_sleepWatch.get(), &SleepWatch::fallingAsleep, &m_monitor, &ConnectionMonitor::fallAsleep);
     QObject::connect(m_sleepWatch.get(), &SleepWatch::wokeUp, &m_monitor, &ConnectionMonitor::wakeUp);
+}
+
+void Host::tellStarted()
+{
+    const OpeningCause cause(QCoreApplication::translate("Host", "The program started"));
+    PluginNotifications::tellStarted(m_container);
+    tellPassedOver(QStringLiteral("startmobile"));
+}
+
+void Host::tellConnectionChanged(bool isUp, const QString& reason)
+{
+    const OpeningCause cause(QCoreApplication::translate("Host", "A connection came up"));
+    PluginNotifications::tellConnectionChanged(m_container, isUp, reason);
+    if (isUp)
+        tellPassedOver(QStringLiteral("startconnect"));
+}
+
+/** Where there is no plug-in for links, none opened in the place of another. */
+void Host::tellPassedOver(const QString& mark)
+{
+    if (!m_container.all<IQuickLinkPlugin>().isEmpty())
+        m_links.tellPassedOver(mark);
 }
 
 void Host::giveIcons(const QList<QAction*>& actions)
@@ -143,6 +169,7 @@ void Host::announce()
     MainWindow* const window = m_window.get();
     m_runningProgram = std::make_unique<RunningProgram>(UserFolder::path());
     RunningProgram* const program = m_runningProgram.get();
+    new DecisionsOnBus(m_decisions, *program);
     QObject::connect(program, &RunningProgram::windowRequested, window,
                      [window](const QByteArray& token) { bringToFront(window, token); });
     // When the caller has its answer. One dialog of settings is enough.
@@ -156,6 +183,15 @@ void Host::announce()
     QObject::connect(
         program, &RunningProgram::quitRequested, window, [this] { quit(); }, Qt::QueuedConnection);
     program->announce();
+}
+
+void Host::showWhy()
+{
+    if (!m_whyWindow) {
+        m_whyWindow = new WhyWindow(m_decisions, m_window.get());
+        m_whyWindow->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    bringToFront(m_whyWindow, QByteArray());
 }
 
 void Host::showConnection()

@@ -8,6 +8,8 @@
 #include <algorithm>
 
 #include "InternetAddress.h"
+#include "OpenedLink.h"
+#include "Opening.h"
 
 namespace
 {
@@ -49,6 +51,21 @@ QString LinkAddresses::nameOf(const QString& address) const
     const auto found = std::find_if(m_links.begin(), m_links.end(),
                                     [&address](const LinkItems::Fields& link) { return leadsTo(link, address); });
     return found == m_links.end() ? QString() : name(*found);
+}
+
+void LinkAddresses::tellPassedOver(const QString& mark) const
+{
+    QList<int> marked;
+    for (int place = 0; place < m_links.size(); ++place) {
+        const bool isMarked = m_links.at(place).value(mark) == QLatin1String("1");
+        if (isMarked && m_links.at(place).value(QStringLiteral("type")) == QLatin1String("IDS_LINK_TYPE_INTERNET"))
+            marked.append(place);
+    }
+    const QList<int> passedOver = marked.mid(0, marked.size() - 1);
+    for (const int place : passedOver) {
+        const OpenedLink link(name(m_links.at(place)), place);
+        Opening(url(m_links.at(place))).refuse(tr("of several marked web addresses only the lowest opens"));
+    }
 }
 
 bool LinkAddresses::haveParameters() const

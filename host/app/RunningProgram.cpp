@@ -14,7 +14,6 @@
 #include "UserFolder.h"
 
 static const QString baseName = QStringLiteral("com.norvik.vellumconnect");
-static const QString path = QStringLiteral("/com/norvik/vellumconnect");
 static const QString interface = QStringLiteral("org.freedesktop.Application");
 static const QString tokenKey = QStringLiteral("activation-token");
 static const QString startupKey = QStringLiteral("desktop-startup-id");
@@ -56,7 +55,7 @@ RunningProgram::~RunningProgram()
         return;
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.unregisterService(m_name);
-    bus.unregisterObject(path);
+    bus.unregisterObject(path());
 }
 
 QString RunningProgram::nameOf(const QString& userFolder)
@@ -68,11 +67,18 @@ QString RunningProgram::nameOf(const QString& userFolder)
     return baseName + QStringLiteral(".folder") + QString::fromLatin1(digest.toHex().left(16));
 }
 
+QString RunningProgram::path()
+{
+    return QStringLiteral("/com/norvik/vellumconnect");
+}
+
 bool RunningProgram::announce()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    m_isAnnounced = bus.isConnected() && bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots) &&
-                    bus.registerService(m_name);
+    m_isAnnounced =
+        bus.isConnected() &&
+        bus.registerObject(path(), this, QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors) &&
+        bus.registerService(m_name);
     if (!m_isAnnounced)
         qWarning("No other program reaches this one on the session bus");
     return m_isAnnounced;
@@ -81,7 +87,8 @@ bool RunningProgram::announce()
 bool RunningProgram::handOver(const QString& userFolder)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    QDBusMessage call = QDBusMessage::createMethodCall(nameOf(userFolder), path, interface, QStringLiteral("Activate"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(nameOf(userFolder), path(), interface, QStringLiteral("Activate"));
     call.setArguments({ownPlatformData()});
     // The one that runs is meant, not another that the bus would start.
     call.setAutoStartService(false);

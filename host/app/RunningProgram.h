@@ -18,7 +18,10 @@ class RunningProgram : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /** The program that keeps its data in userFolder, an absolute path. Nobody reaches it before announce(). */
+    /**
+     * The program that keeps its data in userFolder, an absolute path. Nobody reaches it before announce(), nor the
+     * adaptors (QDBusAbstractAdaptor) that it has by then.
+     */
     explicit RunningProgram(const QString& userFolder);
 
     /** The end of being reached. */
@@ -38,6 +41,9 @@ public:
 
     /** The name on the bus of the program with this folder. */
     static QString nameOf(const QString& userFolder);
+
+    /** The object of that name by which the program is reached. */
+    static QString path();
 
 public Q_SLOTS:
     // What the interface has, by its names.

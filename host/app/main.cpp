@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "CommandLine.h"
+#include "DecisionsOnBus.h"
 #include "DisplayChoice.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
@@ -44,6 +45,15 @@ int handOver(qint64 owner)
     if (RunningProgram::handOver(UserFolder::path()))
         return 0;
     return refuse(CommandLine::runningAlready(owner, UserFolder::path()), cannotStart);
+}
+
+/** What the program that runs already decided; one that does not run has forgotten. */
+int printDecisions()
+{
+    QString text;
+    if (!DecisionsOnBus::ask(UserFolder::path(), text))
+        return refuse(CommandLine::notRunning(UserFolder::path()), cannotStart);
+    return print(text.isEmpty() ? CommandLine::noDecisionsText() : text);
 }
 
 /** Starts anew, once, where the toolkit has to enlarge everything for the desktop's letters. */
@@ -114,6 +124,8 @@ int main(int argc, char** argv)
         return print(CommandLine::helpText());
     if (commandLine.action == CommandLine::ShowVersion)
         return print(CommandLine::versionText());
+    if (commandLine.action == CommandLine::ShowDecisions)
+        return printDecisions();
     if (display.problem != DisplayChoice::None)
         return refuse(display.error(), cannotStart);
 

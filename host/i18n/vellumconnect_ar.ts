@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>عرض الروابط التي فتحها البرنامج الجاري أو لم يفتحها وأسباب ذلك، الأحدث أولًا، ثم الخروج.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>لا يوجد برنامج قيد التشغيل بالمجلد %1 يمكن سؤاله.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>لم يُقرَّر شيء بعد</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>عرض هذه المساعدة ثم الخروج.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>ألغِ</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>لم تُفتح روابط</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>تُفتح الروابط المحددة للاتصال</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>اتصال</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>تجوال؛ في انتظار شبكتك.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>جارٍ التحقق…</translation>
     </message>
 </context>
 <context>
@@ -526,6 +557,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>بدأ البرنامج</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>قام اتصال</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -534,6 +576,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>لغة ال&amp;نظام</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>من عدة عناوين ويب محددة لا يُفتح إلا الأدنى</translation>
     </message>
 </context>
 <context>
@@ -549,6 +598,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>لقد وافقت عليه</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>لا يوجد ملف أو مجلد كهذا، أو لا يُسمح لك برؤيته:</translation>
@@ -603,6 +656,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;لماذا…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>عرض الروابط التي فُتحت أو لم تُفتح وأسباب ذلك</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>الروابط السريعة</translation>
@@ -711,6 +772,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>أنت اخترته</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>فتح %1</translation>
     </message>
@@ -724,6 +789,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>ا&amp;تركها كما هي</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>فُتح</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>سُئلت أولًا</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>لم يُفتح: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>فشل: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>رابط غير معروف</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>طلبه ملحق</translation>
     </message>
 </context>
 <context>
@@ -1022,6 +1117,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>كان قائمًا قبل بدء البرنامج</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>قائم، في انتظار الإنترنت</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>قائم ومتصل بالإنترنت</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>قائم، وتطلب بوابة تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>قائم، لكن دون إنترنت خلال 10 ث</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>انقطع قبل الإبلاغ عنه</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>حلّ محله اتصال آخر</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>منقطع، في انتظار عودته</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>منقطع</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>الخدمة غائبة، في انتظار عودتها</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>انتقل، وليس اتصالًا جديدًا</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>كان قائمًا قبل السكون، وليس اتصالًا جديدًا</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>بقي بعد إعادة تشغيل الخدمة، وليس اتصالًا جديدًا</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>كان قد انقطع ثانية عند السؤال، فلم يُبلَّغ عنه</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1034,6 +1190,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>يستمر Vellum Connect في العمل هنا. انقر الأيقونة لإظهار نافذته.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>ما فُتح ولماذا</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>ما تقرر بشأن الاتصالات والروابط، الأحدث أولًا. تُحفظ آخر %1 من القرارات في الذاكرة حتى نهاية البرنامج، ولا تُكتب في أي ملف.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>الوقت</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>الرابط أو الاتصال</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>السبب</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>ما حدث</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>إ&amp;غلاق</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Ausgeben, welche Links das laufende Programm geöffnet hat oder nicht, und warum, neueste zuerst, und beenden.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>Es läuft kein Programm mit dem Ordner %1, das gefragt werden kann.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Noch wurde nichts entschieden</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Diese Hilfe anzeigen und beenden.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Keine Links geöffnet</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Links für eine Verbindung öffnen sich</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Roaming; Warten auf Ihr eigenes Netz.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird geprüft&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>Das Programm wurde gestartet</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Eine Verbindung kam zustande</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -514,6 +556,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>&amp;Systemsprache</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>von mehreren so markierten Webadressen öffnet sich nur die unterste</translation>
     </message>
 </context>
 <context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Sie haben zugestimmt</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Diese Datei oder diesen Ordner gibt es nicht, oder Sie dürfen sie nicht sehen:</translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Warum&#xa0;…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Sehen, welche Links sich geöffnet haben oder nicht, und warum</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Schnellzugriff</translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Von Ihnen gewählt</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>%1 öffnen</translation>
     </message>
@@ -704,6 +769,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;So lassen</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Sie wurden zuerst gefragt</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Nicht geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Unbekannter Link</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Ein Plug-in wollte es</translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>bestand schon vor dem Start des Programms</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>verbunden, wartet auf das Internet</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>verbunden, mit Internet</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>verbunden, ein Portal verlangt eine Anmeldung</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>verbunden, aber 10 s ohne Internet</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>getrennt, bevor es gemeldet war</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>eine andere Verbindung hat übernommen</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>getrennt, wartet auf Rückkehr</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>getrennt</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>der Dienst ist weg, wartet auf Rückkehr</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>übergeben, keine neue Verbindung</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>bestand vor dem Ruhezustand, keine neue Verbindung</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>hat einen Neustart des Dienstes überstanden, keine neue Verbindung</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>war bei der Nachfrage wieder getrennt, nicht gemeldet</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1014,6 +1170,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect läuft hier weiter. Ein Klick auf das Symbol zeigt sein Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Was sich öffnete und warum</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Was über Verbindungen und Links entschieden wurde, neueste zuerst. Die letzten %1 Entscheidungen bleiben bis zum Programmende im Gedächtnis und kommen in keine Datei.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Link oder Verbindung</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Anlass</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Was geschah</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Schließen</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -258,6 +285,10 @@
     </message>
     <message>
         <source>Roaming; waiting for your own network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -513,6 +555,13 @@
     </message>
     <message>
         <source>&amp;System Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation type="unfinished"></translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation type="unfinished"></translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -703,6 +768,36 @@
     </message>
     <message>
         <source>Leave &amp;As It Is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1013,6 +1169,41 @@
     </message>
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

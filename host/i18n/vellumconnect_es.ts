@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Muestra qué enlaces abrió o no el programa en ejecución, y por qué, primero lo más reciente, y sale.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>No hay ningún programa en ejecución con la carpeta %1 al que preguntar.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Aún no se ha decidido nada</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Muestra esta ayuda y sale.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>No se abrieron enlaces</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Se abren los enlaces marcados para una conexión</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>En itinerancia; esperando su propia red.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Comprobando…</translation>
     </message>
 </context>
 <context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>El programa se inició</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Se estableció una conexión</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -514,6 +556,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>Idioma del &amp;sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>de varias direcciones web marcadas solo se abre la última de la lista</translation>
     </message>
 </context>
 <context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Usted lo aceptó</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>No existe este archivo o carpeta, o no tiene permiso para verlo:</translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Por qué…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Ver qué enlaces se abrieron o no, y por qué</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Enlaces rápidos</translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Usted lo eligió</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
     </message>
@@ -704,6 +769,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;Dejar así</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Abierto</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Se le preguntó primero</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>No abierto: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Falló: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Enlace desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Lo pidió un complemento</translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>ya estaba activa antes de iniciarse el programa</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>activa, a la espera de Internet</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>activa y con Internet</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>activa, y un portal pide iniciar sesión</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>activa, pero sin Internet durante 10 s</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>cayó antes de comunicarse</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>otra conexión tomó el relevo</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>caída, a la espera de que vuelva</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>caída</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>el servicio no está, a la espera de que vuelva</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>traspasada, no es una conexión nueva</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>estaba activa antes de la suspensión, no es una conexión nueva</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>sobrevivió a un reinicio del servicio, no es una conexión nueva</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>había vuelto a caer al preguntar, no se comunicó</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1014,6 +1170,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect sigue funcionando aquí. Haga clic en el icono para mostrar su ventana.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Qué se abrió y por qué</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Lo que se decidió sobre conexiones y enlaces, primero lo más reciente. Las últimas %1 decisiones se recuerdan hasta que termina el programa y no se escriben en ningún archivo.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Enlace o conexión</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Causa</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Qué se hizo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>C&amp;errar</translation>
     </message>
 </context>
 </TS>

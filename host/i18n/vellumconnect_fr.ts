@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Affiche les liens que le programme en cours a ouverts ou non, et pourquoi, du plus récent au plus ancien, et quitte.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>Aucun programme en cours avec le dossier %1 ne peut être interrogé.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Rien n’a encore été décidé</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Affiche cette aide et quitte.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Aucun lien ouvert</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Les liens marqués pour une connexion s’ouvrent</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Itinérance&#xa0;; en attente de votre propre réseau.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Vérification…</translation>
     </message>
 </context>
 <context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>Le programme a démarré</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Une connexion a été établie</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -514,6 +556,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>Langue du &amp;système</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>de plusieurs adresses web marquées, seule la plus basse s’ouvre</translation>
     </message>
 </context>
 <context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Vous avez accepté</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Ce fichier ou dossier n’existe pas, ou vous n’avez pas le droit de le voir&#xa0;:</translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Pourquoi…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Voir quels liens se sont ouverts ou non, et pourquoi</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Liens rapides</translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Vous l’avez choisi</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>Ouvrir %1</translation>
     </message>
@@ -704,6 +769,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;Laisser ainsi</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Ouvert</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>La question vous a d’abord été posée</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Non ouvert&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Échec&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Lien inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Un greffon l’a demandé</translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>était établie avant le démarrage du programme</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>établie, en attente d’Internet</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>établie, avec Internet</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>établie, un portail demande une identification</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>établie, mais sans Internet pendant 10 s</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>interrompue avant d’être signalée</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>une autre connexion a pris le relais</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>interrompue, en attente de son retour</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>interrompue</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>le service a disparu, en attente de son retour</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>relayée, pas une nouvelle connexion</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>était établie avant la mise en veille, pas une nouvelle connexion</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>a survécu à un redémarrage du service, pas une nouvelle connexion</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>était de nouveau interrompue à la vérification, non signalée</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1014,6 +1170,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect continue de fonctionner ici. Cliquez sur l’icône pour afficher sa fenêtre.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Ce qui s’est ouvert, et pourquoi</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Ce qui a été décidé des connexions et des liens, du plus récent au plus ancien. Les %1 dernières décisions sont gardées en mémoire jusqu’à la fin du programme, et ne sont écrites dans aucun fichier.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Lien ou connexion</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Cause</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>चल रहे प्रोग्राम ने कौन-से लिंक खोले या नहीं, और क्यों, सबसे नया पहले, यह दिखाकर बंद होता है।</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>फ़ोल्डर %1 वाला कोई चल रहा प्रोग्राम नहीं है जिससे पूछा जा सके।</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>अब तक कुछ तय नहीं हुआ</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>यह सहायता दिखाकर बंद होता है।</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>रद्द करें</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>कोई लिंक नहीं खुला</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>कनेक्शन के लिए चिह्नित लिंक खुलते हैं</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>कनेक्शन</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>रोमिंग; आपके अपने नेटवर्क की प्रतीक्षा है।</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>जाँच की जा रही है…</translation>
     </message>
 </context>
 <context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>प्रोग्राम शुरू हुआ</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>कनेक्शन बना</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -514,6 +556,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>सिस्टम की भाषा (&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>कई चिह्नित वेब पतों में से केवल सबसे नीचे वाला खुलता है</translation>
     </message>
 </context>
 <context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>आपने अनुमति दी</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>ऐसी कोई फ़ाइल या फ़ोल्डर नहीं है, या आपको इसे देखने की अनुमति नहीं है:</translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>क्यों (&amp;W)…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>देखें कि कौन-से लिंक खुले या नहीं, और क्यों</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>त्वरित लिंक</translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>आपने इसे चुना</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>%1 खोलें</translation>
     </message>
@@ -704,6 +769,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>ऐसे ही रहने दें (&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>खुला</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>पहले आपसे पूछा गया</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>नहीं खुला: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>विफल: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>अज्ञात लिंक</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>किसी प्लग-इन ने माँगा</translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>प्रोग्राम शुरू होने से पहले से जुड़ा था</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>जुड़ा है, इंटरनेट की प्रतीक्षा है</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>जुड़ा है, इंटरनेट के साथ</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>जुड़ा है, और एक पोर्टल लॉगिन माँगता है</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>जुड़ा है, पर 10 से॰ तक इंटरनेट नहीं</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>बताए जाने से पहले टूट गया</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>दूसरे कनेक्शन ने जगह ली</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>टूटा है, लौटने की प्रतीक्षा है</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>टूटा है</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>सेवा नहीं है, उसके लौटने की प्रतीक्षा है</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>सौंपा गया, नया कनेक्शन नहीं</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>सुप्त होने से पहले जुड़ा था, नया कनेक्शन नहीं</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>सेवा के दोबारा शुरू होने पर भी बना रहा, नया कनेक्शन नहीं</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>पूछने पर फिर टूटा था, बताया नहीं गया</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1014,6 +1170,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect यहाँ चलता रहता है। इसकी विंडो दिखाने के लिए आइकन पर क्लिक करें।</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>क्या खुला और क्यों</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>कनेक्शन और लिंक के बारे में जो तय हुआ, सबसे नया पहले। पिछले %1 निर्णय प्रोग्राम के अंत तक याद रहते हैं और किसी फ़ाइल में नहीं लिखे जाते।</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>समय</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>लिंक या कनेक्शन</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>कारण</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>क्या हुआ</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>कॉपी करें (&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>बंद करें (&amp;L)</translation>
     </message>
 </context>
 </TS>

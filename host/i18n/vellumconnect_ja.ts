@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>実行中のプログラムがどのリンクを開いたか、開かなかったか、その理由を新しい順に出力して終了します。</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>フォルダー %1 を使う実行中のプログラムに問い合わせできません。</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>まだ何も決定されていません</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>このヘルプを表示して終了します。</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>リンクは開かれません</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>接続時に開くリンクが開きます</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>ローミング中。契約先のネットワークを待っています。</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>確認中…</translation>
     </message>
 </context>
 <context>
@@ -501,6 +532,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>プログラムが起動しました</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>接続されました</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -509,6 +551,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>システムの言語(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>印の付いた複数のウェブアドレスのうち、いちばん下だけが開きます</translation>
     </message>
 </context>
 <context>
@@ -524,6 +573,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>許可されました</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>このファイルまたはフォルダーは存在しないか、表示する権限がありません:</translation>
@@ -578,6 +631,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>理由(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>どのリンクが開いたか、開かなかったか、その理由を表示</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>クイックリンク</translation>
@@ -686,6 +747,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>選択されました</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>%1 を開く</translation>
     </message>
@@ -699,6 +764,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>このままにする(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>開きました</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>先に確認しました</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>開けませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>不明なリンク</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>プラグインの要求</translation>
     </message>
 </context>
 <context>
@@ -997,6 +1092,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>プログラムの起動前から接続されていました</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>接続済み、インターネットを待っています</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>接続済み、インターネットに到達できます</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>接続済み、ポータルがログインを求めています</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>接続済み、10 秒以内にインターネットに到達できませんでした</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>通知される前に切断されました</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>別の接続に切り替わりました</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>切断、復帰を待っています</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>サービスがありません、復帰を待っています</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>引き継がれました、新しい接続ではありません</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>スリープ前から接続されていました、新しい接続ではありません</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>サービスの再起動後も続いています、新しい接続ではありません</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>確認時に再び切断されていたため、通知されません</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1009,6 +1165,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect はここで動作を続けます。アイコンをクリックするとウィンドウが表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>開いたものとその理由</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>接続とリンクについての決定 (新しい順)。最新の %1 件がプログラムの終了まで保持され、ファイルには書き込まれません。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>リンクまたは接続</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>きっかけ</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Wypisuje, które odnośniki działający program otworzył lub nie i dlaczego, od najnowszego, i kończy działanie.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>Nie ma działającego programu z folderem %1, który można zapytać.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Jeszcze o niczym nie zdecydowano</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Wyświetla tę pomoc i kończy działanie.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Nie otwarto odnośników</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Otwierają się odnośniki oznaczone dla połączenia</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Połączenie</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Roaming; oczekiwanie na własną sieć.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Sprawdzanie…</translation>
     </message>
 </context>
 <context>
@@ -511,6 +542,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>Program został uruchomiony</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Nawiązano połączenie</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -519,6 +561,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>Język &amp;systemu</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>z kilku oznaczonych adresów internetowych otwiera się tylko najniższy</translation>
     </message>
 </context>
 <context>
@@ -534,6 +583,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Zgoda została udzielona</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Nie ma takiego pliku ani folderu albo brak uprawnień do wyświetlenia:</translation>
@@ -588,6 +641,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Dlaczego…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Zobacz, które odnośniki się otworzyły lub nie i dlaczego</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Szybkie odnośniki</translation>
@@ -696,6 +757,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Twój wybór</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>Otwórz %1</translation>
     </message>
@@ -709,6 +774,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>Zostaw &amp;tak</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Otwarto</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Najpierw zadano pytanie</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Nie otwarto: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Niepowodzenie: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Nieznany odnośnik</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Na żądanie wtyczki</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1102,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>było nawiązane przed uruchomieniem programu</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>nawiązane, oczekuje na Internet</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>nawiązane, z dostępem do Internetu</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>nawiązane, portal wymaga zalogowania</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>nawiązane, ale bez Internetu przez 10 s</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>przerwane, zanim o nim powiadomiono</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>przejęło je inne połączenie</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>przerwane, oczekuje na powrót</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>przerwane</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>usługi nie ma, oczekuje na jej powrót</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>przekazane, to nie nowe połączenie</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>było nawiązane przed uśpieniem, to nie nowe połączenie</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>przetrwało ponowne uruchomienie usługi, to nie nowe połączenie</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>przy sprawdzeniu było znów przerwane, nie powiadomiono</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1019,6 +1175,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect działa dalej tutaj. Kliknij ikonę, aby pokazać jego okno.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Co się otworzyło i dlaczego</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Decyzje o połączeniach i odnośnikach, od najnowszej. Ostatnich %1 decyzji program pamięta do zakończenia i nie zapisuje ich w żadnym pliku.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Odnośnik lub połączenie</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Przyczyna</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Co zrobiono</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Zamknij</translation>
     </message>
 </context>
 </TS>

@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Lista quais atalhos o programa em execução abriu ou não, e por quê, do mais recente ao mais antigo, e sai.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>Nenhum programa em execução com a pasta %1 pode ser consultado.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Nada foi decidido ainda</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Mostra esta ajuda e sai.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Nenhum atalho aberto</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Os atalhos marcados para uma conexão se abrem</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexão</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Em roaming; aguardando a sua própria rede.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Verificando…</translation>
     </message>
 </context>
 <context>
@@ -506,6 +537,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>O programa foi iniciado</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Uma conexão foi estabelecida</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -514,6 +556,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>Idioma do &amp;sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>de vários endereços da web marcados, só o mais baixo se abre</translation>
     </message>
 </context>
 <context>
@@ -529,6 +578,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Você concordou</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Este arquivo ou pasta não existe, ou você não tem permissão para vê-lo:</translation>
@@ -583,6 +636,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Por quê…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Ver quais atalhos se abriram ou não, e por quê</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Atalhos</translation>
@@ -691,6 +752,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Você o escolheu</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
     </message>
@@ -704,6 +769,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;Deixar assim</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Aberto</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Você foi consultado primeiro</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Não aberto: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Falhou: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Atalho desconhecido</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Um plug-in pediu</translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1097,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>estava ativa antes do início do programa</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>ativa, aguardando a Internet</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>ativa e com Internet</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>ativa, e um portal exige login</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>ativa, mas sem Internet por 10 s</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>caiu antes de ser informada</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>outra conexão assumiu</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>caiu, aguardando se volta</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>caiu</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>o serviço não está, aguardando se volta</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>transferida, não é uma conexão nova</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>estava ativa antes da suspensão, não é uma conexão nova</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>sobreviveu a um reinício do serviço, não é uma conexão nova</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>estava inativa de novo na verificação, não informada</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1014,6 +1170,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>O Vellum Connect continua em execução aqui. Clique no ícone para mostrar a janela.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>O que se abriu e por quê</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>O que foi decidido sobre conexões e atalhos, do mais recente ao mais antigo. As últimas %1 decisões são lembradas até o fim do programa e não são gravadas em nenhum arquivo.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Atalho ou conexão</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Causa</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>O que foi feito</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fechar</translation>
     </message>
 </context>
 </TS>

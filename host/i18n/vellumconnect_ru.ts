@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Вывести, какие ссылки запущенная программа открыла или нет и почему, сначала новые, и выйти.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>Нет запущенной программы с папкой %1, которую можно спросить.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Решений ещё не было</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Показать эту справку и выйти.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Ссылки не открыты</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Открываются ссылки, отмеченные для подключения</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Подключение</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Роуминг; ожидание вашей собственной сети.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Проверка…</translation>
     </message>
 </context>
 <context>
@@ -511,6 +542,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>Программа запущена</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Появилось подключение</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -519,6 +561,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>Язык &amp;системы</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>из нескольких отмеченных веб-адресов открывается только нижний</translation>
     </message>
 </context>
 <context>
@@ -534,6 +583,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Вы согласились</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Нет такого файла или папки либо недостаточно прав для просмотра:</translation>
@@ -588,6 +641,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Почему…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Посмотреть, какие ссылки открылись или нет и почему</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Быстрые ссылки</translation>
@@ -696,6 +757,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Выбрано вами</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>Открыть %1</translation>
     </message>
@@ -709,6 +774,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;Оставить так</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Открыто</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Сначала был задан вопрос</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Не открыто: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Сбой: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Неизвестная ссылка</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>По запросу модуля</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1102,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>было установлено до запуска программы</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>установлено, ожидание Интернета</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>установлено, Интернет доступен</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>установлено, портал требует входа</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>установлено, но без Интернета в течение 10 с</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>разорвано до того, как о нём сообщено</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>его сменило другое подключение</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>разорвано, ожидание возвращения</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>разорвано</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>службы нет, ожидание её возвращения</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>передано, это не новое подключение</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>было установлено до сна, это не новое подключение</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>пережило перезапуск службы, это не новое подключение</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>при проверке снова разорвано, не сообщено</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1019,6 +1175,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect продолжает работать здесь. Нажмите на значок, чтобы показать его окно.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Что открылось и почему</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Решения о подключениях и ссылках, сначала новые. Последние %1 решений хранятся в памяти до конца работы программы и не записываются в файлы.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Ссылка или подключение</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Причина</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Закрыть</translation>
     </message>
 </context>
 </TS>

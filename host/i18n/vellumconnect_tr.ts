@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>Çalışan programın hangi kısayolları açtığını ya da açmadığını ve nedenini, en yenisi önce olmak üzere listeler ve çıkar.</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>%1 klasörüyle çalışan ve sorulabilecek bir program yok.</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>Henüz bir karar verilmedi</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>Bu yardımı gösterir ve çıkar.</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>Kısayol açılmadı</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>Bağlantı için işaretli kısayollar açılır</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>Dolaşımda; kendi şebekeniz bekleniyor.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Denetleniyor…</translation>
     </message>
 </context>
 <context>
@@ -501,6 +532,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>Program başladı</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>Bir bağlantı kuruldu</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -509,6 +551,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>&amp;Sistem Dili</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>işaretli birkaç web adresinden yalnızca en alttaki açılır</translation>
     </message>
 </context>
 <context>
@@ -524,6 +573,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>Siz onayladınız</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Böyle bir dosya veya klasör yok ya da görme izniniz yok:</translation>
@@ -578,6 +631,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>&amp;Neden…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>Hangi kısayolların açıldığını ya da açılmadığını ve nedenini gör</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>Kısayollar</translation>
@@ -686,6 +747,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>Siz seçtiniz</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>%1 kısayolunu aç</translation>
     </message>
@@ -699,6 +764,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>&amp;Olduğu Gibi Bırak</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>Açıldı</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>Önce size soruldu</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Açılmadı: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Başarısız: %1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>Bilinmeyen kısayol</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>Bir eklenti istedi</translation>
     </message>
 </context>
 <context>
@@ -997,6 +1092,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>program başlamadan önce kuruluydu</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>kuruldu, internet bekleniyor</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>kuruldu, internete erişiliyor</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>kuruldu, bir portal oturum açmanızı istiyor</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>kuruldu, ama 10 sn içinde internete erişilemedi</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>bildirilmeden önce kesildi</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>yerine başka bir bağlantı geçti</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>kesildi, geri gelmesi bekleniyor</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>kesildi</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>hizmet yok, geri gelmesi bekleniyor</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>devredildi, yeni bir bağlantı değil</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>uykudan önce kuruluydu, yeni bir bağlantı değil</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>hizmetin yeniden başlamasından sonra da sürüyor, yeni bir bağlantı değil</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>sorulduğunda yine kesikti, bildirilmedi</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1009,6 +1165,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect burada çalışmayı sürdürüyor. Penceresini göstermek için simgeye tıklayın.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>Ne Açıldı, Neden</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>Bağlantılar ve kısayollar hakkında verilen kararlar, en yenisi önce. Son %1 karar program kapanana kadar bellekte tutulur ve hiçbir dosyaya yazılmaz.</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>Kısayol veya bağlantı</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Sebep</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>Ne yapıldı</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopyala</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Ka&amp;pat</translation>
     </message>
 </context>
 </TS>

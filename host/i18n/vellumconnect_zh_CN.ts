@@ -38,6 +38,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Print which links the running program opened or did not, and why, newest first, and exit.</source>
+        <translation>输出正在运行的程序打开或未打开哪些链接及其原因（最新的在前）并退出。</translation>
+    </message>
+    <message>
+        <source>No running program with the folder %1 can be asked.</source>
+        <translation>没有使用文件夹 %1 的正在运行的程序可供查询。</translation>
+    </message>
+    <message>
+        <source>Nothing was decided yet</source>
+        <translation>尚未作出任何决定</translation>
+    </message>
+    <message>
         <source>Show this help and exit.</source>
         <translation>显示此帮助并退出。</translation>
     </message>
@@ -117,6 +129,21 @@
         <source>IDS_CANCEL</source>
         <extracomment>Second button of messages. Up to about 14 characters.</extracomment>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionDecisions</name>
+    <message>
+        <source>No links opened</source>
+        <translation>未打开链接</translation>
+    </message>
+    <message>
+        <source>Links marked for a connection open</source>
+        <translation>打开标记为连接时打开的链接</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
     </message>
 </context>
 <context>
@@ -259,6 +286,10 @@
     <message>
         <source>Roaming; waiting for your own network.</source>
         <translation>正在漫游；正在等待您自己的网络。</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>正在检查…</translation>
     </message>
 </context>
 <context>
@@ -501,6 +532,17 @@
     </message>
 </context>
 <context>
+    <name>Host</name>
+    <message>
+        <source>The program started</source>
+        <translation>程序已启动</translation>
+    </message>
+    <message>
+        <source>A connection came up</source>
+        <translation>连接已建立</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -509,6 +551,13 @@
     <message>
         <source>&amp;System Language</source>
         <translation>系统语言(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>LinkAddresses</name>
+    <message>
+        <source>of several marked web addresses only the lowest opens</source>
+        <translation>多个已标记的网址中只打开最下面的一个</translation>
     </message>
 </context>
 <context>
@@ -524,6 +573,10 @@
 </context>
 <context>
     <name>LinkOpener</name>
+    <message>
+        <source>You agreed to it</source>
+        <translation>您已同意</translation>
+    </message>
     <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>没有此文件或文件夹，或者您无权查看：</translation>
@@ -578,6 +631,14 @@
 </context>
 <context>
     <name>MainWindow</name>
+    <message>
+        <source>&amp;Why…</source>
+        <translation>为什么(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>See which links opened or did not, and why</source>
+        <translation>查看哪些链接已打开或未打开及其原因</translation>
+    </message>
     <message>
         <source>Quick Links</source>
         <translation>快速链接</translation>
@@ -686,6 +747,10 @@
 <context>
     <name>MenuManager</name>
     <message>
+        <source>You picked it</source>
+        <translation>由您选择</translation>
+    </message>
+    <message>
         <source>Open %1</source>
         <translation>打开 %1</translation>
     </message>
@@ -699,6 +764,36 @@
     <message>
         <source>Leave &amp;As It Is</source>
         <translation>保持现状(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>Opening</name>
+    <message>
+        <source>Opened</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>You were asked first</source>
+        <translation>先询问了您</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>未打开：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Unknown link</source>
+        <translation>未知链接</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningCause</name>
+    <message>
+        <source>A plug-in asked for it</source>
+        <translation>由插件请求</translation>
     </message>
 </context>
 <context>
@@ -997,6 +1092,67 @@
     </message>
 </context>
 <context>
+    <name>TransitionRules</name>
+    <message>
+        <source>was up before the program was there</source>
+        <translation>在程序启动之前已连接</translation>
+    </message>
+    <message>
+        <source>up, waiting to be in the Internet</source>
+        <extracomment>&quot;In the Internet&quot; means that the Internet can be reached.</extracomment>
+        <translation>已连接，正在等待互联网</translation>
+    </message>
+    <message>
+        <source>up and in the Internet</source>
+        <translation>已连接，可以访问互联网</translation>
+    </message>
+    <message>
+        <source>up, and a portal wants a login</source>
+        <translation>已连接，门户要求登录</translation>
+    </message>
+    <message>
+        <source>up, but not in the Internet within 10 s</source>
+        <translation>已连接，但 10 秒内无法访问互联网</translation>
+    </message>
+    <message>
+        <source>went down before it was told</source>
+        <translation>在通知之前已断开</translation>
+    </message>
+    <message>
+        <source>another connection took over</source>
+        <translation>由另一个连接接替</translation>
+    </message>
+    <message>
+        <source>down, waiting whether it comes back</source>
+        <translation>已断开，等待恢复</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>已断开</translation>
+    </message>
+    <message>
+        <source>the service is gone, waiting whether it comes back</source>
+        <translation>服务不可用，等待恢复</translation>
+    </message>
+    <message>
+        <source>handed over, not a new connection</source>
+        <translation>已切换，不是新连接</translation>
+    </message>
+    <message>
+        <source>was up before sleep, not a new connection</source>
+        <translation>休眠前已连接，不是新连接</translation>
+    </message>
+    <message>
+        <source>outlived a restart of the service, not a new connection</source>
+        <translation>服务重启后仍保持，不是新连接</translation>
+    </message>
+    <message>
+        <source>was down again when asked, not told</source>
+        <extracomment>The host asks once more before it tells of a connection that came up.</extracomment>
+        <translation>再次查询时已断开，未通知</translation>
+    </message>
+</context>
+<context>
     <name>Tray</name>
     <message>
         <source>Show Window</source>
@@ -1009,6 +1165,41 @@
     <message>
         <source>Vellum Connect keeps running here. Click the icon to show its window.</source>
         <translation>Vellum Connect 在此继续运行。点击图标可显示其窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>WhyWindow</name>
+    <message>
+        <source>What Opened, and Why</source>
+        <translation>打开了什么及其原因</translation>
+    </message>
+    <message>
+        <source>What was decided about connections and links, newest first. The last %1 decisions are remembered until the program ends, and written to no file.</source>
+        <translation>关于连接和链接的决定，最新的在前。最近 %1 个决定在程序结束前保留在内存中，不写入任何文件。</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Link or Connection</source>
+        <translation>链接或连接</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>What Was Done</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>关闭(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include "InternetAddress.h"
 #include "Notice.h"
 #include "OpenedLink.h"
+#include "Opening.h"
 #include "UserFolder.h"
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -27,9 +28,11 @@ void CommonUtils::OpenUrl(QString url)
         return;
     // A plug-in may not have been able to hand over the address of its link.
     const QString address = url.isEmpty() && OpenedLink::current() ? OpenedLink::current()->address() : url;
-    showNotice(QCoreApplication::translate("CommonUtils", "Address not opened"),
-               completed.isEmpty()
-                   ? AddressProblem::sentence(address)
-                   : QCoreApplication::translate("CommonUtils", "No program could be started for this address:"),
-               address, OpenedLink::nameFor(url));
+    const QString reason =
+        completed.isEmpty()
+            ? AddressProblem::sentence(address)
+            : QCoreApplication::translate("CommonUtils", "No program could be started for this address:");
+    const Opening opening(url);
+    opening.refuse(reason);
+    showNotice(QCoreApplication::translate("CommonUtils", "Address not opened"), reason, address, opening.link());
 }

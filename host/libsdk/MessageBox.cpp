@@ -16,6 +16,7 @@
 #include "EditLinkButton.h"
 #include "FailureList.h"
 #include "OpenedLink.h"
+#include "Opening.h"
 #include "PlainMessage.h"
 
 namespace
@@ -83,7 +84,9 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString ti
 {
     FailureList refused;
     if (const OpenedLink* const link = refusedLink(text)) {
-        refused.add(title, AddressProblem::sentence(link->address()), link->address(), link->name());
+        const QString reason = AddressProblem::sentence(link->address());
+        Opening(link->address()).refuse(reason);
+        refused.add(title, reason, link->address(), link->name());
         text = refused.text();
         details = refused.details();
         // The page that the quick links name may stand in no window any more.

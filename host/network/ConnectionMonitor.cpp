@@ -136,6 +136,8 @@ void ConnectionMonitor::follow(const TransitionRules::Decision& decision)
         ask(decision.reason);
     else if (decision.announcement == TransitionRules::Announcement::Down)
         Q_EMIT announced(false, decision.reason);
+    else if (!decision.reason.isEmpty())
+        Q_EMIT keptBack(decision.reason);
 }
 
 void ConnectionMonitor::ask(const QString& reason)
@@ -163,10 +165,12 @@ void ConnectionMonitor::hearAnswer(bool isUp)
 
 void ConnectionMonitor::withdraw()
 {
-    qCInfo(connectionLog, "was down again when asked, not told");
+    const QString reason = QStringLiteral("was down again when asked, not told");
+    qCInfo(connectionLog, "%s", qUtf8Printable(reason));
     m_isAsking = false;
     m_rules.withdraw();
     arm();
+    Q_EMIT keptBack(reason);
 }
 
 void ConnectionMonitor::arm()

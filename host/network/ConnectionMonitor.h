@@ -66,6 +66,9 @@ Q_SIGNALS:
     /** A connection came up or went down. When it came up, its source was asked once more just before. */
     void announced(bool isUp, const QString& reason);
 
+    /** It was decided to announce nothing. */
+    void keptBack(const QString& reason);
+
 private:
     ConnectionSource& source() const;
     void listenTo(const ConnectionSource& source);

@@ -30,7 +30,9 @@ void EntryRun::start()
     m_elapsed.start();
     const DesktopPrograms::Start start = DesktopPrograms::start(m_path);
     m_process = start.process;
-    if (!start.isStarted)
+    if (start.isStarted)
+        Q_EMIT started();
+    else
         Q_EMIT failed(tr("The application of this could not be started:"));
     if (m_process > 0)
         m_end = int(::syscall(SYS_pidfd_open, pid_t(m_process), 0));

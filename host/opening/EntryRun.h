@@ -30,6 +30,9 @@ public:
     void start();
 
 Q_SIGNALS:
+    /** The application was started, or asked by the session bus to show what it is wanted for. */
+    void started();
+
     /** The application did not start, or failed (ProgramEnd), for a reason in words that are followed by the path. */
     void failed(const QString& reason);
 

@@ -13,7 +13,8 @@
 #include "EntryRun.h"
 #include "LinkPath.h"
 #include "Notice.h"
-#include "OpenedLink.h"
+#include "Opening.h"
+#include "OpeningCause.h"
 #include "ProgramRun.h"
 #include "SchemeRules.h"
 
@@ -27,7 +28,8 @@ LinkOpener::LinkOpener(const AgreedAddresses& agreed)
     connect(&m_questions, &AddressQuestions::agreed, this, [this](const QString& address) {
         if (m_agreed.add)
             m_agreed.add(address);
-        handToDesktop(address, OpenedLink::nameFor(address));
+        const OpeningCause cause(tr("You agreed to it"));
+        handToDesktop(address, Opening(address));
     });
 }
 
@@ -52,88 +54,101 @@ void LinkOpener::open(const QUrl& address)
 {
     // Without letters that only look like others, and without signs that turn the direction.
     const QString encoded = QString::fromLatin1(address.toEncoded());
-    const QString link = OpenedLink::nameFor(encoded);
+    const Opening opening(encoded);
     if (!address.isValid() && !address.isEmpty()) {
         // It has no text of its own any more but in what the toolkit says of it.
-        tell(tr("This is no valid address:"), address.errorString(), link);
+        refuse(tr("This is no valid address:"), address.errorString(), opening);
         return;
     }
     switch (SchemeRules::ruleFor(address.scheme())) {
     case SchemeRule::Path:
-        return openPath(address, link);
+        return openPath(address, opening);
     case SchemeRule::HandOver:
-        return handToDesktop(encoded, link);
+        return handToDesktop(encoded, opening);
     case SchemeRule::Refuse:
-        return tell(tr("Addresses that are themselves a script or a page are never opened:"), encoded, link);
+        return refuse(tr("Addresses that are themselves a script or a page are never opened:"), encoded, opening);
     case SchemeRule::Ask:
-        return ask(encoded, link);
+        return ask(encoded, opening);
     }
 }
 
-void LinkOpener::openPath(const QUrl& address, const QString& link)
+void LinkOpener::openPath(const QUrl& address, const Opening& opening)
 {
     const QString typed = LinkPath::typed(address);
     const QString path = LinkPath::of(address);
     if (typed.isEmpty())
-        tell(tr("This link leads nowhere: it has no path."), typed, link);
+        refuse(tr("This link leads nowhere: it has no path."), typed, opening);
     else if (path.isEmpty())
-        tell(tr("The path of an application or file must begin with \"/\":"), typed, link);
+        refuse(tr("The path of an application or file must begin with \"/\":"), typed, opening);
     else
-        openFile(path, link);
+        openFile(path, opening);
 }
 
-void LinkOpener::openFile(const QString& path, const QString& link)
+void LinkOpener::openFile(const QString& path, const Opening& opening)
 {
     const QFileInfo target(path);
     // What the system's encoding cannot hold would be left out, and another file be meant.
     const bool isExact = QFile::decodeName(QFile::encodeName(path)) == path;
     if (!isExact || !target.exists())
-        tell(tr("There is no such file or folder, or you are not allowed to see it:"), path, link);
+        refuse(tr("There is no such file or folder, or you are not allowed to see it:"), path, opening);
     else if (target.isReadable() && DesktopPrograms::isEntry(target))
-        startEntry(path, link);
+        startEntry(path, opening);
     else if (target.isFile() && target.isExecutable())
-        startProgram(path, link);
+        startProgram(path, opening);
     else if (!target.isReadable())
-        tell(tr("You are not allowed to open this:"), path, link);
+        refuse(tr("You are not allowed to open this:"), path, opening);
     else
-        handToDesktop(path, link);
+        handToDesktop(path, opening);
 }
 
-void LinkOpener::startProgram(const QString& path, const QString& link)
+void LinkOpener::startProgram(const QString& path, const Opening& opening)
 {
     ProgramRun* const program = new ProgramRun(path);
-    connect(program, &ProgramRun::failed, this, [path, link](const QString& reason) { tell(reason, path, link); });
+    connect(program, &QProcess::started, this, [opening] { opening.succeed(); });
+    connect(program, &ProgramRun::failed, this,
+            [path, opening](const QString& reason) { fail(reason, path, opening); });
     program->start();
 }
 
-void LinkOpener::startEntry(const QString& path, const QString& link)
+void LinkOpener::startEntry(const QString& path, const Opening& opening)
 {
     EntryRun* const run = new EntryRun(path, this);
-    connect(run, &EntryRun::failed, this, [path, link](const QString& reason) { tell(reason, path, link); });
+    connect(run, &EntryRun::started, this, [opening] { opening.succeed(); });
+    connect(run, &EntryRun::failed, this, [path, opening](const QString& reason) { fail(reason, path, opening); });
     run->start();
 }
 
-void LinkOpener::ask(const QString& address, const QString& link)
+void LinkOpener::ask(const QString& address, const Opening& opening)
 {
     if (m_agreed.contains && m_agreed.contains(address))
-        handToDesktop(address, link);
-    else if (!m_questions.ask(address))
-        tell(tr("Too many questions wait for an answer to ask about this address, too:"), address, link);
+        handToDesktop(address, opening);
+    else if (m_questions.ask(address))
+        opening.wait();
+    else
+        refuse(tr("Too many questions wait for an answer to ask about this address, too:"), address, opening);
 }
 
-void LinkOpener::handToDesktop(const QString& target, const QString& link)
+void LinkOpener::handToDesktop(const QString& target, const Opening& opening)
 {
     if (target.toUtf8().size() > longestTarget) {
-        tell(tr("This is too long to be opened:"), target, link);
+        refuse(tr("This is too long to be opened:"), target, opening);
         return;
     }
     DesktopOpener* const opener = new DesktopOpener(target);
+    connect(opener, &QProcess::started, this, [opening] { opening.succeed(); });
     connect(opener, &DesktopOpener::failed, this,
-            [target, link](const QString& reason) { tell(reason, target, link); });
+            [target, opening](const QString& reason) { fail(reason, target, opening); });
     opener->start();
 }
 
-void LinkOpener::tell(const QString& reason, const QString& target, const QString& link)
+void LinkOpener::refuse(const QString& reason, const QString& target, const Opening& opening)
 {
-    showNotice(tr("Not opened"), reason, target, link);
+    opening.refuse(reason);
+    showNotice(tr("Not opened"), reason, target, opening.link());
+}
+
+void LinkOpener::fail(const QString& reason, const QString& target, const Opening& opening)
+{
+    opening.fail(reason);
+    showNotice(tr("Not opened"), reason, target, opening.link());
 }

@@ -12,6 +12,7 @@
 
 #include "AddressQuestions.h"
 
+class Opening;
 class QUrl;
 
 /** What is known of the addresses that the user has agreed to, spelt exactly so. Without functions, nothing is kept. */
@@ -23,7 +24,8 @@ struct AgreedAddresses {
 /**
  * Opens what QDesktopServices::openUrl() is called with: programs directly, applications by their desktop entries,
  * everything else by the desktop, unusual addresses after the user has agreed (SchemeRules). What was opened outlives
- * this program, and what could not be opened is told to the user without blocking the caller.
+ * this program, and what could not be opened is told to the user without blocking the caller. What came of each is said
+ * by Opening.
  */
 class LinkOpener : public QObject
 {
@@ -47,14 +49,15 @@ public Q_SLOTS:
     void open(const QUrl& address);
 
 private:
-    // link is the name of the link whose target it is, for what is told of it; empty for none.
-    void openPath(const QUrl& address, const QString& link);
-    void openFile(const QString& path, const QString& link);
-    void startProgram(const QString& path, const QString& link);
-    void startEntry(const QString& path, const QString& link);
-    void ask(const QString& address, const QString& link);
-    void handToDesktop(const QString& target, const QString& link);
-    static void tell(const QString& reason, const QString& target, const QString& link);
+    void openPath(const QUrl& address, const Opening& opening);
+    void openFile(const QString& path, const Opening& opening);
+    void startProgram(const QString& path, const Opening& opening);
+    void startEntry(const QString& path, const Opening& opening);
+    void ask(const QString& address, const Opening& opening);
+    void handToDesktop(const QString& target, const Opening& opening);
+    // Both tell the user.
+    static void refuse(const QString& reason, const QString& target, const Opening& opening);
+    static void fail(const QString& reason, const QString& target, const Opening& opening);
 
     const AgreedAddresses m_agreed;
     QSet<QString> m_schemes; ///< those taken over

@@ -9,6 +9,7 @@
 #include "IQuickLinkPlugin.h"
 #include "LinkName.h"
 #include "OpenedLink.h"
+#include "OpeningCause.h"
 #include "PluginContainer.h"
 #include "ShownText.h"
 
@@ -83,6 +84,7 @@ QAction* MenuManager::newAction(const PluginWith<IQuickLinkPlugin>& plugin, QAct
         if (!plugin.object || !theirs)
             return;
         const OpenedLink link(theirs->text(), place);
+        const OpeningCause cause(tr("You picked it"));
         plugin.interface->LaunchQuickLinkAction(theirs);
     });
     return action;

@@ -60,6 +60,9 @@ Q_SIGNALS:
     /** The user wants to see the settings. */
     void settingsRequested();
 
+    /** The user wants to see what was decided about connections and links. */
+    void whyRequested();
+
     /** The user wants to see the plug-ins that are left out. */
     void leftOutPluginsRequested();
 
@@ -105,6 +108,7 @@ private:
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_viewMenu = nullptr;
     QMenu* m_helpMenu = nullptr;
+    QAction* m_why = nullptr;
     QAction* m_quit = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;

@@ -17,6 +17,8 @@
 void MainWindow::buildMenus(QMenu* languageMenu)
 {
     m_connectionMenu = menuBar()->addMenu(QString());
+    m_why = m_connectionMenu->addAction(QString(), this, &MainWindow::whyRequested);
+    m_connectionMenu->addSeparator();
     m_quit = m_connectionMenu->addAction(QString(), this, &MainWindow::quitRequested);
     m_quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
 
@@ -76,6 +78,8 @@ void MainWindow::setLeftOutPlugins(bool areThere)
 void MainWindow::setTexts()
 {
     m_connectionMenu->setTitle(tr("&Connection"));
+    m_why->setText(tr("&Why…"));
+    m_why->setStatusTip(tr("See which links opened or did not, and why"));
     m_quit->setText(tr("&Quit"));
     m_quit->setStatusTip(tr("Quit the program"));
     m_linkMenu->setTitle(tr("&Quick Links"));

@@ -50,6 +50,14 @@ class CommandLine(unittest.TestCase):
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))
         self.assertEqual(answer.stdout, "No quick links\n")
 
+    def test_why_without_a_bus(self):
+        before = self.files()
+        answer = self.run_program("--data-dir", str(self.home / "data"), "--why")
+        self.assertEqual((answer.returncode, answer.stdout), (1, ""))
+        self.assertEqual(len(answer.stderr.splitlines()), 1, answer.stderr)
+        self.assertIn(str(self.home / "data"), answer.stderr)
+        self.assertEqual(self.files(), before)
+
     def files(self):
         return sorted(str(path.relative_to(self.home)) for path in self.home.rglob("*"))
 
@@ -73,7 +81,7 @@ class CommandLine(unittest.TestCase):
     def test_help(self):
         answer = self.run_program("--help")
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))
-        for option in ("--help", "--version", "--data-dir", "--plugin-dir", "--language", "--list-links"):
+        for option in ("--help", "--version", "--data-dir", "--plugin-dir", "--language", "--list-links", "--why"):
             self.assertIn(option, answer.stdout)
 
     def test_version(self):

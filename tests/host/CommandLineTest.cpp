@@ -46,12 +46,13 @@ void CommandLineTest::readsTheAction_data()
     QTest::addColumn<int>("action");
     QTest::newRow("none") << QStringList() << int(CommandLine::ShowWindow);
     QTest::newRow("list") << QStringList{"--list-links"} << int(CommandLine::ListLinks);
+    QTest::newRow("why") << QStringList{"--why"} << int(CommandLine::ShowDecisions);
     QTest::newRow("help") << QStringList{"--help"} << int(CommandLine::ShowHelp);
     QTest::newRow("h") << QStringList{"-h"} << int(CommandLine::ShowHelp);
     QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::ShowVersion);
     QTest::newRow("v") << QStringList{"-v"} << int(CommandLine::ShowVersion);
     QTest::newRow("help before the others")
-        << QStringList{"--list-links", "--version", "--help"} << int(CommandLine::ShowHelp);
+        << QStringList{"--why", "--list-links", "--version", "--help"} << int(CommandLine::ShowHelp);
 }
 
 void CommandLineTest::readsTheAction()
@@ -160,7 +161,7 @@ void CommandLineTest::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
     for (const char* option : {"--help", "--version", "--data-dir", "--plugin-dir", "--language", "--connection",
-                               "--hidden", "--list-links"})
+                               "--hidden", "--list-links", "--why"})
         QTest::newRow(option) << option;
 }
 

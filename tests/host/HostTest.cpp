@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QTreeWidget>
 #include <QUrl>
 
 #include "ConnectionPanel.h"
@@ -26,6 +27,7 @@
 #include "Translator.h"
 #include "UserFolder.h"
 #include "UserSettings.h"
+#include "WhyWindow.h"
 
 class HostTest : public QObject
 {
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void servesPluginsThatNotifyTheMenu();
     void asksBeforeItOpensLinksOfOtherSchemes();
     void handsBackTheAnswerOfWhoIsNotified();
+    void listsWhatOpenedAndWhy();
+    void listsItInOneWindow();
     void namesWhatWasNotLoaded();
     void keepsTheOrderOfFilesNotLoaded();
     void namesItsVersion();
@@ -66,6 +70,7 @@ private:
     static INotifyService* notifyService();
     void setLinks(int plugin, const QStringList& names) const;
     void saveLinks(const QByteArray& addresses) const;
+    static QAction* why() { return window()->menuBar()->actions().constFirst()->menu()->actions().constFirst(); }
     static QMenu* linkMenu() { return window()->menuBar()->actions().at(1)->menu(); }
 
     std::unique_ptr<PluginFolder> m_folder;
@@ -364,6 +369,40 @@ void HostTest::handsBackTheAnswerOfWhoIsNotified()
     QVERIFY(notifyService());
     QCOMPARE(notifyService()->Notify("FakeSecond", 1, 2, 3), 5);
     QCOMPARE(takeEvents(), QStringList("FakeSecond Notify 1 2 3"));
+}
+
+void HostTest::listsWhatOpenedAndWhy()
+{
+    setLinks(0, {"News"});
+    m_host->container().plugins().at(0)->setProperty("opens", "/no/such/file");
+    showWindow();
+    QTest::mouseClick(window()->findChild<ConnectionPanel*>()->findChild<QPushButton*>(), Qt::LeftButton);
+    linkMenu()->actions().constFirst()->trigger();
+    why()->trigger();
+    const QTreeWidget* const list = window()->findChild<WhyWindow*>()->findChild<QTreeWidget*>();
+    QStringList rows;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* const row = list->topLevelItem(i);
+        rows.append(row->text(1) + " | " + row->text(2) + " | " + row->text(3).section(':', 0, 0));
+    }
+    QCOMPARE(rows,
+             QStringList({"News | You picked it | Not opened", "/no/such/file | A connection came up | Not opened",
+                          "Connection | Up and in the Internet | Links marked for a connection open",
+                          "/no/such/file | The program started | Not opened"}));
+}
+
+void HostTest::listsItInOneWindow()
+{
+    showWindow();
+    why()->trigger();
+    const QPointer<WhyWindow> first = window()->findChild<WhyWindow*>();
+    QVERIFY(first->isVisible());
+    why()->trigger();
+    QCOMPARE(window()->findChildren<WhyWindow*>(), QList<WhyWindow*>{first});
+    first->close();
+    QTRY_VERIFY(!first);
+    why()->trigger();
+    QVERIFY(window()->findChild<WhyWindow*>()->isVisible());
 }
 
 void HostTest::namesWhatWasNotLoaded()

@@ -4,6 +4,7 @@
 // The links of a file by their names and addresses.
 
 #include "LinkAddresses.h"
+#include "Opening.h"
 #include "Test.h"
 
 class LinkAddressesTest : public QObject
@@ -15,6 +16,8 @@ private Q_SLOTS:
     void knowsAddresses();
     void knowsNames_data();
     void knowsNames();
+    void saysWhichWereNotTheLowest_data();
+    void saysWhichWereNotTheLowest();
     void knowsWhetherThereAreParameters_data();
     void knowsWhetherThereAreParameters();
 };
@@ -79,6 +82,40 @@ void LinkAddressesTest::knowsNames()
 {
     QFETCH(QString, address);
     QTEST(someLinks().nameOf(address), "name");
+}
+
+void LinkAddressesTest::saysWhichWereNotTheLowest_data()
+{
+    QTest::addColumn<QString>("links"); // of each name, type and mark
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("none") << "" << QStringList();
+    QTest::newRow("one") << "A INTERNET 1" << QStringList();
+    QTest::newRow("three") << "A INTERNET 1, B INTERNET 1, C INTERNET 1" << QStringList({"A", "B"});
+    QTest::newRow("unmarked below") << "A INTERNET 1, B INTERNET 1, C INTERNET 0" << QStringList("A");
+    QTest::newRow("marked oddly") << "A INTERNET true, B INTERNET 1" << QStringList();
+    QTest::newRow("other types") << "A E-MAIL 1, B APPLICATION 1, C INTERNET 1, D E-MAIL 1" << QStringList();
+}
+
+void LinkAddressesTest::saysWhichWereNotTheLowest()
+{
+    QFETCH(QString, links);
+    QByteArray items;
+    const QStringList parts = links.split(", ", Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        const QStringList words = part.split(' ');
+        items += QString("<item name=\"%1\" type=\"IDS_LINK_TYPE_%2\" mark=\"%3\" url=\"u\" visible=\"1\"/>")
+                     .arg(words.at(0), words.at(1), words.at(2))
+                     .toUtf8();
+    }
+    QStringList told;
+    Opening::setListener([&told](const Decision& decision) {
+        told.append(decision.what);
+        QCOMPARE(decision.outcome, "Not opened: of several marked web addresses only the lowest opens");
+    });
+    ::links(items).tellPassedOver("mark");
+    ::links(items).tellPassedOver("other");
+    Opening::setListener(nullptr);
+    QTEST(told, "told");
 }
 
 void LinkAddressesTest::knowsWhetherThereAreParameters_data()

@@ -15,6 +15,8 @@
 #include "LinkOpener.h"
 #include "MessageOnScreen.h"
 #include "OpenedLink.h"
+#include "Opening.h"
+#include "OpeningCause.h"
 #include "ProcessLimits.h"
 #include "RecordingDesktop.h"
 #include "Test.h"
@@ -45,6 +47,9 @@ private Q_SLOTS:
     void saysThatItCannotAskMore();
     void neverOpensScripts_data();
     void neverOpensScripts();
+    void saysWhatCameOfIt_data();
+    void saysWhatCameOfIt();
+    void saysThatTheUserAgreed();
     void tellsAllFailuresInOneNotice();
     void givesTheSchemesBack();
 
@@ -56,6 +61,7 @@ private:
 
 void LinkOpenerTest::cleanup()
 {
+    Opening::setListener(nullptr);
     while (QMessageBox* const box = notice())
         delete box;
 }
@@ -346,6 +352,71 @@ void LinkOpenerTest::neverOpensScripts()
     QVERIFY(notice());
     QCOMPARE(notice()->text(), "Addresses that are themselves a script or a page are never opened:\n\n" +
                                    QString(QUrl(address).toEncoded()));
+}
+
+void LinkOpenerTest::saysWhatCameOfIt_data()
+{
+    QTest::addColumn<QString>("opened"); // an address, or a kind of file
+    QTest::addColumn<QStringList>("outcomes");
+    QTest::newRow("address") << "mailto:someone@example.org" << QStringList{"Opened"};
+    for (const char* kind : {"a document", "a folder", "a program", "entry.desktop"})
+        QTest::newRow(kind) << kind << QStringList{"Opened"};
+    QTest::newRow("nothing") << "nothing"
+                             << QStringList{"Not opened: There is no such file or folder, or you are not allowed to "
+                                            "see it"};
+    QTest::newRow("script") << "javascript:alert(1)"
+                            << QStringList{"Not opened: Addresses that are themselves a script or a page are never "
+                                           "opened"};
+    QTest::newRow("no path") << "file:" << QStringList{"Not opened: This link leads nowhere: it has no path."};
+    QTest::newRow("relative path") << "program"
+                                   << QStringList{"Not opened: The path of an application or file must begin with "
+                                                  "\"/\""};
+    QTest::newRow("too long") << "mailto:" + QString(140000, 'x')
+                              << QStringList{"Not opened: This is too long to be opened"};
+    QTest::newRow("question") << "sms:1" << QStringList{"You were asked first"};
+    QTest::newRow("failing") << "a failing program"
+                             << QStringList{"Opened", "Failed: This program ended at once, with the error code 7"};
+    QTest::newRow("broken") << "a broken program" << QStringList{"Failed: This program could not be started"};
+}
+
+void LinkOpenerTest::saysWhatCameOfIt()
+{
+    QFETCH(QString, opened);
+    QFETCH(QStringList, outcomes);
+    QStringList heard;
+    Opening::setListener([&heard](const Decision& decision) {
+        heard.append(decision.what + " | " + decision.cause + " | " + decision.outcome);
+    });
+    const bool isFile = opened.contains(' ') || opened == "nothing" || opened.endsWith(".desktop");
+    const QUrl address(isFile ? make(opened) : opened);
+    const RecordingDesktop desktop;
+    LinkOpener opener;
+    opener.takeOver({"sms", "javascript"});
+    {
+        const OpenedLink link("My Link", 0);
+        const OpeningCause cause("because");
+        QVERIFY(QDesktopServices::openUrl(address));
+    }
+    QStringList expected;
+    for (const QString& outcome : qAsConst(outcomes))
+        expected.append("My Link | because | " + outcome);
+    QTRY_COMPARE(heard, expected);
+    QTRY_VERIFY(!hasChildProcesses());
+    QCOMPARE(heard, expected);
+}
+
+void LinkOpenerTest::saysThatTheUserAgreed()
+{
+    QStringList heard;
+    const RecordingDesktop desktop;
+    LinkOpener opener;
+    opener.takeOver({"sms"});
+    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    Opening::setListener([&heard](const Decision& decision) {
+        heard.append(decision.what + " | " + decision.cause + " | " + decision.outcome);
+    });
+    clickButton(notice(), QMessageBox::Yes);
+    QTRY_COMPARE(heard, QStringList("sms:1 | You agreed to it | Opened"));
 }
 
 void LinkOpenerTest::tellsAllFailuresInOneNotice()

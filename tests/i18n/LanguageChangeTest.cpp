@@ -229,7 +229,7 @@ void LanguageChangeTest::windowFollows_data()
         << "main"
         << "&About Vellum Connect; &Connection; &Edit; &Find a Quick Link; &Help; &Language; &Plug-ins Left Out…; "
            "&Quick Links; &Quit; &Redo; "
-           "&Settings…; &Status Bar; &System Language; &Tools; &Undo; &View; Co&nnect; Not connected; "
+           "&Settings…; &Status Bar; &System Language; &Tools; &Undo; &View; &Why…; Co&nnect; Not connected; "
            "Press Connect when your connection is up.; Quick Links";
     QTest::newRow("page") << "page"
                           << "&Down; &Edit…; &New…; &Up; Cancel; De&lete; Links open in this order:; Quick Links; "

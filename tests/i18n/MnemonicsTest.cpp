@@ -15,11 +15,13 @@
 #include "ConnectionMonitor.h"
 #include "ConnectionPage.h"
 #include "ConnectionPanel.h"
+#include "Decisions.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
 #include "Test.h"
+#include "WhyWindow.h"
 
 namespace
 {
@@ -73,6 +75,8 @@ private Q_SLOTS:
     void inMainWindow();
     void inSettings_data() { addLanguageRows(); }
     void inSettings();
+    void inWhyWindow_data() { addLanguageRows(); }
+    void inWhyWindow();
     void inLinkDialog_data() { addLanguageRows(); }
     void inLinkDialog();
 };
@@ -114,6 +118,18 @@ void MnemonicsTest::inSettings()
         QVERIFY(texts.size() > 5);
         QCOMPARE(clashes(texts), QString());
     }
+}
+
+void MnemonicsTest::inWhyWindow()
+{
+    QFETCH(QString, language);
+    const ShownLanguage shown(language);
+    const Decisions decisions;
+    WhyWindow window(decisions, nullptr);
+    window.show();
+    const QStringList texts = labelsIn(&window);
+    QCOMPARE(texts.size(), 3);
+    QCOMPARE(clashes(texts), QString());
 }
 
 void MnemonicsTest::inLinkDialog()

@@ -10,6 +10,7 @@
 #include "ConnectionMonitor.h"
 #include "ConnectionPage.h"
 #include "ConnectionPanel.h"
+#include "Decisions.h"
 #include "GeneralPage.h"
 #include "HistoryPage.h"
 #include "LanguageMenu.h"
@@ -18,6 +19,7 @@
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
 #include "Test.h"
+#include "WhyWindow.h"
 
 class ScreenReaderTest : public QObject
 {
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void mainWindow();
     void settings_data() { addLanguageRows(); }
     void settings();
+    void whyWindow_data() { addLanguageRows(); }
+    void whyWindow();
     void linkDialog_data() { addLanguageRows(); }
     void linkDialog();
 };
@@ -107,6 +111,19 @@ void ScreenReaderTest::settings()
         QCOMPARE(unspoken(windows.settings(), count).join("; "), QString());
         QVERIFY2(count > 8, qPrintable(QString::number(count)));
     }
+}
+
+void ScreenReaderTest::whyWindow()
+{
+    QFETCH(QString, language);
+    const ShownLanguage shown(language);
+    Decisions decisions;
+    decisions.add({QDateTime::currentDateTime(), "Link", "cause", "outcome"});
+    WhyWindow window(decisions, nullptr);
+    window.show();
+    int count = 0;
+    QCOMPARE(unspoken(&window, count).join("; "), QString());
+    QVERIFY2(count > 4, qPrintable(QString::number(count)));
 }
 
 void ScreenReaderTest::linkDialog()

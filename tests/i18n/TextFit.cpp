@@ -36,6 +36,7 @@ struct Place {
     QRect rect;           ///< in the widget
     bool isRow = false;   ///< in a row whose height is not the text's
     bool isPlain = false; ///< ampersands are shown
+    int flags = Qt::AlignCenter | Qt::TextSingleLine;
 };
 
 QString withoutMnemonic(const QString& text)
@@ -74,26 +75,33 @@ int rowsLost(const QImage& whole, const QImage& cut)
     return rows;
 }
 
+int widthOf(const QString& text, const Place& place)
+{
+    if (!(place.flags & Qt::TextWordWrap))
+        return QFontMetrics(place.font).size(Qt::TextSingleLine, text).width();
+    const QRect room(0, 0, place.rect.width(), QWIDGETSIZE_MAX);
+    return QFontMetrics(place.font).boundingRect(room, place.flags, text).width();
+}
+
 /** How many rows of a text's ink do not show when it is drawn in its place, as the style does. */
 int missingHeight(const QString& text, const Place& place, const QRect& visible)
 {
     const int margin = place.font.pointSize() * 4;
-    const int width = QFontMetrics(place.font).size(Qt::TextSingleLine, text).width();
+    const int width = place.flags & Qt::TextWordWrap ? place.rect.width() - 2 : widthOf(text, place);
     // Wider than the text, which else would be clipped on all sides.
     const QRect rect(margin, margin + place.rect.top(), width + 2, place.rect.height());
     QImage whole(width + 2 * margin, place.widget->height() + 2 * margin, QImage::Format_Grayscale8);
     whole.fill(Qt::white);
     QImage cut = whole;
-    const int flags = Qt::AlignCenter | Qt::TextSingleLine;
 
     QPainter wholePainter(&whole);
     wholePainter.setFont(place.font);
-    wholePainter.drawText(rect, flags | Qt::TextDontClip, text);
+    wholePainter.drawText(rect, place.flags | Qt::TextDontClip, text);
     wholePainter.end();
     QPainter cutPainter(&cut);
     cutPainter.setFont(place.font);
     cutPainter.setClipRect(QRect(0, margin + visible.top(), cut.width(), visible.height()));
-    cutPainter.drawText(rect, flags, text);
+    cutPainter.drawText(rect, place.flags, text);
     cutPainter.end();
     return rowsLost(whole, cut);
 }
@@ -198,7 +206,7 @@ QString verdict(const Place& place)
     // What lies outside of a parent does not show.
     const QRect visible = place.widget->visibleRegion().boundingRect();
     const QRect rect = place.rect & visible;
-    const int width = QFontMetrics(place.font).size(Qt::TextSingleLine, text).width() - rect.width();
+    const int width = widthOf(text, place) - rect.width();
     const int height = place.isRow ? 0 : missingHeight(text, place, visible);
     if (width <= 0 && height <= 0)
         return QString();
@@ -214,7 +222,8 @@ QList<Place> placesOf(const QLabel* label)
 {
     if (label->wordWrap())
         return {}; // See verdictOnWrapped().
-    return {Place{label, label->text(), label->font(), label->contentsRect()}};
+    const int margin = label->margin();
+    return {Place{label, label->text(), label->font(), label->contentsRect().adjusted(margin, margin, -margin, -margin)}};
 }
 
 int inkHeightOf(QWidget* widget)

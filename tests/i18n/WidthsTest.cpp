@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The plug-in's windows, whose sizes are fixed in pixels, show their texts whole in every language and size of letters,
-// and so does the program's page with the longest ones.
+// and so do the program's page with the longest ones and the window of the decisions.
 
 #include <QApplication>
 #include <QFontInfo>
@@ -13,11 +13,13 @@
 
 #include "Catalogue.h"
 #include "ConnectionPage.h"
+#include "Decisions.h"
 #include "LetterScale.h"
 #include "PluginWindows.h"
 #include "ShownLanguage.h"
 #include "Test.h"
 #include "TextFit.h"
+#include "WhyWindow.h"
 
 class WidthsTest : public QObject
 {
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void pageShowsItsTexts();
     void ownPageShowsItsTexts_data() { addRows(); }
     void ownPageShowsItsTexts();
+    void whyWindowShowsItsTexts_data() { addRows(); }
+    void whyWindowShowsItsTexts();
     void dialogShowsItsTexts_data() { addRows(); }
     void dialogShowsItsTexts();
 
@@ -128,6 +132,21 @@ void WidthsTest::ownPageShowsItsTexts()
     QCoreApplication::processEvents();
     QVERIFY(page->isVisible());
     const QStringList cut = cutTexts(windows.settings());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+}
+
+void WidthsTest::whyWindowShowsItsTexts()
+{
+    QFETCH(QString, language);
+    QFETCH(double, points);
+    useFont(points);
+    const ShownLanguage shown(language);
+    QVERIFY(shown.isKnown());
+    const Decisions decisions;
+    WhyWindow window(decisions, nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QStringList cut = cutTexts(&window);
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
 }
 

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void serviceIsGoneWhileItAsks();
     void waitsUntilTheServiceIsKnown_data();
     void waitsUntilTheServiceIsKnown();
+    void saysWhatItKeepsBack();
     void tellsDownWhenItStaysAway();
     void knowsSinceWhen();
     void userTellsWithoutService();
@@ -210,6 +211,22 @@ void ConnectionMonitorTest::waitsUntilTheServiceIsKnown()
     m_source->become("b");
     QCOMPARE(m_told.size(), id.isEmpty() ? 1 : 0);
     QCOMPARE(m_monitor->upSince().isValid(), true);
+}
+
+void ConnectionMonitorTest::saysWhatItKeepsBack()
+{
+    QStringList kept;
+    connect(m_monitor.get(), &ConnectionMonitor::keptBack, this,
+            [&kept](const QString& reason) { kept.append(reason); });
+    m_source->become("a");
+    start();
+    m_source->become(QString());
+    m_source->become("a");
+    // No change, no decision.
+    m_source->become("a");
+    QCOMPARE(kept, QStringList({"was up before the program was there", "down, waiting whether it comes back",
+                                "handed over, not a new connection"}));
+    QCOMPARE(m_told, QStringList());
 }
 
 void ConnectionMonitorTest::tellsDownWhenItStaysAway()

@@ -61,6 +61,8 @@ PlayedService::PlayedService(const QString& name)
 PlayedService::~PlayedService()
 {
     m_bus.unregisterObject("/", QDBusConnection::UnregisterTree);
+    // Another one may want the name at once.
+    m_bus.unregisterService(m_name);
     QDBusConnection::disconnectFromBus(m_name);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "TransitionRules.h"
+#include "ConnectionReasons.h"
 #include "Test.h"
 
 using Reach = ConnectionState::Reach;
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void table();
     void saysWhyForEveryAnnouncement();
     void isSilentWhenNothingChanges();
+    void reasonsAreThoseThatAreTranslated();
 };
 
 namespace
@@ -107,23 +109,30 @@ static Play play(const QString& events)
     return play;
 }
 
+/** The rows of the page: case, what happens, and what is told. */
+static QList<QStringList> rowsOfThePage()
+{
+    QFile file(QString(RULES));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("The page of the rules cannot be read");
+    QList<QStringList> rows;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    for (const QString& line : lines) {
+        const QStringList cells = line.split(" | ");
+        if (cells.size() == 3 && cells.at(1).startsWith('0'))
+            rows.append({cells.first().mid(2), cells.at(1), cells.last().chopped(2)});
+    }
+    return rows;
+}
+
 void TransitionRulesTest::table_data()
 {
     QTest::addColumn<QString>("events");
     QTest::addColumn<QString>("expected");
-
-    QFile file(QString(RULES));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
-    int rows = 0;
-    for (const QString& line : lines) {
-        const QStringList cells = line.split(" | ");
-        if (cells.size() != 3 || !cells.at(1).startsWith('0'))
-            continue;
-        QTest::newRow(qPrintable(cells.first().mid(2))) << cells.at(1) << cells.last().chopped(2);
-        ++rows;
-    }
-    QCOMPARE(rows, 74);
+    const QList<QStringList> rows = rowsOfThePage();
+    for (const QStringList& row : rows)
+        QTest::newRow(qPrintable(row.at(0))) << row.at(1) << row.at(2);
+    QCOMPARE(rows.size(), 74);
 }
 
 void TransitionRulesTest::table()
@@ -150,6 +159,24 @@ void TransitionRulesTest::isSilentWhenNothingChanges()
                           "2 up a, 2.1 up a, 2.2 up a portal, 3 down, 3.1 down");
     QCOMPARE(all.reasons, QStringList({"up, waiting to be in the Internet", "up and in the Internet",
                                        "down, waiting whether it comes back"}));
+}
+
+/** Else the user would see a sentence in English, or translators have work for nothing. */
+void TransitionRulesTest::reasonsAreThoseThatAreTranslated()
+{
+    // The one that the monitor finds out by itself.
+    QSet<QString> used{"was down again when asked, not told"};
+    const QList<QStringList> rows = rowsOfThePage();
+    for (const QStringList& row : rows) {
+        const QStringList reasons = play(row.at(1)).reasons;
+        for (const QString& reason : reasons)
+            used.insert(reason);
+    }
+    QSet<QString> listed;
+    for (const char* const reason : connectionReasons)
+        listed.insert(reason);
+    QCOMPARE(QStringList((used - listed).values()), QStringList());
+    QCOMPARE(QStringList((listed - used).values()), QStringList());
 }
 
 REGISTER_TEST(TransitionRulesTest)

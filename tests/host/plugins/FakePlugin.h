@@ -5,8 +5,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMainWindow>
 #include <QPointer>
+#include <QUrl>
 #include <QWidget>
 
 #include "FakeAnswers.h"
@@ -22,6 +24,7 @@
  *   links      names of its links; an empty one has no action
  *   linkCount  how many links it claims to have, where that is another number
  *   answer     to a notification
+ *   opens      an address that it opens at a notification and where one of its links is launched
  *   caption    of its settings page; empty for none
  *   isInactive whether its page takes no part in the dialog
  *   isPageless whether it shows no page although it has a caption
@@ -65,6 +68,7 @@ public:
     int Notify(unsigned int code, unsigned int param1, unsigned int param2) override
     {
         record(QString("Notify %1 %2 %3").arg(code).arg(param1).arg(param2));
+        open();
         return property("answer").toInt();
     }
 
@@ -83,6 +87,7 @@ public:
     {
         const bool isOwn = findChildren<QAction*>().contains(action);
         record(isOwn ? "launched " + action->text() : "launched a foreign action");
+        open();
     }
 
     int OnClickSettingOkButton() override
@@ -121,6 +126,12 @@ public:
 
 private:
     void record(const QString& event) const { recordEvent(objectName() + ' ' + event); }
+    void open() const
+    {
+        const QString address = property("opens").toString();
+        if (!address.isEmpty())
+            QDesktopServices::openUrl(QUrl(address));
+    }
 
     QPointer<QWidget> m_page;
 };
