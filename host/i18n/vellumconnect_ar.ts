@@ -563,10 +563,6 @@
         <source>This is too long to be opened:</source>
         <translation>هذا أطول من أن يُفتح:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>لقد وافقت عليه</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -741,6 +737,10 @@
     <message>
         <source>Unknown link</source>
         <translation>رابط غير معروف</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>لم يُفتح: لم توافق</translation>
     </message>
 </context>
 <context>

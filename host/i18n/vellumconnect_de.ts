@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation>Dies ist zu lang, um geöffnet zu werden:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Sie haben zugestimmt</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Unbekannter Link</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Nicht geöffnet: Sie haben nicht zugestimmt</translation>
     </message>
 </context>
 <context>

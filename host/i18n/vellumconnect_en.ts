@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -720,6 +716,10 @@
     </message>
     <message>
         <source>Unknown link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

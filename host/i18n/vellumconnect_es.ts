@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation>Esto es demasiado largo para abrirlo:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Usted lo aceptó</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Enlace desconocido</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>No abierto: usted no lo aceptó</translation>
     </message>
 </context>
 <context>

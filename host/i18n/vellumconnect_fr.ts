@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation>Ceci est trop long pour être ouvert&#xa0;:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Vous avez accepté</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Lien inconnu</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Non ouvert&#xa0;: vous n’avez pas accepté</translation>
     </message>
 </context>
 <context>

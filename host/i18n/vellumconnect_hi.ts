@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation>यह खोलने के लिए बहुत लंबा है:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>आपने अनुमति दी</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>अज्ञात लिंक</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>नहीं खुला: आपने अनुमति नहीं दी</translation>
     </message>
 </context>
 <context>

@@ -538,10 +538,6 @@
         <source>This is too long to be opened:</source>
         <translation>長すぎるため開けません:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>許可されました</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -716,6 +712,10 @@
     <message>
         <source>Unknown link</source>
         <translation>不明なリンク</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>開けませんでした: 許可されませんでした</translation>
     </message>
 </context>
 <context>

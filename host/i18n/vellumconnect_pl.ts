@@ -548,10 +548,6 @@
         <source>This is too long to be opened:</source>
         <translation>To jest zbyt długie, aby to otworzyć:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Zgoda została udzielona</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -726,6 +722,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Nieznany odnośnik</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Nie otwarto: brak zgody</translation>
     </message>
 </context>
 <context>

@@ -543,10 +543,6 @@
         <source>This is too long to be opened:</source>
         <translation>Isto é longo demais para ser aberto:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Você concordou</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Atalho desconhecido</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Não aberto: você não concordou</translation>
     </message>
 </context>
 <context>

@@ -543,10 +543,6 @@
         <source>Not opened</source>
         <translation>Não aberto</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Deu o seu acordo</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -721,6 +717,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Atalho desconhecido</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Não aberto: não deu o seu acordo</translation>
     </message>
 </context>
 <context>

@@ -548,10 +548,6 @@
         <source>This is too long to be opened:</source>
         <translation>Это слишком длинно, чтобы открыть:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Вы согласились</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -726,6 +722,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Неизвестная ссылка</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Не открыто: вы не согласились</translation>
     </message>
 </context>
 <context>

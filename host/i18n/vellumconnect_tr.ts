@@ -538,10 +538,6 @@
         <source>This is too long to be opened:</source>
         <translation>Bu, açılamayacak kadar uzun:</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>Siz onayladınız</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -716,6 +712,10 @@
     <message>
         <source>Unknown link</source>
         <translation>Bilinmeyen kısayol</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Açılmadı: onaylamadınız</translation>
     </message>
 </context>
 <context>

@@ -538,10 +538,6 @@
         <source>This is too long to be opened:</source>
         <translation>此项太长，无法打开：</translation>
     </message>
-    <message>
-        <source>You agreed to it</source>
-        <translation>您已同意</translation>
-    </message>
 </context>
 <context>
     <name>LinkTable</name>
@@ -716,6 +712,10 @@
     <message>
         <source>Unknown link</source>
         <translation>未知链接</translation>
+    </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>未打开：您未同意</translation>
     </message>
 </context>
 <context>
