@@ -813,6 +813,10 @@
         <source>Unknown link</source>
         <translation>رابط غير معروف</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>لم يُفتح: لم توافق</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

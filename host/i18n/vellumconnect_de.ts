@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation>Unbekannter Link</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Nicht geöffnet: Sie haben nicht zugestimmt</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

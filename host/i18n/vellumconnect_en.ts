@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation>Enlace desconocido</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>No abierto: usted no lo aceptó</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

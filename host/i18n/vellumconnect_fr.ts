@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation>Lien inconnu</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Non ouvert&#xa0;: vous n’avez pas accepté</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

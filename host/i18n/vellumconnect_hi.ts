@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation>अज्ञात लिंक</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>नहीं खुला: आपने अनुमति नहीं दी</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

@@ -788,6 +788,10 @@
         <source>Unknown link</source>
         <translation>不明なリンク</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>開けませんでした: 許可されませんでした</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

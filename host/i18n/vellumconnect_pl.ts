@@ -798,6 +798,10 @@
         <source>Unknown link</source>
         <translation>Nieznany odnośnik</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Nie otwarto: brak zgody</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

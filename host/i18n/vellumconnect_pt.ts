@@ -793,6 +793,10 @@
         <source>Unknown link</source>
         <translation>Atalho desconhecido</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Não aberto: você não concordou</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

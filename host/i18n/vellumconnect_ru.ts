@@ -798,6 +798,10 @@
         <source>Unknown link</source>
         <translation>Неизвестная ссылка</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Не открыто: вы не согласились</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

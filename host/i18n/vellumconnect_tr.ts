@@ -788,6 +788,10 @@
         <source>Unknown link</source>
         <translation>Bilinmeyen kısayol</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>Açılmadı: onaylamadınız</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

@@ -788,6 +788,10 @@
         <source>Unknown link</source>
         <translation>未知链接</translation>
     </message>
+    <message>
+        <source>Not opened: you did not agree</source>
+        <translation>未打开：您未同意</translation>
+    </message>
 </context>
 <context>
     <name>OpeningCause</name>

@@ -39,6 +39,11 @@ void Opening::wait() const
     tell(tr("You were asked first"));
 }
 
+void Opening::decline() const
+{
+    tell(tr("Not opened: you did not agree"));
+}
+
 void Opening::refuse(const QString& reason) const
 {
     tell(tr("Not opened: %1").arg(withoutColon(reason)));

@@ -18,6 +18,9 @@ public:
     /** Who hears what came of openings. */
     typedef std::function<void(const Decision& decision)> Listener;
 
+    /** Of nothing, for containers only. */
+    Opening() {}
+
     /** target is being opened now, an address or a path: for the current link (OpenedLink) and OpeningCause. */
     explicit Opening(const QString& target);
 
@@ -29,6 +32,9 @@ public:
 
     /** The user is asked first. */
     void wait() const;
+
+    /** The user did not agree. */
+    void decline() const;
 
     /** It is not opened, for a reason as showNotice() tells it. */
     void refuse(const QString& reason) const;

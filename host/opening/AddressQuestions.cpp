@@ -52,6 +52,8 @@ void AddressQuestions::askNext()
     connect(box, &QMessageBox::finished, this, [this, address](int answer) {
         if (answer == QMessageBox::Yes)
             Q_EMIT agreed(address);
+        else
+            Q_EMIT declined(address);
     });
     // However it ends; later, because the window that the next one would belong to may be going as well.
     connect(box, &QObject::destroyed, this, &AddressQuestions::goOn, Qt::QueuedConnection);

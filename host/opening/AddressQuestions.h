@@ -33,6 +33,9 @@ Q_SIGNALS:
     /** The user said yes to this address. */
     void agreed(const QString& address);
 
+    /** The user said no to it, or closed the question. */
+    void declined(const QString& address);
+
 private:
     void askNext();
     void goOn();

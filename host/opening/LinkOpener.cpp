@@ -13,8 +13,6 @@
 #include "EntryRun.h"
 #include "LinkPath.h"
 #include "Notice.h"
-#include "Opening.h"
-#include "OpeningCause.h"
 #include "ProgramRun.h"
 #include "SchemeRules.h"
 
@@ -28,9 +26,10 @@ LinkOpener::LinkOpener(const AgreedAddresses& agreed)
     connect(&m_questions, &AddressQuestions::agreed, this, [this](const QString& address) {
         if (m_agreed.add)
             m_agreed.add(address);
-        const OpeningCause cause(tr("You agreed to it"));
-        handToDesktop(address, Opening(address));
+        handToDesktop(address, m_asked.take(address));
     });
+    connect(&m_questions, &AddressQuestions::declined, this,
+            [this](const QString& address) { m_asked.take(address).decline(); });
 }
 
 LinkOpener::~LinkOpener()
@@ -123,9 +122,15 @@ void LinkOpener::ask(const QString& address, const Opening& opening)
     if (m_agreed.contains && m_agreed.contains(address))
         handToDesktop(address, opening);
     else if (m_questions.ask(address))
-        opening.wait();
+        waitFor(address, opening);
     else
         refuse(tr("Too many questions wait for an answer to ask about this address, too:"), address, opening);
+}
+
+void LinkOpener::waitFor(const QString& address, const Opening& opening)
+{
+    m_asked.insert(address, opening);
+    opening.wait();
 }
 
 void LinkOpener::handToDesktop(const QString& target, const Opening& opening)

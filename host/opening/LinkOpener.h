@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -11,8 +12,8 @@
 #include <functional>
 
 #include "AddressQuestions.h"
+#include "Opening.h"
 
-class Opening;
 class QUrl;
 
 /** What is known of the addresses that the user has agreed to, spelt exactly so. Without functions, nothing is kept. */
@@ -54,6 +55,7 @@ private:
     void startProgram(const QString& path, const Opening& opening);
     void startEntry(const QString& path, const Opening& opening);
     void ask(const QString& address, const Opening& opening);
+    void waitFor(const QString& address, const Opening& opening);
     void handToDesktop(const QString& target, const Opening& opening);
     // Both tell the user.
     static void refuse(const QString& reason, const QString& target, const Opening& opening);
@@ -62,4 +64,5 @@ private:
     const AgreedAddresses m_agreed;
     QSet<QString> m_schemes; ///< those taken over
     AddressQuestions m_questions;
+    QHash<QString, Opening> m_asked; ///< by the addresses that the user is asked about, each for whom it was last
 };

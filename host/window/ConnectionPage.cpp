@@ -3,7 +3,6 @@
 
 #include "ConnectionPage.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QEvent>
 #include <QRadioButton>
@@ -26,13 +25,6 @@ QLayout* indented(QWidget* part, const QRadioButton* above)
                     style->pixelMetric(QStyle::PM_RadioButtonLabelSpacing));
     row->addWidget(part, 1);
     return row;
-}
-
-void newGroup(const QList<QRadioButton*>& buttons, QObject* owner)
-{
-    QButtonGroup* const group = new QButtonGroup(owner);
-    for (QRadioButton* const button : buttons)
-        group->addButton(button);
 }
 
 QVBoxLayout* newColumn(QWidget* part)
@@ -74,8 +66,10 @@ ConnectionPage::ConnectionPage(const ConnectionChoice& choice, bool isForNextTim
     m_runNote->setVisible(isForNextTime);
 
     // By itself the toolkit takes the buttons of a part for those of the whole page, too.
-    newGroup({m_mobile, m_any, m_manual}, this);
-    newGroup({m_anyPlan, m_somePlans}, this);
+    for (QRadioButton* const button : {m_mobile, m_any, m_manual})
+        m_kinds.addButton(button);
+    for (QRadioButton* const button : {m_anyPlan, m_somePlans})
+        m_anyOrSome.addButton(button);
 
     // Not toggled(): what the program sets is no choice.
     for (QRadioButton* const button : {m_mobile, m_any, m_manual, m_anyPlan, m_somePlans})

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QButtonGroup>
 #include <QList>
 
 #include "ConnectionChoice.h"
@@ -62,6 +63,8 @@ private:
     ConnectionChoice m_choice; ///< that the user made last
     Answer m_answer = Answer::Awaited;
     QList<Plan> m_plans;
+    QButtonGroup m_kinds;
+    QButtonGroup m_anyOrSome;
     QLabel* m_runNote = nullptr;
     QRadioButton* m_mobile = nullptr;
     QWidget* m_mobilePart = nullptr;

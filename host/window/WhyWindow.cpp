@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -56,7 +57,8 @@ WhyWindow::WhyWindow(const Decisions& decisions, QWidget* parent)
     connect(&m_decisions, &Decisions::added, this, &WhyWindow::listNewest);
     setTexts();
     listAll();
-    resize(760, 400);
+    // Room for a whole sentence, where the screen has it: with large letters it is small.
+    resize(QSize(920, 400).boundedTo(QGuiApplication::primaryScreen()->availableSize() * 0.9));
     m_list->setFocus();
 }
 

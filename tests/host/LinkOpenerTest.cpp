@@ -49,7 +49,8 @@ private Q_SLOTS:
     void neverOpensScripts();
     void saysWhatCameOfIt_data();
     void saysWhatCameOfIt();
-    void saysThatTheUserAgreed();
+    void saysWhatTheUserAnswered_data();
+    void saysWhatTheUserAnswered();
     void tellsAllFailuresInOneNotice();
     void givesTheSchemesBack();
 
@@ -405,18 +406,33 @@ void LinkOpenerTest::saysWhatCameOfIt()
     QCOMPARE(heard, expected);
 }
 
-void LinkOpenerTest::saysThatTheUserAgreed()
+void LinkOpenerTest::saysWhatTheUserAnswered_data()
 {
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("outcome");
+    QTest::newRow("yes") << int(QMessageBox::Yes) << "Opened";
+    QTest::newRow("no") << int(QMessageBox::No) << "Not opened: you did not agree";
+}
+
+void LinkOpenerTest::saysWhatTheUserAnswered()
+{
+    QFETCH(int, answer);
+    QFETCH(QString, outcome);
     QStringList heard;
-    const RecordingDesktop desktop;
-    LinkOpener opener;
-    opener.takeOver({"sms"});
-    QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
     Opening::setListener([&heard](const Decision& decision) {
         heard.append(decision.what + " | " + decision.cause + " | " + decision.outcome);
     });
-    clickButton(notice(), QMessageBox::Yes);
-    QTRY_COMPARE(heard, QStringList("sms:1 | You agreed to it | Opened"));
+    const RecordingDesktop desktop;
+    LinkOpener opener;
+    opener.takeOver({"sms"});
+    {
+        const OpenedLink link("My Link", 0);
+        const OpeningCause cause("because");
+        QVERIFY(QDesktopServices::openUrl(QUrl("sms:1")));
+    }
+    clickButton(notice(), QMessageBox::StandardButton(answer));
+    // Link and cause are those of the question.
+    QTRY_COMPARE(heard, QStringList({"My Link | because | You were asked first", "My Link | because | " + outcome}));
 }
 
 void LinkOpenerTest::tellsAllFailuresInOneNotice()

@@ -96,6 +96,7 @@ void OpeningTest::saysWhatCameOfIt()
     const QDateTime before = QDateTime::currentDateTime();
     opening.succeed();
     opening.wait();
+    opening.decline();
     opening.refuse("No:");
     opening.fail("Broken:");
     QStringList outcomes;
@@ -105,7 +106,8 @@ void OpeningTest::saysWhatCameOfIt()
         QCOMPARE(m_told.at(i).cause, "because");
         QVERIFY(m_told.at(i).time >= before && m_told.at(i).time <= QDateTime::currentDateTime());
     }
-    QCOMPARE(outcomes.join("|"), "Opened|You were asked first|Not opened: No|Failed: Broken");
+    QCOMPARE(outcomes.join("|"),
+             "Opened|You were asked first|Not opened: you did not agree|Not opened: No|Failed: Broken");
 }
 
 void OpeningTest::endsReasonsWithoutColon_data()

@@ -23,6 +23,7 @@ private Q_SLOTS:
 
     void listsNewestFirst();
     void followsTheListWhileItIsOpen();
+    void fitsTheScreen();
     void makesRoomForNewRows();
     void showsNamesAsTheyStand();
     void keepsTheDirectionOfNames();
@@ -96,6 +97,14 @@ void WhyWindowTest::followsTheListWhileItIsOpen()
     QCOMPARE(names().constLast(), "2");
     QCOMPARE(list().selectedItems().size(), 1);
     QCOMPARE(list().selectedItems().constFirst()->text(1), "200");
+}
+
+void WhyWindowTest::fitsTheScreen()
+{
+    // The screen of the tests is smaller than what the window would like.
+    const QSize screen = screenArea(m_window.get()).size();
+    QVERIFY(screen.width() < 920);
+    QVERIFY(m_window->width() < screen.width());
 }
 
 void WhyWindowTest::makesRoomForNewRows()
