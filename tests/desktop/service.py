@@ -16,17 +16,18 @@ from waiting import wait_for
 class Service:
     """A process with a name on the system or session bus of this environment, there when the constructor returns."""
 
-    def __init__(self, name, command, bus="SYSTEM", output=subprocess.DEVNULL):
+    def __init__(self, name, command, bus="SYSTEM", log=os.devnull):
         self.name = name
         self._command = command
-        self._output = output
+        self._log = log
         self._bus = dbus.bus.BusConnection(os.environ[f"DBUS_{bus}_BUS_ADDRESS"])
         self.start()
 
     def start(self):
         """Once more, after `kill`."""
-        self._process = subprocess.Popen(self._command, stdin=subprocess.DEVNULL, stdout=self._output,
-                                         stderr=self._output, preexec_fn=die_with_parent)
+        with open(self._log, "ab") as output:
+            self._process = subprocess.Popen(self._command, stdin=subprocess.DEVNULL, stdout=output, stderr=output,
+                                             preexec_fn=die_with_parent)
         wait_for(lambda: self._bus.name_has_owner(self.name), f"{self.name} on the bus")
 
     def at(self, path, interface):

@@ -3,21 +3,53 @@
 
 """Cables of this network into another one, which stands for the rest of the world."""
 
-from namespaces import run
+import sys
+from pathlib import Path
+
+from namespaces import FOLDER, run
 from network_manager import Connection
+from session import Program
+from waiting import wait_for
 
 _OUTSIDE = "outside"
+
+
+_INSIDE_OF = ("ip", "netns", "exec", _OUTSIDE)
+_SERVER = "10.255.255.1"  # far behind every cable
 
 
 def make_outside():
     """Once for all cables."""
     run("ip", "netns", "add", _OUTSIDE)
     outside("ip", "link", "set", "lo", "up")
+    outside("ip", "address", "add", f"{_SERVER}/32", "dev", "lo")
 
 
 def outside(*command):
     """Runs a command in the other network."""
-    return run("ip", "netns", "exec", _OUTSIDE, *command)
+    return run(*_INSIDE_OF, *command)
+
+
+class Reach:
+    """Says how far every cable lets one go, by a page in the other network."""
+
+    settings = f"uri=http://{_SERVER}/\n"  # where NetworkManager finds it
+
+    def __init__(self, folder, reach):
+        self._file = folder / "reach"
+        self.set(reach)
+        self._server = Program([*_INSIDE_OF, sys.executable, "-B", FOLDER / "web_server.py", _SERVER, "80", self._file],
+                               folder / "reach.log")
+        wait_for(lambda: self._server.output(), "the page")
+
+    def set(self, reach):
+        """"full", "portal", "limited", or "hang": who asks waits."""
+        unfinished = self._file.with_suffix(".unfinished")
+        unfinished.write_text(reach, encoding="ascii")
+        unfinished.rename(self._file)
+
+    def close(self):
+        self._server.close()
 
 
 class Cable(Connection):
@@ -41,5 +73,9 @@ class Cable(Connection):
     def unplug(self):
         outside("ip", "link", "set", self._far, "down")
 
-    def close(self):
+    def remove(self):
         run("ip", "link", "delete", self.device)
+
+    def close(self):
+        if Path("/sys/class/net", self.device).exists():
+            self.remove()

@@ -27,11 +27,10 @@ class NetworkManager(Service):
         (folder / "conf").write_text(
             "[main]\nplugins=keyfile\nauth-polkit=false\ndns=none\nrc-manager=unmanaged\nno-auto-default=*\n"
             f"hostname-mode=none\n[keyfile]\npath={folder}/connections\n[connectivity]\n{connectivity}", encoding="utf-8")
-        with open(folder / "log", "wb") as log:
-            super().__init__(NAME, [
-                "NetworkManager", "--debug", f"--config={folder}/conf", f"--config-dir={folder}/conf.d",
-                f"--system-config-dir={folder}/system", f"--intern-config={folder}/intern",
-                f"--state-file={folder}/state", f"--pid-file={folder}/pid"], output=log)
+        super().__init__(NAME, [
+            "NetworkManager", "--debug", f"--config={folder}/conf", f"--config-dir={folder}/conf.d",
+            f"--system-config-dir={folder}/system", f"--intern-config={folder}/intern", f"--state-file={folder}/state",
+            f"--pid-file={folder}/pid"], log=folder / "log")
 
     def start(self):
         super().start()
@@ -67,6 +66,10 @@ class Connection:
         for setting, value in settings.items():
             run("nmcli", "connection", "modify", self.name, _setting(setting), value)
         self.name = settings.get("connection_id", self.name)
+
+    def state(self):
+        """Such as "activated"; empty while it is down."""
+        return run("nmcli", "--get-values", "GENERAL.STATE", "connection", "show", self.name).strip()
 
     def up(self):
         """Brings it up, and waits until it is."""
