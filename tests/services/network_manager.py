@@ -26,7 +26,9 @@ class NetworkManager(Service):
             (folder / name).mkdir()
         (folder / "conf").write_text(
             "[main]\nplugins=keyfile\nauth-polkit=false\ndns=none\nrc-manager=unmanaged\nno-auto-default=*\n"
-            f"hostname-mode=none\n[keyfile]\npath={folder}/connections\n[connectivity]\n{connectivity}", encoding="utf-8")
+            f"hostname-mode=none\n[keyfile]\npath={folder}/connections\n"
+            # As it would let a device of the real pppd alone.
+            f"unmanaged-devices=interface-name:ppp0\n[connectivity]\n{connectivity}", encoding="utf-8")
         super().__init__(NAME, [
             "NetworkManager", "--debug", f"--config={folder}/conf", f"--config-dir={folder}/conf.d",
             f"--system-config-dir={folder}/system", f"--intern-config={folder}/intern", f"--state-file={folder}/state",
