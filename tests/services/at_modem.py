@@ -57,8 +57,8 @@ class AtModem:
                 self._say(client, self._registered(command))
 
     def close(self):
-        """Pulls it out."""
         for connection in (*self._servers, *self._clients):
+            connection.shutdown(socket.SHUT_RDWR)
             connection.close()
 
     def _registered(self, command):

@@ -31,22 +31,31 @@ def outside(*command):
 
 
 class Reach:
-    """Says how far every cable lets one go, by a page in the other network."""
+    """Says how far cables and the plan of a modem let one go, by a page in the other network; all the way at first."""
 
     settings = f"uri=http://{_SERVER}/\n"  # where NetworkManager finds it
 
-    def __init__(self, folder, reach):
-        self._file = folder / "reach"
-        self.set(reach)
-        self._server = Program([*_INSIDE_OF, sys.executable, "-B", FOLDER / "web_server.py", _SERVER, "80", self._file],
-                               folder / "reach.log")
-        wait_for(lambda: self._server.output(), "the page")
+    def __init__(self, folder):
+        """`folder` is made."""
+        folder.mkdir()
+        self._folder = folder
+        self.set_cables("full")
+        self.set_plan("full")
+        self._server = Program([*_INSIDE_OF, sys.executable, "-B", FOLDER / "web_server.py", _SERVER, "80", folder],
+                               folder / "log")
+        wait_for(self._server.output, "the page")
 
-    def set(self, reach):
+    def set_cables(self, reach):
         """"full", "portal", "limited", or "hang": who asks waits."""
-        unfinished = self._file.with_suffix(".unfinished")
+        self._set("10.0", reach)
+
+    def set_plan(self, reach):
+        self._set("10.64", reach)
+
+    def _set(self, network, reach):
+        unfinished = self._folder / "unfinished"
         unfinished.write_text(reach, encoding="ascii")
-        unfinished.rename(self._file)
+        unfinished.rename(self._folder / network)
 
     def close(self):
         self._server.close()

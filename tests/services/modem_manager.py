@@ -16,7 +16,7 @@ from waiting import wait_for
 
 NAME = "org.freedesktop.ModemManager1"
 MANAGER = "/org/freedesktop/ModemManager1"
-GSM = {"gsm_apn": "internet", "ipv4_route__metric": "700"}
+_DEVICE = "/virtual/modem"  # as the service calls the one of the profile "modem"
 
 
 class Polkit(PlayedService):
@@ -34,7 +34,6 @@ class ModemManager(Service):
         """`folder` is made."""
         folder.mkdir()
         self._folder = folder
-        self._profiles = 0
         super().__init__(NAME, ["env", "-C", folder, "ModemManager", "--debug", "--test-enable", "--test-no-udev",
                                 "--test-no-qrtr", "--no-auto-scan"], log=folder / "log")
 
@@ -42,13 +41,27 @@ class ModemManager(Service):
         """Plugs a modem in that is registered with this operator."""
         modem = AtModem(self._folder, operator)
         self.find(modem)
+        self.wait_until_registered()
         return modem
 
     def find(self, modem):
-        """Makes the service know a modem: once it is there, and again after `start`."""
-        self._profiles += 1
-        self.at(MANAGER, f"{NAME}.Test").SetProfile(f"modem{self._profiles}", "generic", list(modem.ports))
-        wait_for(lambda: "registered" in self.state(), "the modem to be registered")
+        """Makes the service know a modem: once it is there, and again after `start` and after sleep."""
+        self.at(MANAGER, f"{NAME}.Test").SetProfile("modem", "generic", list(modem.ports))
+
+    def take_out(self):
+        """Lets the modem vanish from the bus, as one does that is pulled out or loses its power."""
+        self.at(MANAGER, NAME).InhibitDevice(_DEVICE, True)
+        self.wait_until_gone()
+
+    def put_back(self):
+        """After `take_out`: the service begins anew with it."""
+        self.at(MANAGER, NAME).InhibitDevice(_DEVICE, False)
+
+    def wait_until_gone(self):
+        wait_for(lambda: not self.state(), "the end of the modem")
+
+    def wait_until_registered(self):
+        wait_for(lambda: self.state() == "registered", "the modem to be registered")
 
     def state(self):
         """Of the modem, such as "registered"; empty where there is none."""
@@ -60,4 +73,4 @@ class Plan(Connection):
     """The stored connection "Mobile plan", which is down, by whatever modem there is."""
 
     def __init__(self):
-        super().__init__("Mobile plan", "gsm", "*", **GSM)
+        super().__init__("Mobile plan", "gsm", "*", gsm_apn="internet", ipv4_route__metric="700")

@@ -8,6 +8,7 @@ import re
 from bus_calls import BusCalls
 from cable import Cable, make_outside
 from connection_scenario import ConnectionScenario
+from modem_manager import ModemManager, Plan, Polkit
 from network_manager import NetworkManager
 from shown_texts import ShownTexts
 from waiting import wait_for
@@ -33,6 +34,13 @@ class ServiceScenario(ConnectionScenario):
 
     def add_cable(self, number, **settings):
         return self.play(Cable(number, **settings))
+
+    def add_modem(self):
+        """A modem, its service and its stored connection, which is down."""
+        self.play(Polkit())
+        self.modems = self.play(ModemManager(self.folder / "modems"))
+        self.modem = self.play(self.modems.add("Northern Mobile"))
+        return Plan()
 
     def watch_texts(self):
         """The texts that the window shows from now on; see there."""

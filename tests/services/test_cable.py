@@ -46,6 +46,17 @@ class Cables(ServiceScenario):
         self.add_cable(2).up()
         self.expect_opened(2)
 
+    def test_fifty_times_in_a_few_seconds(self):
+        cable = self.add_cable(1)
+        self.start_marked()
+        for _ in range(50):
+            cable.up()
+            cable.down()
+        cable.up()
+        self.expect_opened(1)
+        self.expect_heading("Connected")
+        self.expect_opened_once(cable)
+
     def test_renamed(self):
         cable = self.add_cable(1)
         self.start_marked()

@@ -19,7 +19,7 @@ class Reaches(ServiceScenario):
 
     def setUp(self):
         super().setUp()
-        self.reach = self.play(Reach(self.folder, "full"))
+        self.reach = self.play(Reach(self.folder / "reach"))
         self.cable = self.add_cable(1)
 
     def expect_no_hint(self, hint):
@@ -35,20 +35,20 @@ class Reaches(ServiceScenario):
         self.assertNotIn(OUT_OF_REACH, texts.all())
 
     def test_first_check_hangs_for_a_while(self):
-        self.reach.set("hang")
+        self.reach.set_cables("hang")
         self.start_marked()
         texts = self.watch_texts()
         self.cable.up()
         self.window.find("label", CHECKING)
         self.assertEqual(self.opened.calls(), [])
-        self.reach.set("full")
+        self.reach.set_cables("full")
         self.expect_opened(1)
         self.expect_no_hint(CHECKING)
         self.assertNotIn(OUT_OF_REACH, texts.all())
         self.expect_opened_once(self.cable)
 
     def test_first_check_hangs_for_long(self):
-        self.reach.set("hang")
+        self.reach.set_cables("hang")
         self.start_marked()
         texts = self.watch_texts()
         self.cable.up()
@@ -57,28 +57,28 @@ class Reaches(ServiceScenario):
         self.expect_opened(1)
         self.window.find("label", OUT_OF_REACH)
         self.assertLess(texts.all().index(CHECKING), texts.all().index(OUT_OF_REACH))
-        self.reach.set("full")
+        self.reach.set_cables("full")
         self.expect_no_hint(OUT_OF_REACH)
         self.expect_opened_once(self.cable)
 
     def test_portal(self):
-        self.reach.set("portal")
+        self.reach.set_cables("portal")
         self.start_marked()
         self.cable.up()
         self.expect_opened(1)
         self.window.find("label", LOGIN)
         self.wait_for_log("connection up: up, and a portal wants a login")
-        self.reach.set("full")
+        self.reach.set_cables("full")
         self.expect_no_hint(LOGIN)
         self.expect_opened_once(self.cable)
 
     def test_limited_then_full(self):
-        self.reach.set("limited")
+        self.reach.set_cables("limited")
         self.start_marked()
         self.cable.up()
         self.window.find("label", OUT_OF_REACH)
         self.assertEqual(self.opened.calls(), [])
-        self.reach.set("full")
+        self.reach.set_cables("full")
         self.expect_opened(1)
         self.expect_no_hint(OUT_OF_REACH)
         self.expect_opened_once(self.cable)

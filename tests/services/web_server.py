@@ -3,8 +3,9 @@
 
 """The page by which NetworkManager learns how far a network lets it go.
 
-Usage: web_server.py ADDRESS PORT FILE. The file says what happens to who asks: "full", "portal", "limited" or "hang", which
-lasts until it says something else. Prints a line when it listens."""
+Usage: web_server.py ADDRESS PORT FOLDER. What happens to who asks is in the file named as the first two numbers of the
+asking address, such as "10.0": "full", "portal", "limited" or "hang", which lasts until it says something else. Prints a line
+when it listens."""
 
 import sys
 import time
@@ -27,9 +28,9 @@ class Page(BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(body)
 
-    @staticmethod
-    def _answer():
-        return Path(sys.argv[3]).read_text(encoding="ascii")
+    def _answer(self):
+        name = ".".join(self.client_address[0].split(".")[:2])
+        return Path(sys.argv[3], name).read_text(encoding="ascii")
 
 
 def main():
