@@ -3,7 +3,9 @@
 
 """Runs a file of scenarios with a network and mounts of its own, where services of the system touch nothing of the system.
 
-Usage: namespaces.py FILE [ARGUMENT...]; VELLUM_SERVICES is the folder of services that scripts/packages.sh unpacked."""
+Usage: namespaces.py [--user] FILE [ARGUMENT...]
+  --user  let root be no more inside than an ordinary user is
+VELLUM_SERVICES is the folder of services that scripts/packages.sh unpacked."""
 
 import os
 import subprocess
@@ -13,9 +15,6 @@ from pathlib import Path
 FOLDER = Path(__file__).resolve().parent
 DESKTOP = FOLDER.parent / "desktop"  # what all scenarios share
 SKIPPED = 77  # for ctest
-# An ordinary user becomes root inside, which is root of nothing else.
-UNSHARE = ["unshare", *([] if os.geteuid() == 0 else ["--user", "--map-root-user"]), "--net", "--mount", "--fork",
-           "--kill-child"]
 
 
 def run(*command):
@@ -25,15 +24,18 @@ def run(*command):
     return done.stdout
 
 
-def _enter(services, *command):
+def _enter(services, as_user, command):
     """Becomes this program again, inside."""
     if not (services / "usr/sbin/NetworkManager").exists():
         sys.exit(f"{services} lacks the services; scripts/packages.sh test unpacks them")
-    probe = subprocess.run([*UNSHARE, "true"], capture_output=True, text=True, check=False)
+    # An ordinary user becomes root inside, which is root of nothing else.
+    user = ["--user", "--map-root-user"] if as_user or os.geteuid() != 0 else []
+    unshare = ["unshare", *user, "--net", "--mount", "--fork", "--kill-child"]
+    probe = subprocess.run([*unshare, "true"], capture_output=True, text=True, check=False)
     if probe.returncode != 0:
         print("Skipped, since this system forbids namespaces:", probe.stderr.strip())
         sys.exit(SKIPPED)
-    os.execvp(UNSHARE[0], [*UNSHARE, sys.executable, "-B", __file__, "--inside", *command])
+    os.execvp(unshare[0], [*unshare, sys.executable, "-B", __file__, "--inside", *command])
 
 
 def _furnish(services):
@@ -51,11 +53,12 @@ def _furnish(services):
 
 def main():
     services = Path(os.environ["VELLUM_SERVICES"])
-    if sys.argv[1] != "--inside":
-        _enter(services, *sys.argv[1:])
+    option, *command = sys.argv[1:] if sys.argv[1].startswith("--") else ["", *sys.argv[1:]]
+    if option != "--inside":
+        _enter(services, option == "--user", command)
     _furnish(services)
     os.environ["PYTHONPATH"] = str(DESKTOP)
-    os.execv(sys.executable, [sys.executable, "-B", *sys.argv[2:]])
+    os.execv(sys.executable, [sys.executable, "-B", *command])
 
 
 if __name__ == "__main__":
