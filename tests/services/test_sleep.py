@@ -55,8 +55,9 @@ class Sleep(ServiceScenario):
     def test_back_after_12_seconds(self):
         self.expect_same_connection_after(12)
 
-    def test_back_after_58_seconds(self):
-        self.expect_same_connection_after(58)
+    def test_back_before_the_minute_ends(self):
+        # It takes the services some seconds to bring the connection up where the computer has much to do.
+        self.expect_same_connection_after(54)
 
 
 if __name__ == "__main__":
