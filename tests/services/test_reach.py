@@ -45,7 +45,7 @@ class Reaches(ServiceScenario):
         self.expect_opened(1)
         self.expect_no_hint(CHECKING)
         self.assertNotIn(OUT_OF_REACH, texts.all())
-        self.expect_opened_once(self.cable)
+        self.expect_told("up")
 
     def test_first_check_hangs_for_long(self):
         self.reach.set_cables("hang")
@@ -59,7 +59,7 @@ class Reaches(ServiceScenario):
         self.assertLess(texts.all().index(CHECKING), texts.all().index(OUT_OF_REACH))
         self.reach.set_cables("full")
         self.expect_no_hint(OUT_OF_REACH)
-        self.expect_opened_once(self.cable)
+        self.expect_told("up")
 
     def test_portal(self):
         self.reach.set_cables("portal")
@@ -70,7 +70,7 @@ class Reaches(ServiceScenario):
         self.wait_for_log("connection up: up, and a portal wants a login")
         self.reach.set_cables("full")
         self.expect_no_hint(LOGIN)
-        self.expect_opened_once(self.cable)
+        self.expect_told("up")
 
     def test_limited_then_full(self):
         self.reach.set_cables("limited")
@@ -81,7 +81,7 @@ class Reaches(ServiceScenario):
         self.reach.set_cables("full")
         self.expect_opened(1)
         self.expect_no_hint(OUT_OF_REACH)
-        self.expect_opened_once(self.cable)
+        self.expect_told("up")
 
 
 if __name__ == "__main__":
