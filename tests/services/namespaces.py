@@ -8,6 +8,7 @@ Usage: namespaces.py [--user] FILE [ARGUMENT...]
 VELLUM_SERVICES is the folder of services that scripts/packages.sh unpacked."""
 
 import os
+import shutil
 import subprocess
 import sys
 from pathlib import Path
@@ -43,10 +44,14 @@ def _furnish(services):
     # Without udev nobody tells that a device is ready; a service that cannot write to /sys does not wait for it.
     run("mount", "-t", "sysfs", "-o", "ro", "sysfs", "/sys")
     run("mount", "-t", "tmpfs", "tmpfs", "/run")
-    # The services lie where their packages put them, over what the system has; none of it can be written to.
+    # The services lie where their packages put them, over what the system has; none of it can be written to. They are copies,
+    # since plug-ins that are not root's are refused.
+    ours = Path("/run/root")
     for folder in ("etc", "usr", "var/lib"):
-        layers = [str(layer / folder) for layer in (FOLDER / "root", services, Path("/")) if (layer / folder).is_dir()]
-        run("mount", "-t", "overlay", "-o", f"lowerdir={':'.join(layers)}", "overlay", f"/{folder}")
+        for origin in (services, FOLDER / "root"):
+            if (origin / folder).is_dir():
+                shutil.copytree(origin / folder, ours / folder, symlinks=True, dirs_exist_ok=True)
+        run("mount", "-t", "overlay", "-o", f"lowerdir={ours}/{folder}:/{folder}", "overlay", f"/{folder}")
     run("mount", "-t", "tmpfs", "tmpfs", "/var/lib/NetworkManager")
     run("ip", "link", "set", "lo", "up")
 

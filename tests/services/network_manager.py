@@ -3,6 +3,7 @@
 
 """Debian's NetworkManager on the system bus of this environment."""
 
+import json
 import shutil
 from pathlib import Path
 
@@ -51,13 +52,16 @@ class NetworkManager(Service):
     def close(self):
         super().close()
         # What one leaves the next one takes for its own.
+        for kind in ("bridge", "tun"):
+            for device in filter(None, json.loads(run("ip", "-json", "link", "show", "type", kind))):
+                run("ip", "link", "delete", device["ifname"])
         for state in STATES:
             for path in state.iterdir():
                 shutil.rmtree(path) if path.is_dir() else path.unlink()
 
 
 class Connection:
-    """A stored connection of a type to a device, with settings as nmcli names them."""
+    """A stored connection of a type to a device, with settings as nmcli names them: "ipv4_may__fail" is "ipv4.may-fail"."""
 
     def __init__(self, name, kind, device, **settings):
         self.name = name
