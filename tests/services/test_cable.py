@@ -90,7 +90,7 @@ class Cables(ServiceScenario):
         first.up()
         self.expect_opened(1)
         texts.wait_for("Connected")
-        for here, there in ((first, second), (second, first)) * 3:
+        for here, there in ((first, second), (second, first)) * 10:
             there.up()
             here.down()
             self.window.find("label", f"Connection: {there.name}")
