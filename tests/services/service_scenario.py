@@ -32,6 +32,12 @@ class ServiceScenario(ConnectionScenario):
     def start_marked(self, *arguments):
         super().start_marked("--connection", self.kind, *arguments)
 
+    def start_and_bring_up(self, connection):
+        """Starts the program, then brings a connection up that counts."""
+        self.start_marked()
+        connection.up()
+        self.expect_opened(1)
+
     def add_cable(self, number, **settings):
         return self.play(Cable(number, **settings))
 

@@ -63,9 +63,7 @@ class Reaches(ServiceScenario):
 
     def test_portal(self):
         self.reach.set_cables("portal")
-        self.start_marked()
-        self.cable.up()
-        self.expect_opened(1)
+        self.start_and_bring_up(self.cable)
         self.window.find("label", LOGIN)
         self.wait_for_log("connection up: up, and a portal wants a login")
         self.reach.set_cables("full")

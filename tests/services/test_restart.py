@@ -23,9 +23,7 @@ class Restart(ServiceScenario):
         wait_for(lambda: self.window.all("label", heading), f"\"{heading}\" at once", patience=1)
 
     def test_keeps_the_connection(self):
-        self.start_marked()
-        self.cable.up()
-        self.expect_opened(1)
+        self.start_and_bring_up(self.cable)
         for number in (signal.SIGTERM, signal.SIGKILL) * 3:
             with self.subTest(number):
                 self.network.kill(number)
@@ -37,9 +35,7 @@ class Restart(ServiceScenario):
         self.expect_opened_once(self.cable)
 
     def test_comes_back_without_the_connection(self):
-        self.start_marked()
-        self.cable.up()
-        self.expect_opened(1)
+        self.start_and_bring_up(self.cable)
         self.network.kill()
         self.cable.remove()
         self.network.start()
@@ -67,9 +63,7 @@ class Restart(ServiceScenario):
         self.assertEqual(self.opened.calls(), [])
 
     def test_hangs_while_the_program_runs(self):
-        self.start_marked()
-        self.cable.up()
-        self.expect_opened(1)
+        self.start_and_bring_up(self.cable)
         other = self.add_cable(2)
         other.start_up()
         self.network.stop()

@@ -24,9 +24,7 @@ class Sleep(ServiceScenario):
         self.plan = self.add_modem()
 
     def sleep_and_wake(self):
-        self.start_marked()
-        self.plan.up()
-        self.expect_opened(1)
+        self.start_and_bring_up(self.plan)
         self.plan.change(connection_autoconnect="yes")
         self.logind.prepare_for_sleep(True)
         self.wait_for_log("falling asleep")
