@@ -21,9 +21,14 @@ benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 fuzz=(clang-14 libclang-rt-14-dev)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
     python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
+    iproute2 libcurl3-gnutls libgudev-1.0-0 libjansson4 libmbim-glib4 libmm-glib0 libndp0 libnm0 libpolkit-gobject-1-0 libpsl5
+    libqmi-glib5 libqrtr-glib0 libreadline8
     clang-format-14 clang-tidy-14 clazy reuse shellcheck)
 qt4=(xvfb xauth libx11-dev libxext-dev libxrender-dev libfontconfig1-dev libfreetype6-dev libsm-dev libice-dev libxrandr-dev
     libxi-dev libxcursor-dev libdbus-1-dev zlib1g-dev g++-multilib xz-utils)
+
+# Installed they would run from then on, and take this computer's network for theirs: their tests find them in build/services.
+services=(network-manager modemmanager)
 
 case "${1-}" in
 run) wanted=("${run[@]}") ;;
@@ -49,20 +54,34 @@ missing=()
 for package in "${wanted[@]}"; do
     is_installed "$package" || missing+=("$package")
 done
-((${#missing[@]})) || exit 0
 
-as_root=(env)
-if ((EUID != 0)); then
-    command -v sudo >/dev/null || by_hand "packages are missing and there is no sudo"
-    as_root=(sudo env)
-    if [[ ! -t 0 ]]; then
-        # Nobody could answer a question for the password.
-        sudo -n true 2>/dev/null || by_hand "packages are missing and sudo asks for a password"
+install_missing() {
+    local as_root=(env)
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || by_hand "packages are missing and there is no sudo"
+        as_root=(sudo env)
+        if [[ ! -t 0 ]]; then
+            # Nobody could answer a question for the password.
+            sudo -n true 2>/dev/null || by_hand "packages are missing and sudo asks for a password"
+        fi
     fi
-fi
-apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300)
+    local apt=("${as_root[@]}" DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300)
 
-say "Installing: ${missing[*]}"
-mkdir -p build
-logged build/packages.log "${apt[@]}" update || by_hand "apt-get update failed"
-logged build/packages.log "${apt[@]}" install --no-install-recommends "${missing[@]}" || by_hand "apt-get install failed"
+    say "Installing: ${missing[*]}"
+    logged build/packages.log "${apt[@]}" update || by_hand "apt-get update failed"
+    logged build/packages.log "${apt[@]}" install --no-install-recommends "${missing[@]}" || by_hand "apt-get install failed"
+}
+
+unpack_services() {
+    local folder=$PWD/build/services file
+    say "Unpacking in build/services: ${services[*]}"
+    mkdir -p "$folder/packages"
+    (cd "$folder/packages" && logged "$folder/download.log" apt-get -q download "${services[@]}") ||
+        fail "apt-get download failed, see above; after \"apt-get update\" it may find ${services[*]}"
+    for file in "$folder"/packages/*.deb; do
+        dpkg-deb -x "$file" "$folder"
+    done
+}
+
+((${#missing[@]} == 0)) || install_missing
+[[ $1 != test || -x build/services/usr/sbin/ModemManager ]] || unpack_services

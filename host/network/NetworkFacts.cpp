@@ -132,7 +132,7 @@ NetworkFacts::Rank NetworkFacts::rank(const QString& path, const ConnectionChoic
     if (isUp(path))
         return !counts ? Rank::None : isOfManager("PrimaryConnection") ? Rank::Primary : Rank::Up;
     // One that waits for an address has no route yet.
-    const bool isExpected = counts || (isAny && isOfManager("ActivatingConnection"));
+    const bool isExpected = counts || (isAny && isOfManager("ActivatingConnection") && leadsOut(connection));
     return stateOf(connection) == Activating && isExpected ? Rank::ComingUp : Rank::None;
 }
 
@@ -153,6 +153,19 @@ bool NetworkFacts::isDefault(const QVariantMap& connection)
 {
     return BusValue::flag(connection.value(QStringLiteral("Default"))) ||
            BusValue::flag(connection.value(QStringLiteral("Default6")));
+}
+
+/** Whether it is of a kind that leads out of the computer, unlike a bridge or a tunnel in it. */
+bool NetworkFacts::leadsOut(const QVariantMap& connection)
+{
+    static const QStringList ways = {QStringLiteral("802-3-ethernet"),
+                                     QStringLiteral("802-11-wireless"),
+                                     QStringLiteral("gsm"),
+                                     QStringLiteral("cdma"),
+                                     QStringLiteral("bluetooth"),
+                                     QStringLiteral("pppoe"),
+                                     QStringLiteral("adsl")};
+    return ways.contains(textOf(connection, "Type"));
 }
 
 bool NetworkFacts::isMobile(const QVariantMap& connection) const

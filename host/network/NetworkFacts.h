@@ -55,6 +55,7 @@ private:
     Rank rank(const QString& path, const ConnectionChoice& choice) const;
     ConnectionState::InItsPlace inItsPlace() const;
     static bool isDefault(const QVariantMap& connection);
+    static bool leadsOut(const QVariantMap& connection);
     bool isMobile(const QVariantMap& connection) const;
     Chosen describe(const QString& path) const;
     ConnectionState::Reach reach(const QVariantMap& device) const;

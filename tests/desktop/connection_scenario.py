@@ -37,3 +37,7 @@ class ConnectionScenario(Scenario):
 
     def expect_heading(self, text):
         self.window.find("label", text)
+
+    def expect_answers(self):
+        """The window is used: a menu opens and closes. Whoever waits for the bus shows none."""
+        self.assertIn("First", self.links_in_menu())

@@ -4,6 +4,7 @@
 #include <QDBusObjectPath>
 #include <QElapsedTimer>
 #include <QRegularExpression>
+#include <QSignalSpy>
 
 #include "NetworkManagerSource.h"
 #include "PlayedNetwork.h"
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void telephone_data();
     void telephone();
     void anyBesideTheDefault();
+    void anyOnTheWay_data();
     void anyOnTheWay();
     void switchIsNoGap();
     void downIsDown();
@@ -156,19 +158,34 @@ void NetworkChoiceTest::anyBesideTheDefault()
     QTRY_COMPARE(textOf(source.state()), "coming up: Renamed");
 }
 
+void NetworkChoiceTest::anyOnTheWay_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("expected");
+    for (const char* const type : {"802-3-ethernet", "802-11-wireless", "gsm", "cdma", "bluetooth", "pppoe", "adsl"})
+        QTest::newRow(type) << type << "coming up: Mobile plan";
+    for (const char* const type : {"bridge", "tun", "loopback", "dummy", "vpn", ""})
+        QTest::addRow("nowhere: %s", type) << type << "down: ";
+}
+
 void NetworkChoiceTest::anyOnTheWay()
 {
+    QFETCH(const QString, type);
+    QFETCH(const QString, expected);
     PlayedNetwork network;
     network.removeObject(PlayedNetwork::bluetooth);
+    network.set(PlayedNetwork::mobile, "Type", type);
     network.set(PlayedNetwork::mobile, "State", 1U);
     network.set(PlayedNetwork::mobile, "Default", false);
     NetworkManagerSource source(ConnectionKind::Any);
     QTRY_VERIFY(source.isAvailable());
     QCOMPARE(textOf(source.state()), "down: ");
+    QSignalSpy changed(&source, &ConnectionSource::changed);
     network.set(PlayedNetwork::manager, "ActivatingConnection",
                 QVariant::fromValue(QDBusObjectPath(PlayedNetwork::mobile)));
     network.tellChanges();
-    QTRY_COMPARE(textOf(source.state()), "coming up: Mobile plan");
+    QTRY_VERIFY(!changed.isEmpty());
+    QTRY_COMPARE(textOf(source.state()), expected);
 }
 
 void NetworkChoiceTest::switchIsNoGap()

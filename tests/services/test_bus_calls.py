@@ -1,0 +1,61 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""The program asks the system bus no more than NetworkManager's own "nmcli monitor" does, and nothing while nothing happens."""
+
+import time
+
+from scenario import main
+from service_scenario import ServiceScenario
+from session import Program
+from waiting import wait_for
+
+IDLE = 60  # seconds
+
+
+class BusCallsOfTheProgram(ServiceScenario):
+
+    def setUp(self):
+        super().setUp()
+        self.cable = self.add_cable(1)
+        self.calls = self.watch_bus()
+        self.monitor = self.play(Program(["nmcli", "monitor"], self.folder / "monitor"))
+        wait_for(self.monitor.output, "nmcli monitor")
+        self.start_marked()
+
+    def expect_no_more_calls_than_the_monitor(self, known=((), ())):
+        """After the calls known before."""
+        ours, theirs = (calls[len(before):] for calls, before in zip(self.all_calls(), known))
+        print(f"{len(ours)} calls, {len(theirs)} of nmcli monitor")
+        self.assertLessEqual(len(ours), len(theirs), f"\n{ours}\n{theirs}")
+
+    def all_calls(self):
+        return self.calls.of(self.program), self.calls.of(self.monitor)
+
+    def test_start(self):
+        self.expect_heading("Not connected")
+        self.expect_no_more_calls_than_the_monitor()
+
+    def test_changes(self):
+        self.expect_heading("Not connected")
+        known = self.all_calls()
+        self.cable.up()
+        self.expect_opened(1)
+        self.cable.change(connection_id="Desk")
+        self.window.find("label", "Connection: Desk")
+        self.cable.down()
+        self.wait_for_down()
+        self.expect_no_more_calls_than_the_monitor(known)
+
+    def test_idle(self):
+        self.cable.up()
+        self.expect_opened(1)
+        self.expect_heading("Connected")
+        known = self.calls.of(self.program)
+        end = time.monotonic() + IDLE
+        wait_for(lambda: time.monotonic() > end, "the end of nothing", patience=2 * IDLE)
+        self.assertEqual(self.calls.of(self.program), known)
+
+
+if __name__ == "__main__":
+    main()
