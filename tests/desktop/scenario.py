@@ -76,6 +76,10 @@ class Scenario(unittest.TestCase):
         self.addCleanup(self.program.close)
         self.application = Application(self.program)
 
+    def said(self):
+        """What each program of this test said so far, for whoever looks for the reason of a failure."""
+        return {"The program": self.program.output()} if self.program else {}
+
     def message_about(self, target):
         """Waits for a message of the program in which the target stands."""
         def is_there():
@@ -175,8 +179,8 @@ class _ResultWithPictures(unittest.TextTestResult):
         path = PICTURES / f"{test.id().replace('__main__', Path(sys.argv[0]).stem)}.png"
         save_screen(path)
         self.stream.writeln(f"\nThe screen at the failure: {path}")
-        if test.program:
-            self.stream.writeln("The program said:\n" + test.program.output())
+        for who, words in test.said().items():
+            self.stream.writeln(f"{who} said:\n{words}")
 
 
 def main():

@@ -11,8 +11,8 @@ import dbus
 from session import Program
 from waiting import wait_for
 
-_CALL = re.compile(r"^method call time=\S+ sender=(\S+) -> destination=(\S+) serial=\d+ path=\S+ interface=(\S+) member=(\S+)$",
-                   re.MULTILINE)
+_CALL = re.compile(
+    r"^method call time=\S+ sender=(\S+) -> destination=\S+ serial=\d+ path=\S+; interface=(\S+); member=(\S+)$", re.MULTILINE)
 
 
 class BusCalls:
@@ -28,16 +28,14 @@ class BusCalls:
         """What a process that is still there has called so far: "interface.member" each."""
         # The bus keeps the order: whoever sees the mark has seen what was called before it.
         wait_for(self._hears_a_mark, "the monitor of the bus")
-        names = [name for name in self._bus.list_names() if name.startswith(":") and self._process_of(name) == process.pid]
-        return [f"{call['interface']}.{call['member']}".replace(";", "") for call in self._calls() if call["sender"] in names]
+        names = [name for name in self._bus.list_names()
+                 if name.startswith(":") and self._process_of(name) == process.pid]
+        return [f"{interface}.{member}" for sender, interface, member in _CALL.findall(self._monitor.output())
+                if sender in names]
 
     def close(self):
         self._monitor.close()
         self._bus.close()
-
-    def _calls(self):
-        return [dict(zip(("sender", "destination", "interface", "member"), match.groups()))
-                for match in _CALL.finditer(self._monitor.output())]
 
     def _hears_a_mark(self):
         self._marks += 1

@@ -5,8 +5,6 @@
 
 import json
 
-import dbus
-
 from at_modem import AtModem
 from namespaces import run
 from network_manager import Connection

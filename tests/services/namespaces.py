@@ -31,7 +31,7 @@ def _enter(services, as_user, command):
         sys.exit(f"{services} lacks the services; scripts/packages.sh test unpacks them")
     # An ordinary user becomes root inside, which is root of nothing else.
     user = ["--user", "--map-root-user"] if as_user or os.geteuid() != 0 else []
-    unshare = ["unshare", *user, "--net", "--mount", "--fork", "--kill-child"]
+    unshare = ["unshare", *user, "--net", "--mount", "--uts", "--fork", "--kill-child"]
     probe = subprocess.run([*unshare, "true"], capture_output=True, text=True, check=False)
     if probe.returncode != 0:
         print("Skipped, since this system forbids namespaces:", probe.stderr.strip())
@@ -44,8 +44,11 @@ def _furnish(services):
     # Without udev nobody tells that a device is ready; a service that cannot write to /sys does not wait for it.
     run("mount", "-t", "sysfs", "-o", "ro", "sysfs", "/sys")
     run("mount", "-t", "tmpfs", "tmpfs", "/run")
-    # The services lie where their packages put them, over what the system has; none of it can be written to. They are copies,
-    # since plug-ins that are not root's are refused.
+    # Switching radio off would switch off the computer's.
+    if Path("/dev/rfkill").exists():
+        run("mount", "--bind", "/dev/null", "/dev/rfkill")
+    # The services lie where their packages put them, over what the system has; none of it can be written to. They are
+    # copies, since plug-ins that are not root's are refused.
     ours = Path("/run/root")
     for folder in ("etc", "usr", "var/lib"):
         for origin in (services, FOLDER / "root"):

@@ -29,6 +29,11 @@ class ServiceScenario(ConnectionScenario):
         super().setUp()
         self.network = self.play(NetworkManager(self.folder / "network", **self.network_settings))
 
+    def said(self):
+        logs = {name: self.folder / name / "log" for name in ("network", "modems")}
+        return super().said() | {f"At last the service in {name}": "\n".join(log.read_text("utf-8").splitlines()[-80:])
+                                 for name, log in logs.items() if log.exists()}
+
     def start_marked(self, *arguments):
         super().start_marked("--connection", self.kind, *arguments)
 

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-"""The program asks the system bus no more than NetworkManager's own "nmcli monitor" does, and nothing while nothing happens."""
+"""The program calls no more on the system bus than NetworkManager's own "nmcli monitor", and nobody while nothing happens."""
 
 import time
 

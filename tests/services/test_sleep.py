@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-"""The computer sleeps, its modem loses its power, and the real services bring the connection back some time after it woke up.
+"""The computer sleeps, its modem loses its power, and the real services bring the connection back some time after.
 
 Only logind is played: a test cannot send the computer to sleep."""
 

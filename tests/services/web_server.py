@@ -4,8 +4,8 @@
 """The page by which NetworkManager learns how far a network lets it go.
 
 Usage: web_server.py ADDRESS PORT FOLDER. What happens to who asks is in the file named as the first two numbers of the
-asking address, such as "10.0": "full", "portal", "limited" or "hang", which lasts until it says something else. Prints a line
-when it listens."""
+asking address, such as "10.0": "full", "portal", "limited" or "hang", which lasts until it says something else. Prints a
+line when it listens."""
 
 import sys
 import time
