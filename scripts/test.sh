@@ -38,7 +38,7 @@ step() {
 ctest_in() {
     local preset=$1 log=$2
     shift 2
-    logged "$log" ctest --preset "$preset" -j"${JOBS-4}" --schedule-random --no-tests=error "$@" || return
+    logged "$log" ctest --preset "$preset" -j"${JOBS-6}" --schedule-random --no-tests=error "$@" || return
     grep 'tests passed' "$log"
 }
 
@@ -53,6 +53,33 @@ sanitized_tests() {
         LSAN_OPTIONS=suppressions=$PWD/build/$label.supp:print_suppressions=0 \
         UBSAN_OPTIONS=print_stacktrace=1 \
         JOBS=2 ctest_in asan "$log" -L "$label"
+}
+
+# beside COMMAND COMMAND: both at once, where one of them waits or has work for one processor only.
+beside() {
+    local process result=0
+    "$1" &
+    process=$!
+    "$2" || result=1
+    wait "$process" || result=1
+    return "$result"
+}
+
+# What is tried with the network's real services, which mostly waits for them.
+services() {
+    beside services_with_qt5 services_with_qt6
+}
+
+services_with_qt5() {
+    JOBS=12 ctest_in default build/test-services-qt5.log -L services
+}
+
+services_with_qt6() {
+    JOBS=12 ctest_in qt6 build/test-services-qt6.log -L services
+}
+
+build_asan() {
+    build_for asan asan
 }
 
 instructions_and_heap() {
@@ -100,14 +127,17 @@ loaders() {
 }
 
 step "packages" scripts/packages.sh test
-step "Qt 5: build" build_for default default
-step "Qt 5: every test" ctest_in default build/test-qt5.log
+# Several files compiled as one take half the time. That each compiles by itself as well, the copy for the mutants shows.
+together=(-DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=8)
+[[ $quick == no ]] || together=()
+step "Qt 5: build" build_for default default "${together[@]}"
+step "Qt 5: every test" ctest_in default build/test-qt5.log -LE services
 if [[ $quick == no ]]; then
     step "Qt 5: unit tests again, in another order" ctest_in default build/test-qt5-again.log -L unit
     # What is measured and debugged is Qt 5's.
     step "Qt 6: build" build_for qt6 qt6 "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -DNDEBUG"
     # Faults of the disk are the same with every Qt.
-    step "Qt 6: every test" ctest_in qt6 build/test-qt6.log -LE faults
+    step "Qt 6: every test" ctest_in qt6 build/test-qt6.log -LE 'faults|services'
     if [[ -n ${QT4_TOOLKITS-} ]]; then
         step "Qt 4.8: packages and toolkits" unpack_qt4
         step "Qt 4.8, 64-bit: build" build_qt4 qt4 x86_64 all
@@ -118,14 +148,13 @@ if [[ $quick == no ]]; then
         say "Qt 4.8: left out, no toolkit given"
         step "every Qt: its own plug-in loaded, the others' refused" loaders qt6 default
     fi
-    step "sanitizers: build" build_for asan asan
+    step "Qt 5, Qt 6: real services; sanitizers: build" beside services build_asan
     step "sanitizers: unit tests" sanitized_tests unit build/test-asan.log 10 lsan.supp
     step "sanitizers: desktop" sanitized_tests sanitized build/test-asan-desktop.log 16 lsan.supp desktop.supp
     # The same inputs at each run: what is new is looked for by hand, for longer.
     step "fuzzing" env SEED=1 scripts/fuzz.sh 30
     step "mutants: a handful" scripts/mutants.sh --handful
-    step "instructions and heap" instructions_and_heap
-    step "format and lint" scripts/lint.sh
+    step "instructions and heap; format and lint" beside instructions_and_heap scripts/lint.sh
 fi
 
 say ""

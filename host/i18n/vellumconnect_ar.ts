@@ -599,10 +599,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>لقد وافقت عليه</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>لا يوجد ملف أو مجلد كهذا، أو لا يُسمح لك برؤيته:</translation>
     </message>

@@ -579,10 +579,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Sie haben zugestimmt</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Diese Datei oder diesen Ordner gibt es nicht, oder Sie dürfen sie nicht sehen:</translation>
     </message>

@@ -579,10 +579,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation type="unfinished"></translation>
     </message>

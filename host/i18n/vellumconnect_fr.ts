@@ -579,10 +579,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Vous avez accepté</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Ce fichier ou dossier n’existe pas, ou vous n’avez pas le droit de le voir&#xa0;:</translation>
     </message>

@@ -579,10 +579,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>आपने अनुमति दी</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>ऐसी कोई फ़ाइल या फ़ोल्डर नहीं है, या आपको इसे देखने की अनुमति नहीं है:</translation>
     </message>

@@ -574,10 +574,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>許可されました</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>このファイルまたはフォルダーは存在しないか、表示する権限がありません:</translation>
     </message>

@@ -584,10 +584,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Zgoda została udzielona</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Nie ma takiego pliku ani folderu albo brak uprawnień do wyświetlenia:</translation>
     </message>

@@ -579,10 +579,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Deu o seu acordo</translation>
-    </message>
-    <message>
         <source>This is no valid address:</source>
         <translation>Este endereço não é válido:</translation>
     </message>

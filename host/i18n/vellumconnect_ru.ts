@@ -584,10 +584,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Вы согласились</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Нет такого файла или папки либо недостаточно прав для просмотра:</translation>
     </message>

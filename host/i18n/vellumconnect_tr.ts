@@ -574,10 +574,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>Siz onayladınız</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>Böyle bir dosya veya klasör yok ya da görme izniniz yok:</translation>
     </message>

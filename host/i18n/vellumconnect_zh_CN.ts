@@ -574,10 +574,6 @@
 <context>
     <name>LinkOpener</name>
     <message>
-        <source>You agreed to it</source>
-        <translation>您已同意</translation>
-    </message>
-    <message>
         <source>There is no such file or folder, or you are not allowed to see it:</source>
         <translation>没有此文件或文件夹，或者您无权查看：</translation>
     </message>

@@ -149,12 +149,12 @@ void NetworkObjects::takeAnswer()
     tellChange();
 }
 
-void NetworkObjects::take(const QString& path, const QMap<QString, QVariantMap>& added)
+void NetworkObjects::take(const QString& path, const QMap<QString, QVariantMap>& values)
 {
     for (const char* const interface : interfaces) {
         // No other object may stand in the place of the manager.
-        if (added.contains(QLatin1String(interface)) && (interface == service) == (path == NetworkFacts::manager()))
-            m_facts.set(path, added.value(QLatin1String(interface)));
+        if (values.contains(QLatin1String(interface)) && (interface == service) == (path == NetworkFacts::manager()))
+            m_facts.set(path, values.value(QLatin1String(interface)));
     }
 }
 

@@ -58,7 +58,7 @@ private:
     void setPresence(Presence presence);
     void ask();
     void takeAnswer();
-    void take(const QString& path, const QMap<QString, QVariantMap>& interfaces);
+    void take(const QString& path, const QMap<QString, QVariantMap>& values);
     void forget(const QString& path);
     void tellChange();
     void askForTelephones();

@@ -223,7 +223,8 @@ QList<Place> placesOf(const QLabel* label)
     if (label->wordWrap())
         return {}; // See verdictOnWrapped().
     const int margin = label->margin();
-    return {Place{label, label->text(), label->font(), label->contentsRect().adjusted(margin, margin, -margin, -margin)}};
+    return {
+        Place{label, label->text(), label->font(), label->contentsRect().adjusted(margin, margin, -margin, -margin)}};
 }
 
 int inkHeightOf(QWidget* widget)
