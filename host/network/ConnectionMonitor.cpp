@@ -119,12 +119,24 @@ void ConnectionMonitor::switchSource()
     if (m_isAsking)
         withdraw();
     if (lacksService()) {
+        m_isSilent = m_service->isSilent();
         follow(m_rules.serviceLost(now()));
     } else {
         qCInfo(connectionLog, "the service is there");
-        m_rules.serviceReturned(now());
+        if (m_isSilent)
+            forget();
+        else
+            m_rules.serviceReturned(now());
     }
     look();
+}
+
+/** The service was there all the time: what is up now may have been so before the program. */
+void ConnectionMonitor::forget()
+{
+    m_isSilent = false;
+    m_hasLooked = false;
+    m_rules = TransitionRules();
 }
 
 void ConnectionMonitor::follow(const TransitionRules::Decision& decision)

@@ -74,6 +74,7 @@ private:
     void listenTo(const ConnectionSource& source);
     void look();
     void switchSource();
+    void forget();
     void follow(const TransitionRules::Decision& decision);
     void ask(const QString& reason);
     void hearAnswer(bool isUp);
@@ -87,6 +88,7 @@ private:
     QElapsedTimer m_clock;
     QTimer m_deadline;
     bool m_hasLooked = false;     ///< since the last start()
+    bool m_isSilent = false;      ///< the service is, since before the last start()
     bool m_hasEverLooked = false; ///< since the first
     bool m_wasUpBefore = false;   ///< what is up was so when it looked for the first time of all
     bool m_isAsking = false;      ///< whether a connection is up that is to be told

@@ -19,6 +19,10 @@ public:
     /** Whether it can tell anything now. A source may come and go. */
     virtual bool isAvailable() const = 0;
 
+    /** Whether it is unavailable for being silent since before we listened: what it says first may have long been so.
+     */
+    virtual bool isSilent() const { return false; }
+
     /** The state as last heard; down while unavailable. */
     virtual ConnectionState state() const = 0;
 

@@ -56,6 +56,11 @@ bool NetworkManagerSource::isAvailable() const
     return m_presence == Presence::There;
 }
 
+bool NetworkManagerSource::isSilent() const
+{
+    return m_objects.isSilent();
+}
+
 ConnectionState NetworkManagerSource::state() const
 {
     ConnectionState state = m_chosen.state;

@@ -28,6 +28,7 @@ public:
 
     bool isKnown() const override;
     bool isAvailable() const override;
+    bool isSilent() const override;
     ConnectionState state() const override;
     void askWhetherUp() override;
 

@@ -52,6 +52,7 @@ NetworkObjects::NetworkObjects()
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, [this] {
+        m_isSilent = m_isFirst && !m_isAnswered;
         setPresence(Presence::Away);
         ask();
     });
@@ -87,6 +88,11 @@ NetworkObjects::Presence NetworkObjects::presence() const
     return m_presence;
 }
 
+bool NetworkObjects::isSilent() const
+{
+    return m_isSilent;
+}
+
 const NetworkFacts& NetworkObjects::facts() const
 {
     return m_facts;
@@ -100,6 +106,8 @@ void NetworkObjects::setOwner(const QString& owner)
     m_wait = 0;
     m_facts = NetworkFacts();
     m_isAnswered = false;
+    m_isSilent = false;
+    m_isFirst = false;
     m_telephones.clear();
     m_telephoneAnswers = std::make_unique<QObject>();
     m_openQuestions = 0;
@@ -146,6 +154,7 @@ void NetworkObjects::takeAnswer()
     }
     m_retry.stop();
     m_isAnswered = true;
+    askForTelephones();
     tellChange();
 }
 
@@ -169,6 +178,7 @@ void NetworkObjects::hearObject(const QDBusMessage& signal)
         take(path, BusValue::sections(what));
     else if (signal.member() == QLatin1String("InterfacesRemoved") && hasOneOfUse(what.toStringList()))
         forget(path);
+    askForTelephones();
     tellChange();
 }
 
@@ -182,13 +192,17 @@ void NetworkObjects::hearChanged(const QDBusMessage& signal)
 {
     const QVariantMap changes = BusValue::map(signal.arguments().value(1));
     const QStringList withdrawn = signal.arguments().value(2).toStringList();
-    if (m_isAnswered && m_facts.change(signal.path(), changes, withdrawn))
-        tellChange();
+    if (!m_isAnswered || !m_facts.change(signal.path(), changes, withdrawn))
+        return;
+    // Of thousands of changes only these can bring a telephone.
+    if (changes.contains(QStringLiteral("ActiveConnections")) || changes.contains(QStringLiteral("Type")) ||
+        changes.contains(QStringLiteral("Connection")))
+        askForTelephones();
+    tellChange();
 }
 
 void NetworkObjects::tellChange()
 {
-    askForTelephones();
     if (m_presence == Presence::There)
         Q_EMIT changed();
     // Its first word is whole: what was up before must not seem to come up.

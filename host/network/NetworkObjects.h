@@ -39,6 +39,9 @@ public:
 
     Presence presence() const;
 
+    /** Whether the service is away for having said nothing since before we listened. */
+    bool isSilent() const;
+
     /** What was heard; nothing unless the service is there. */
     const NetworkFacts& facts() const;
 
@@ -68,6 +71,8 @@ private:
     int m_wait = 0;                                    ///< milliseconds until the next retry
     std::unique_ptr<QDBusPendingCallWatcher> m_answer; ///< with all objects
     bool m_isAnswered = false;
+    bool m_isSilent = false;
+    bool m_isFirst = true;                       ///< whoever has the service's name had it before we listened
     QSet<QString> m_telephones;                  ///< the connections whose stored settings were asked for
     std::unique_ptr<QObject> m_telephoneAnswers; ///< the questions for them
     int m_openQuestions = 0;                     ///< of these

@@ -103,7 +103,8 @@ void PluginTrustTest::trusts_data()
     addRow(
         "folder for the user's private group", Root, [](LoadRuns& runs) { allow(runs.folder(), 0775); }, fine);
     addRow(
-        "folder of another user", Root, [](LoadRuns& runs) { give(runs.folder(), otherUser, otherUser); }, owns + folder);
+        "folder of another user", Root, [](LoadRuns& runs) { give(runs.folder(), otherUser, otherUser); },
+        owns + folder);
 
     addRow(
         "user: all is root's", Nobody, [](LoadRuns&) {}, fine);

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void userIsNotAskedWhileThereIsAService();
     void usersWordEndsWhenTheServiceComes();
     void serviceLostAndReturned();
+    void serviceSilentAtTheStart();
     void anotherChoiceIsNoNews_data();
     void anotherChoiceIsNoNews();
     void anotherChoiceEndsWhatWasUnderWay();
@@ -294,6 +295,26 @@ void ConnectionMonitorTest::usersWordEndsWhenTheServiceComes()
     QVERIFY(!m_monitor->state().isUp);
     m_source->setAvailable(false);
     QVERIFY(!m_monitor->state().isUp);
+}
+
+void ConnectionMonitorTest::serviceSilentAtTheStart()
+{
+    m_source->available = false;
+    m_source->silent = true;
+    start();
+    m_source->setAvailable(false);
+    m_source->current.isUp = true;
+    m_source->current.id = "a";
+    m_source->setAvailable(true);
+    QVERIFY(m_monitor->state().isUp);
+    QCOMPARE(m_told, QStringList());
+    QVERIFY(!m_monitor->upSince().isValid());
+    // From then on it is a service like any other.
+    m_source->silent = false;
+    m_source->setAvailable(false);
+    m_source->become("b");
+    m_source->setAvailable(true);
+    QCOMPARE(m_told.size(), 1);
 }
 
 void ConnectionMonitorTest::serviceLostAndReturned()

@@ -83,6 +83,12 @@ void NetworkSilenceTest::noService()
     m_network.reset();
     start();
     QVERIFY(!m_source->isAvailable());
+    QVERIFY(!m_source->isSilent());
+    // One that comes later is new, however long it says nothing.
+    m_network = std::make_unique<PlayedNetwork>();
+    m_network->setSilent(PlayedNetwork::objects, true);
+    QTRY_VERIFY(m_network->questions(PlayedNetwork::objects) > 1);
+    QVERIFY(!m_source->isSilent());
 }
 
 void NetworkSilenceTest::serviceComesAndGoes()
@@ -104,6 +110,7 @@ void NetworkSilenceTest::silentFromTheStart()
     m_network->setSilent(PlayedNetwork::objects, true);
     start();
     QVERIFY(!m_source->isAvailable());
+    QVERIFY(m_source->isSilent());
     QTRY_VERIFY(m_network->questions(PlayedNetwork::objects) > 1);
     const int asked = m_network->questions(PlayedNetwork::objects);
     // Late answers count, so that a service that goes on is known at once.

@@ -11,6 +11,7 @@ class FakeSource : public ConnectionSource
 public:
     bool isKnown() const override { return known; }
     bool isAvailable() const override { return available; }
+    bool isSilent() const override { return silent; }
     ConnectionState state() const override { return available ? current : ConnectionState(); }
     void askWhetherUp() override
     {
@@ -43,6 +44,7 @@ public:
 
     bool known = true;
     bool available = true;
+    bool silent = false;
     bool answersAtOnce = true;
     int questions = 0;
     bool stillUp = false;
