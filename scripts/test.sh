@@ -71,11 +71,11 @@ services() {
 }
 
 services_with_qt5() {
-    JOBS=6 ctest_in default build/test-services-qt5.log -L services
+    ctest_in default build/test-services-qt5.log -L services
 }
 
 services_with_qt6() {
-    JOBS=6 ctest_in qt6 build/test-services-qt6.log -L services
+    ctest_in qt6 build/test-services-qt6.log -L services
 }
 
 build_asan() {

@@ -21,9 +21,8 @@ void ConnectionMonitor::start(std::unique_ptr<ConnectionSource> service)
     // Another choice is no news of a connection. What was up, and is so now, is up since the same time.
     m_service = std::move(service);
     m_manual = std::make_unique<ManualSource>();
-    m_rules = TransitionRules();
     m_isAsking = false;
-    m_hasLooked = false;
+    forget();
     arm();
     qCInfo(connectionLog, "listening to %s",
            !isManual()      ? "the service"
@@ -123,6 +122,7 @@ void ConnectionMonitor::switchSource()
         follow(m_rules.serviceLost(now()));
     } else {
         qCInfo(connectionLog, "the service is there");
+        // It may have been up before the program: the service was there all the time.
         if (m_isSilent)
             forget();
         else
@@ -131,7 +131,7 @@ void ConnectionMonitor::switchSource()
     look();
 }
 
-/** The service was there all the time: what is up now may have been so before the program. */
+/** What is seen next is no news, however long it has been so. */
 void ConnectionMonitor::forget()
 {
     m_isSilent = false;

@@ -9,6 +9,8 @@
 #include <QDBusPendingReply>
 
 #include "BusValue.h"
+#include "NetworkFacts.h"
+#include "NetworkObjects.h"
 
 namespace
 {
@@ -20,16 +22,6 @@ using Settings = QMap<QString, QVariantMap>;
 QString textOf(const Settings& settings, const QString& section, const char* name)
 {
     return BusValue::text(settings.value(section).value(QLatin1String(name)));
-}
-
-/** Of the settings of a stored connection, as NetworkManager writes them down. */
-bool isMobile(const Settings& settings)
-{
-    const QString type = textOf(settings, QStringLiteral("connection"), "type");
-    // Bluetooth can be a local network as well.
-    if (type == QLatin1String("bluetooth"))
-        return textOf(settings, type, "type") == QLatin1String("dun");
-    return type == QLatin1String("gsm") || type == QLatin1String("cdma");
 }
 } // namespace
 
@@ -71,7 +63,8 @@ void MobilePlans::askNext()
              const QString section = QStringLiteral("connection");
              const Settings settings = BusValue::sections(answer.arguments().value(0));
              const QString uuid = textOf(settings, section, "uuid");
-             if (isMobile(settings) && !uuid.isEmpty())
+             const QString bluetoothType = textOf(settings, QStringLiteral("bluetooth"), "type");
+             if (NetworkFacts::isMobile(textOf(settings, section, "type"), bluetoothType) && !uuid.isEmpty())
                  m_plans.insert(uuid, textOf(settings, section, "id"));
              askNext();
          });
@@ -80,10 +73,7 @@ void MobilePlans::askNext()
 void MobilePlans::send(const QString& path, const char* interface, const char* method,
                        const std::function<void(const QDBusMessage& answer)>& read)
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.NetworkManager"), path,
-                                                           QLatin1String(interface), QLatin1String(method));
-    // Nobody has to be started for an answer.
-    question.setAutoStartService(false);
+    const QDBusMessage question = NetworkObjects::question(path, interface, method);
     m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(question, patience));
     connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, [this, read] {
         QDBusPendingCallWatcher* const watcher = m_answer.release();

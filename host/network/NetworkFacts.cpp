@@ -52,6 +52,14 @@ QString NetworkFacts::manager()
     return QStringLiteral("/org/freedesktop/NetworkManager");
 }
 
+bool NetworkFacts::isMobile(const QString& type, const QString& bluetoothType)
+{
+    // Bluetooth can be a local network as well.
+    if (type == QLatin1String("bluetooth"))
+        return bluetoothType == QLatin1String("dun");
+    return type == QLatin1String("gsm") || type == QLatin1String("cdma");
+}
+
 QVariantMap NetworkFacts::of(const QString& path) const
 {
     return m_values.value(path);
@@ -99,6 +107,14 @@ NetworkFacts::Chosen NetworkFacts::chosen(const ConnectionChoice& choice, const 
     if (choice.kind == ConnectionKind::Mobile)
         none.state.inItsPlace = inItsPlace();
     return none;
+}
+
+bool NetworkFacts::isTakeOverLikely(const ConnectionChoice& choice) const
+{
+    const QStringList all = connections();
+    return choice.kind == ConnectionKind::Any && std::any_of(all.begin(), all.end(), [this](const QString& path) {
+               return isUp(path) && leadsOut(of(path));
+           });
 }
 
 /** The path of the one to show; empty for none. */
@@ -170,12 +186,8 @@ bool NetworkFacts::leadsOut(const QVariantMap& connection)
 
 bool NetworkFacts::isMobile(const QVariantMap& connection) const
 {
-    const QString type = textOf(connection, "Type");
-    // Bluetooth can be a local network as well.
-    if (type == QLatin1String("bluetooth"))
-        return textOf(of(BusValue::path(connection.value(QStringLiteral("Connection")))), "type") ==
-               QLatin1String("dun");
-    return type == QLatin1String("gsm") || type == QLatin1String("cdma");
+    const QString stored = BusValue::path(connection.value(QStringLiteral("Connection")));
+    return isMobile(textOf(connection, "Type"), textOf(of(stored), "type"));
 }
 
 NetworkFacts::Chosen NetworkFacts::describe(const QString& path) const

@@ -23,6 +23,9 @@ public:
     /** The object path of NetworkManager itself. */
     static QString manager();
 
+    /** Whether connections of this type are mobile broadband; bluetoothType is what kind one by Bluetooth is. */
+    static bool isMobile(const QString& type, const QString& bluetoothType);
+
     /** The values that an object has, by name; empty while it has none. */
     QVariantMap of(const QString& path) const;
 
@@ -46,6 +49,9 @@ public:
      * path of the one that was shown before; empty for none.
      */
     Chosen chosen(const ConnectionChoice& choice, const QString& former) const;
+
+    /** Whether another is up that the traffic may take, while the service has not said that it does. */
+    bool isTakeOverLikely(const ConnectionChoice& choice) const;
 
 private:
     /** How much a connection is the one to show. */

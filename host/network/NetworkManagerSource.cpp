@@ -29,18 +29,14 @@ NetworkManagerSource::NetworkManagerSource(const ConnectionChoice& choice)
 {
     for (QTimer* const timer : {&m_pause, &m_settling, &m_checking})
         timer->setSingleShot(true);
-    m_settling.setInterval(settlingTime);
     m_checking.setInterval(checkingTime);
     connect(&m_pause, &QTimer::timeout, this, [this] {
         if (m_isWanted)
             takeChange();
     });
-    connect(&m_settling, &QTimer::timeout, this, [this] {
-        take(m_objects.facts().chosen(m_choice, m_chosen.path));
-        Q_EMIT changed();
-    });
+    connect(&m_settling, &QTimer::timeout, this, [this] { take(chosen()); });
     connect(&m_checking, &QTimer::timeout, this, &NetworkManagerSource::changed);
-    connect(&m_objects, &NetworkObjects::presenceChanged, this, &NetworkManagerSource::takePresence);
+    connect(&m_objects, &NetworkObjects::presenceChanged, this, [this] { take(chosen()); });
     connect(&m_objects, &NetworkObjects::changed, this, &NetworkManagerSource::requestChange);
     // The name of an operator may change as fast as anything else.
     connect(&m_operator, &ModemOperator::changed, this, &NetworkManagerSource::requestChange);
@@ -87,20 +83,9 @@ void NetworkManagerSource::askWhetherUp()
         this, [this] { Q_EMIT answered(m_objects.facts().isUp(m_chosen.path)); }, Qt::QueuedConnection);
 }
 
-void NetworkManagerSource::takePresence()
+NetworkFacts::Chosen NetworkManagerSource::chosen() const
 {
-    m_settling.stop();
-    take(m_objects.facts().chosen(m_choice, m_chosen.path));
-    tellPresence();
-}
-
-void NetworkManagerSource::tellPresence()
-{
-    // Its first word would be that nothing is up, and what is up would be news then.
-    if (isRoamingUnknown())
-        return;
-    m_presence = m_objects.presence();
-    Q_EMIT availabilityChanged();
+    return m_objects.facts().chosen(m_choice, m_chosen.path);
 }
 
 void NetworkManagerSource::requestChange()
@@ -114,27 +99,28 @@ void NetworkManagerSource::takeChange()
 {
     m_isWanted = false;
     m_pause.start(pause);
-    const NetworkFacts::Chosen chosen = m_objects.facts().chosen(m_choice, m_chosen.path);
+    const NetworkFacts::Chosen found = chosen();
     // When one device takes over from another, for a moment neither has the traffic.
-    if (m_chosen.state.isUp && !chosen.state.isUp) {
-        if (!m_settling.isActive())
-            m_settling.start();
-        return;
-    }
-    m_settling.stop();
-    take(chosen);
-    if (m_presence == m_objects.presence())
-        Q_EMIT changed();
-    else
-        tellPresence();
+    if (!m_chosen.state.isUp || found.state.isUp)
+        take(found);
+    else if (!m_settling.isActive())
+        m_settling.start(m_objects.facts().isTakeOverLikely(m_choice) ? takeOverTime : settlingTime);
 }
 
-void NetworkManagerSource::take(const NetworkFacts::Chosen& chosen)
+void NetworkManagerSource::take(const NetworkFacts::Chosen& found)
 {
-    if (chosen.path != m_chosen.path)
+    m_settling.stop();
+    if (found.path != m_chosen.path)
         m_checking.start();
-    if (chosen.state.reach != Reach::Checking)
+    if (found.state.reach != Reach::Checking)
         m_checking.stop();
-    m_chosen = chosen;
+    m_chosen = found;
     m_operator.setModem(m_chosen.modem);
+    if (m_presence == m_objects.presence()) {
+        Q_EMIT changed();
+    } else if (!isRoamingUnknown()) {
+        // Before that its first word would be that nothing is up, and what is up would be news then.
+        m_presence = m_objects.presence();
+        Q_EMIT availabilityChanged();
+    }
 }

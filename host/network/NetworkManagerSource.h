@@ -21,6 +21,7 @@ class NetworkManagerSource : public ConnectionSource
 public:
     static constexpr int pause = 100;          ///< milliseconds from change to change
     static constexpr int settlingTime = 250;   ///< milliseconds that a connection is missing before it is down
+    static constexpr int takeOverTime = 2000;  ///< the same while another is up that the traffic may take
     static constexpr int checkingTime = 10000; ///< milliseconds that the service may look whether a new one is online
 
     /** Begins to listen for what counts by choice, whose kind is Mobile or Any. */
@@ -34,11 +35,10 @@ public:
 
 private:
     bool isRoamingUnknown() const;
-    void takePresence();
-    void tellPresence();
+    NetworkFacts::Chosen chosen() const;
     void requestChange();
     void takeChange();
-    void take(const NetworkFacts::Chosen& chosen);
+    void take(const NetworkFacts::Chosen& found);
 
     const ConnectionChoice m_choice;
     NetworkObjects m_objects;

@@ -24,15 +24,6 @@ constexpr char storedConnection[] = "org.freedesktop.NetworkManager.Settings.Con
 constexpr const char* interfaces[] = {service, "org.freedesktop.NetworkManager.Connection.Active",
                                       "org.freedesktop.NetworkManager.Device"};
 
-QDBusMessage newQuestion(const QString& path, const char* interface, const char* method)
-{
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(QLatin1String(service), path, QLatin1String(interface), QLatin1String(method));
-    // Nobody has to be started for an answer.
-    question.setAutoStartService(false);
-    return question;
-}
-
 /** Which of the two it is depends on whether the service could be started. */
 bool isNotRunning(const QString& error)
 {
@@ -52,7 +43,7 @@ NetworkObjects::NetworkObjects()
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, [this] {
-        m_isSilent = m_isFirst && !m_isAnswered;
+        m_isSilent = m_isFirst;
         setPresence(Presence::Away);
         ask();
     });
@@ -63,6 +54,15 @@ NetworkObjects::NetworkObjects()
 }
 
 NetworkObjects::~NetworkObjects() = default;
+
+QDBusMessage NetworkObjects::question(const QString& path, const char* interface, const char* method)
+{
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(QLatin1String(service), path, QLatin1String(interface), QLatin1String(method));
+    // Nobody has to be started for an answer.
+    question.setAutoStartService(false);
+    return question;
+}
 
 void NetworkObjects::listen()
 {
@@ -133,7 +133,7 @@ void NetworkObjects::ask()
     // while is known anew as soon as it goes on.
     const int forEver = std::numeric_limits<int>::max();
     m_answer = std::make_unique<QDBusPendingCallWatcher>(QDBusConnection::systemBus().asyncCall(
-        newQuestion(QLatin1String(objects), objectManager, "GetManagedObjects"), forEver));
+        question(QLatin1String(objects), objectManager, "GetManagedObjects"), forEver));
     connect(m_answer.get(), &QDBusPendingCallWatcher::finished, this, &NetworkObjects::takeAnswer);
 }
 
@@ -223,7 +223,7 @@ void NetworkObjects::askForTelephones()
         m_telephones.insert(path);
         ++m_openQuestions;
         auto* const answer = new QDBusPendingCallWatcher(
-            QDBusConnection::systemBus().asyncCall(newQuestion(stored, storedConnection, "GetSettings"), patience),
+            QDBusConnection::systemBus().asyncCall(question(stored, storedConnection, "GetSettings"), patience),
             m_telephoneAnswers.get());
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, stored] {
             answer->deleteLater();

@@ -37,6 +37,9 @@ public:
     NetworkObjects();
     ~NetworkObjects() override;
 
+    /** A question to an object of NetworkManager, which is not started for it. */
+    static QDBusMessage question(const QString& path, const char* interface, const char* method);
+
     Presence presence() const;
 
     /** Whether the service is away for having said nothing since before we listened. */

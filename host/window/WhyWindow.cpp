@@ -65,8 +65,9 @@ WhyWindow::WhyWindow(const Decisions& decisions, QWidget* parent)
 void WhyWindow::copy()
 {
     QList<Decision> copied;
+    const bool isAll = m_list->selectedItems().isEmpty();
     for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        if (m_list->selectedItems().isEmpty() || m_list->topLevelItem(i)->isSelected())
+        if (isAll || m_list->topLevelItem(i)->isSelected())
             copied.append(m_decisions.newestFirst().at(i));
     }
     QGuiApplication::clipboard()->setText(Decisions::text(copied));

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+#include <limits>
+
 #include "NetworkManagerSource.h"
 #include "PlayedNetwork.h"
 #include "Test.h"
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void anyOnTheWay_data();
     void anyOnTheWay();
     void switchIsNoGap();
+    void otherDeviceHasTime_data();
+    void otherDeviceHasTime();
     void downIsDown();
     void reach_data();
     void reach();
@@ -126,6 +130,12 @@ void NetworkChoiceTest::telephone()
     QTRY_COMPARE(textOf(source.state()), expected);
 }
 
+/** Of all that was shown. */
+static QStringList notUp(const QStringList& shown)
+{
+    return shown.filter(QRegularExpression("^(?!up)"));
+}
+
 /** The service takes a second connection for the default before that is up. */
 void NetworkChoiceTest::anyBesideTheDefault()
 {
@@ -145,7 +155,7 @@ void NetworkChoiceTest::anyBesideTheDefault()
     network.set(PlayedNetwork::bluetooth, "State", 2U);
     network.tellChanges();
     QTRY_COMPARE(textOf(source.state()), "up: Telephone");
-    QVERIFY2(shown.filter(QRegularExpression("^(?!up)")).isEmpty(), qPrintable(shown.join(", ")));
+    QCOMPARE(notUp(shown), QStringList());
     // Nor does it go on for ever.
     network.set(PlayedNetwork::bluetooth, "State", 1U);
     network.set(PlayedNetwork::mobile, "State", 3U);
@@ -201,7 +211,45 @@ void NetworkChoiceTest::switchIsNoGap()
     network.set(PlayedNetwork::bluetooth, "State", 2U);
     network.tellChanges();
     QTRY_COMPARE(textOf(source.state()), "up: Telephone");
-    QVERIFY2(shown.filter(QRegularExpression("^(?!up)")).isEmpty(), qPrintable(shown.join(", ")));
+    QCOMPARE(notUp(shown), QStringList());
+}
+
+void NetworkChoiceTest::otherDeviceHasTime_data()
+{
+    QTest::addColumn<bool>("isAny");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<uint>("state");
+    QTest::addColumn<int>("atLeast");
+    QTest::addColumn<int>("lessThan");
+    const int ever = std::numeric_limits<int>::max();
+    const int settling = NetworkManagerSource::settlingTime, takeOver = NetworkManagerSource::takeOverTime;
+    QTest::newRow("up") << true << "802-11-wireless" << 2U << takeOver << ever;
+    QTest::newRow("does not count") << false << "802-11-wireless" << 2U << settling << takeOver;
+    QTest::newRow("not up") << true << "802-11-wireless" << 4U << settling << takeOver;
+    QTest::newRow("leads nowhere") << true << "bridge" << 2U << settling << takeOver;
+}
+
+void NetworkChoiceTest::otherDeviceHasTime()
+{
+    QFETCH(const bool, isAny);
+    QFETCH(const QString, type);
+    QFETCH(const uint, state);
+    QFETCH(const int, atLeast);
+    QFETCH(const int, lessThan);
+    PlayedNetwork network;
+    network.set(PlayedNetwork::bluetooth, "Type", type);
+    network.set(PlayedNetwork::bluetooth, "State", state);
+    network.set(PlayedNetwork::bluetooth, "Default6", false);
+    NetworkManagerSource source(isAny ? ConnectionKind::Any : ConnectionKind::Mobile);
+    QTRY_COMPARE(textOf(source.state()), "up: Mobile plan");
+    QElapsedTimer clock;
+    clock.start();
+    network.set(PlayedNetwork::mobile, "State", 4U);
+    network.tellChanges();
+    QTRY_COMPARE(textOf(source.state()), "down: ");
+    // Qt's timers may be a twentieth early.
+    QVERIFY2(clock.elapsed() >= atLeast * 19 / 20 && clock.elapsed() < lessThan,
+             qPrintable(QString::number(clock.elapsed())));
 }
 
 void NetworkChoiceTest::downIsDown()

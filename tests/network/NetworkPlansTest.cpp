@@ -36,6 +36,7 @@ private Q_SLOTS:
     void roamingBegins();
     void waitsUntilRoamingIsKnown();
     void silentModemManagerIsAskedAgain();
+    void downBeforeRoamingIsKnown();
     void upBeforeIsNoNewsWhileRoamingIsUnknown();
     void findsPlans();
     void findsNoneWithoutService();
@@ -247,6 +248,19 @@ void NetworkPlansTest::silentModemManagerIsAskedAgain()
     QVERIFY(!m_source->isKnown());
     m_modems->setSilent(PlayedModems::modem, false);
     QTRY_COMPARE(heard(), "up: Mobile plan");
+}
+
+void NetworkPlansTest::downBeforeRoamingIsKnown()
+{
+    m_modems->setSilent(PlayedModems::modem, true);
+    m_network->removeObject(PlayedNetwork::bluetooth);
+    m_source = std::make_unique<NetworkManagerSource>(notWhileRoaming());
+    QTRY_VERIFY(m_modems->questions(PlayedModems::modem) > 0);
+    QVERIFY(!m_source->isKnown());
+    m_network->set(PlayedNetwork::mobile, "State", 4U);
+    m_network->tellChanges();
+    QTRY_VERIFY(m_source->isAvailable());
+    QCOMPARE(heard(), "down: ");
 }
 
 void NetworkPlansTest::upBeforeIsNoNewsWhileRoamingIsUnknown()

@@ -171,7 +171,6 @@ void NetworkSilenceTest::goneObjects()
     QTRY_COMPARE(m_source->state().device, device);
     QCOMPARE(m_source->state().name, name);
     // And there again.
-    m_network->set(PlayedNetwork::mobile, "Type", "gsm");
     m_network.reset();
     m_network = std::make_unique<PlayedNetwork>();
     QTRY_COMPARE(SourceText::of(m_source->state()), before);

@@ -12,8 +12,6 @@ from session import Program
 from waiting import wait_for
 
 _OUTSIDE = "outside"
-
-
 _INSIDE_OF = ("ip", "netns", "exec", _OUTSIDE)
 _SERVER = "10.255.255.1"  # far behind every cable
 
