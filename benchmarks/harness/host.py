@@ -19,6 +19,7 @@ from session import Program, Session
 TURNS = 11
 START_TARGET = 1.4 # times the empty window, with FEW links
 FEW, MANY = 20, 500
+UP = "a connection up"
 REST = 5 # seconds until a started program has come to rest
 
 Paint = namedtuple("Paint", "milliseconds cpu")
@@ -50,16 +51,17 @@ def _starts(commands):
     return {name: Paint(*(median(values) for values in zip(*taken))) for name, taken in paints.items()}
 
 
-def _starts_with_a_service(commands):
-    """The same with a connection up, and with a service that says nothing, beside the empty window of that moment."""
+def _with_a_service(commands, seconds, folder):
+    """The same with a connection up, and with a service that says nothing, beside the empty window of that moment; and
+    the idle time with the connection up."""
     starts = {}
-    with ExitStack() as stack:
-        network = stack.enter_context(closing(NetworkManager()))
+    with closing(NetworkManager()) as network:
         network.activate("Plan")
-        starts["a connection up"] = _starts(commands)
+        starts[UP] = _starts(commands)
+        idle = _idle(commands, seconds, folder)
         network.stop()
         starts["the service hangs"] = _starts(commands)
-    return starts
+    return starts, idle
 
 
 def _trace(program, log):
@@ -80,8 +82,7 @@ def _calls(tracer, log):
 def _idle(commands, seconds, folder):
     """System calls of the empty window and of the application in the same seconds, in which nobody does anything."""
     with ExitStack() as stack:
-        started = {name: stack.enter_context(Program(commands[name], os.devnull))
-                   for name in ("empty window", f"{FEW} links")}
+        started = {name: stack.enter_context(Program(command, os.devnull)) for name, command in commands.items()}
         time.sleep(REST)
         logs = {name: os.path.join(folder, f"{name}.strace".replace(" ", "-")) for name in started}
         tracers = {name: _trace(program, logs[name]) for name, program in started.items()}
@@ -113,15 +114,15 @@ def host_table(programs, folders, folder, idle_seconds):
         commands = _commands(programs, folders)
         starts = _starts(commands)
         few = {name: commands[name] for name in ("empty window", f"{FEW} links")}
-        with_a_service = _starts_with_a_service(few)
-        idle = _idle(commands, idle_seconds, folder)
+        with_a_service, idle = _with_a_service(few, idle_seconds, folder)
     lines = [f"| program | first paint, ms | to the empty window | CPU ms | CPU to the empty window | "
              f"system calls in {idle_seconds} s idle |", "|---|--:|--:|--:|--:|--:|"]
-    lines += [_row(name, paint, starts["empty window"], idle.get(name, "-")) for name, paint in starts.items()]
-    name = f"{FEW} links"
-    lines += [_row(f"{name}, {case}", paints[name], paints["empty window"], "-")
+    empty, name = "empty window", f"{FEW} links"
+    lines += [_row(program, paint, starts[empty], idle[empty] if program == empty else "-")
+              for program, paint in starts.items()]
+    lines += [_row(f"{name}, {case}", paints[name], paints[empty], idle[name] if case == UP else "-")
               for case, paints in with_a_service.items()]
-    worst = max(_ratio(paints[name], paints["empty window"]) for paints in (starts, *with_a_service.values()))
+    worst = max(_ratio(paints[name], paints[empty]) for paints in (starts, *with_a_service.values()))
     lines += ["", f"Target: {name} in at most {START_TARGET} times the time of the empty window at that time: "
                   + ("met." if worst <= START_TARGET else f"**missed**, {worst:.2f}.")]
     return "\n".join(lines) + "\n"

@@ -20,6 +20,7 @@
 #include "OpeningCause.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
+#include "ProgramIcon.h"
 #include "RunningProgram.h"
 #include "SystemSource.h"
 #include "Translator.h"
@@ -73,7 +74,9 @@ void Host::connectWindow()
                      [this](const QList<QAction*>& actions) { giveIcons(actions); });
     QObject::connect(window, &MainWindow::settingsRequested, window, [this] { showSettings(); });
     QObject::connect(window, &MainWindow::appeared, window, [this] {
-        // Not before: it waits for the disk.
+        // Not before: for a picture the toolkit loads all libraries that it has for pictures.
+        QApplication::setWindowIcon(programIcon());
+        // Nor this: it waits for the disk.
         m_linkKeeper.watch(m_window.get());
         showRefusals();
         tellStarted();

@@ -80,14 +80,6 @@ void describeApplication()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
 }
-
-QIcon programIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128})
-        icon.addFile(QStringLiteral(":/icons/com.norvik.vellumconnect-%1.png").arg(size), QSize(size, size));
-    return icon;
-}
 } // namespace
 
 int main(int argc, char** argv)
@@ -135,8 +127,6 @@ int main(int argc, char** argv)
     if (showsWindow) {
         fitToLetters(start, lock);
         FolderPrivacy::keepOthersOut(UserFolder::path());
-        // Not before: it is read from files, which takes a moment.
-        QApplication::setWindowIcon(programIcon());
     }
 
     Host host(translator);

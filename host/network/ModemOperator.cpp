@@ -4,33 +4,23 @@
 #include "ModemOperator.h"
 
 #include <QDBusConnection>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
-
-#include <algorithm>
+#include <QRegularExpression>
 
 #include "BusValue.h"
 
 namespace
 {
 constexpr char modemManager[] = "org.freedesktop.ModemManager1";
-constexpr char modems[] = "/org/freedesktop/ModemManager1/Modem/";
 constexpr char mobileNetwork[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp";
 constexpr char operatorName[] = "OperatorName";
 constexpr char registration[] = "RegistrationState";
 
-bool isInNumber(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
-
 /** Object paths hold no other signs, and ModemManager's modems have numbers. */
 bool isModem(const QString& path)
 {
-    const QString number = path.mid(int(QLatin1String(modems).size()));
-    return path.startsWith(QLatin1String(modems)) && !number.isEmpty() &&
-           std::all_of(number.begin(), number.end(), isInNumber);
+    static const QRegularExpression modem(QStringLiteral("\\A/org/freedesktop/ModemManager1/Modem/[0-9]+\\z"));
+    return modem.match(path).hasMatch();
 }
 
 /** The numbers are ModemManager's: roaming, for text messages only, and for calls by an older network as well. */
@@ -39,10 +29,6 @@ bool isRoaming(uint registrationState)
     return registrationState == 5 || registrationState == 7 || registrationState == 10;
 }
 } // namespace
-
-ModemOperator::ModemOperator() = default;
-
-ModemOperator::~ModemOperator() = default;
 
 void ModemOperator::setModem(const QString& path)
 {

@@ -3,12 +3,10 @@
 
 #pragma once
 
-#include <QObject>
+#include <QDBusPendingCallWatcher>
 #include <QVariantMap>
 
 #include <memory>
-
-class QDBusPendingCallWatcher;
 
 /**
  * The mobile network that a modem is registered with, by ModemManager over the system bus: its name, and whether it is
@@ -28,8 +26,7 @@ public:
     };
 
     /** Knows no modem and no name. */
-    ModemOperator();
-    ~ModemOperator() override;
+    ModemOperator() = default;
 
     /** Asks for the modem with this object path of ModemManager; anything else stands for none. */
     void setModem(const QString& path);

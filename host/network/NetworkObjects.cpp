@@ -4,7 +4,6 @@
 #include "NetworkObjects.h"
 
 #include <QDBusConnection>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
@@ -52,8 +51,6 @@ NetworkObjects::NetworkObjects()
     else
         m_presence = Presence::Away;
 }
-
-NetworkObjects::~NetworkObjects() = default;
 
 QDBusMessage NetworkObjects::question(const QString& path, const char* interface, const char* method)
 {

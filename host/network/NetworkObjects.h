@@ -4,15 +4,13 @@
 #pragma once
 
 #include <QDBusMessage>
-#include <QObject>
+#include <QDBusPendingCallWatcher>
 #include <QSet>
 #include <QTimer>
 
 #include <memory>
 
 #include "NetworkFacts.h"
-
-class QDBusPendingCallWatcher;
 
 /**
  * What NetworkManager says of its objects, over the system bus. It is asked once for all of them, and its signals say
@@ -35,7 +33,6 @@ public:
 
     /** Begins to listen. */
     NetworkObjects();
-    ~NetworkObjects() override;
 
     /** A question to an object of NetworkManager, which is not started for it. */
     static QDBusMessage question(const QString& path, const char* interface, const char* method);

@@ -3,64 +3,26 @@
 
 #include "DesktopPrograms.h"
 
-#include <QFile>
 #include <QFileInfo>
+#include <QtDebug>
 
-#include <gio/gdesktopappinfo.h>
-#include <gio/gio.h>
+#include <dlfcn.h>
 
-#include <memory>
-
+#include "DesktopEntries.h"
 #include "OutlivingProcess.h"
 
-namespace
+/** Of the library, which is loaded when it is first needed and stays; null where it is missing. */
+static const DesktopEntries* entries()
 {
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-
-template <typename Object>
-using Owned = std::unique_ptr<Object, Unref>;
-
-Owned<GDesktopAppInfo> entryAt(const QString& path)
-{
-    return Owned<GDesktopAppInfo>(g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData()));
+    static const DesktopEntries* const found = [] {
+        // By its name alone it is found where the program's other libraries are.
+        void* const library = ::dlopen("libdesktopentries.so", RTLD_NOW | RTLD_LOCAL);
+        if (!library)
+            qWarning("desktop entries are not known: %s", ::dlerror());
+        return library ? static_cast<const DesktopEntries*>(::dlsym(library, "desktopEntries")) : nullptr;
+    }();
+    return found;
 }
-
-void cutOff(gpointer)
-{
-    OutlivingProcess::cutOff();
-}
-
-void takeProcess(GDesktopAppInfo*, GPid process, gpointer start)
-{
-    static_cast<DesktopPrograms::Start*>(start)->process = process;
-}
-
-/** The session bus as GIO has it. By itself GIO would end this program together with the bus. */
-Owned<GDBusConnection> sessionBus()
-{
-    Owned<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-    if (bus)
-        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    return bus;
-}
-
-QString iconOf(GAppInfo* program)
-{
-    GIcon* const icon = program ? g_app_info_get_icon(program) : nullptr; // the program's
-    if (!icon)
-        return QString();
-    if (G_IS_THEMED_ICON(icon)) {
-        const gchar* const* const names = g_themed_icon_get_names(G_THEMED_ICON(icon));
-        return names ? QString::fromUtf8(names[0]) : QString();
-    }
-    gchar* const text = g_icon_to_string(icon);
-    QString path = QFile::decodeName(text);
-    g_free(text);
-    return path;
-}
-} // namespace
 
 bool DesktopPrograms::isEntry(const QFileInfo& file)
 {
@@ -69,26 +31,15 @@ bool DesktopPrograms::isEntry(const QFileInfo& file)
 
 DesktopPrograms::Start DesktopPrograms::start(const QString& path)
 {
-    Start start;
-    const Owned<GDesktopAppInfo> entry = entryAt(path);
-    if (!entry)
-        return start;
-    const Owned<GDBusConnection> bus = sessionBus();
-    const int flags =
-        G_SPAWN_SEARCH_PATH | G_SPAWN_DO_NOT_REAP_CHILD | G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL;
-    start.isStarted = g_desktop_app_info_launch_uris_as_manager(entry.get(), nullptr, nullptr, GSpawnFlags(flags),
-                                                                cutOff, nullptr, takeProcess, &start, nullptr);
-    return start;
+    return entries() ? entries()->start(path, OutlivingProcess::cutOff) : Start();
 }
 
 QString DesktopPrograms::iconOfEntry(const QString& path)
 {
-    const Owned<GDesktopAppInfo> entry = entryAt(path);
-    return iconOf(entry ? G_APP_INFO(entry.get()) : nullptr);
+    return entries() ? entries()->iconOfEntry(path) : QString();
 }
 
 QString DesktopPrograms::iconOfScheme(const QString& scheme)
 {
-    const Owned<GAppInfo> program(g_app_info_get_default_for_uri_scheme(scheme.toUtf8().constData()));
-    return iconOf(program.get());
+    return entries() ? entries()->iconOfScheme(scheme) : QString();
 }

@@ -9,7 +9,7 @@ class QFileInfo;
 
 /**
  * What the desktop knows of its programs, by GIO: their desktop entries (Desktop Entry Specification) and the user's
- * choices among them (Association between MIME types and applications). The only file that knows GLib.
+ * choices among them (Association between MIME types and applications). Where the library for it is missing, nothing.
  */
 namespace DesktopPrograms
 {

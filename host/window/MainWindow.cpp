@@ -49,6 +49,8 @@ MainWindow::MainWindow(ConnectionPanel* panel, QMenu* languageMenu)
         if (!m_filter->text().isEmpty())
             m_linkButtons->openFirst();
     });
+    m_appearance.setSingleShot(true);
+    connect(&m_appearance, &QTimer::timeout, this, &MainWindow::appeared);
     statusBar()->addPermanentWidget(m_permanentStatus);
     buildMenus(languageMenu);
     setTexts();
@@ -168,6 +170,6 @@ void MainWindow::appear()
     if (m_hasAppeared)
         return;
     m_hasAppeared = true;
-    // Later: whoever hears it may open windows, and this one is being painted.
-    QMetaObject::invokeMethod(this, "appeared", Qt::QueuedConnection);
+    // Later: whoever hears it may open windows or wait for the disk, and this one is on its way to the screen.
+    m_appearance.start();
 }

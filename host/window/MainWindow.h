@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QTimer>
 
 class ConnectionPanel;
 class LinkButtons;
@@ -101,6 +102,7 @@ private:
     OfferLine* m_offerLine = nullptr;
     QLabel* m_permanentStatus = nullptr;
     bool m_hasAppeared = false;
+    QTimer m_appearance; ///< runs out when the event loop has come round
 
     QMenu* m_connectionMenu = nullptr;
     QMenu* m_linkMenu = nullptr;

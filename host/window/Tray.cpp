@@ -17,7 +17,6 @@ static const std::chrono::seconds patience(5);
 
 Tray::Tray(QWidget& window, QMenu& linkMenu)
     : m_window(window)
-    , m_state(connectionIcon(false))
 {
     m_menu.addMenu(&linkMenu);
     m_menu.addSeparator();
@@ -35,7 +34,7 @@ Tray::Tray(QWidget& window, QMenu& linkMenu)
 
 void Tray::setState(bool isUp, const QString& summary)
 {
-    m_state = connectionIcon(isUp);
+    m_isUp = isUp;
     m_summary = summary;
     if (m_icon)
         showIcon();
@@ -77,7 +76,7 @@ void Tray::showIcon()
                 toggleWindow();
         });
     }
-    m_icon->setIcon(m_state);
+    m_icon->setIcon(connectionIcon(m_isUp));
     m_icon->setToolTip(m_summary);
     m_icon->show();
 }

@@ -54,7 +54,7 @@ private:
     QMenu m_menu;
     QAction* m_show = nullptr;
     QAction* m_quit = nullptr;
-    QIcon m_state;
+    bool m_isUp = false;
     QString m_summary;
     std::unique_ptr<QSystemTrayIcon> m_icon; ///< from the first tray on
     bool m_hasToldThatItKeepsRunning = false;

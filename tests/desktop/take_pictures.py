@@ -30,6 +30,13 @@ class Pictures(SettingsScenario):
     def test_default(self):
         self.take_all("")
 
+    def test_why(self):
+        self.start()
+        self.bring_up()
+        self.open_menu("Connection").find("menu item", "Why…").click()
+        self.application.window("What Opened, and Why")
+        self.take("why-window")
+
     def test_large_letters(self):
         """Letters of 14 points and more in place of 9, as a user with weak eyes sets them in the desktop's settings."""
         self.take_all("14-points-", **letters(self.folder, 14))
@@ -64,11 +71,18 @@ class Pictures(SettingsScenario):
         Widget.scale = scale_of(self.program.pid)
         self.take_windows(prefix)
 
-    def take_windows(self, prefix):
+    def bring_up(self):
         self.network.activate("Mobile plan")
         self.window.find("label", "Operator: Northern Mobile")
+
+    def take_windows(self, prefix):
+        self.bring_up()
         self.take(prefix + "main-window")
         settings = self.open_settings()
+        for page in ("General", "Connection", "History"):
+            settings.window.find("list item", page).click()
+            self.take(f"{prefix}{page.lower()}-page")
+        settings.window.find("list item", "Quick Links").click()
         self.take(prefix + "settings-page")
         dialog = settings.new()
         dialog.field("Name:").type("Photo album")

@@ -17,15 +17,13 @@
 #include "FakePlugin.h"
 #include "FakeTranslator.h"
 #include "Host.h"
+#include "HostSurroundings.h"
 #include "IDialupUIService.h"
 #include "INotifyService.h"
 #include "MessageOnScreen.h"
-#include "PluginFixture.h"
 #include "RecordingDesktop.h"
 #include "Startup.h"
 #include "Test.h"
-#include "Translator.h"
-#include "UserFolder.h"
 #include "UserSettings.h"
 #include "WhyWindow.h"
 
@@ -57,6 +55,7 @@ private Q_SLOTS:
     void listsItInOneWindow();
     void namesWhatWasNotLoaded();
     void keepsTheOrderOfFilesNotLoaded();
+    void hasItsIcon();
     void namesItsVersion();
     void takesPluginsDownOnceAndAfterTheWindow_data();
     void takesPluginsDownOnceAndAfterTheWindow();
@@ -73,23 +72,16 @@ private:
     static QAction* why() { return window()->menuBar()->actions().constFirst()->menu()->actions().constFirst(); }
     static QMenu* linkMenu() { return window()->menuBar()->actions().at(1)->menu(); }
 
-    std::unique_ptr<PluginFolder> m_folder;
-    std::unique_ptr<QTemporaryDir> m_userFolder;
-    std::unique_ptr<Translator> m_translator;
+    std::unique_ptr<HostSurroundings> m_found;
     std::unique_ptr<Host> m_host;
     bool m_isUnpainted = false; ///< keeps the window from being painted
 };
 
 void HostTest::init()
 {
-    m_folder = std::make_unique<PluginFolder>();
-    m_folder->add("FakeFirst");
-    m_folder->add("FakeSecond");
-    m_userFolder = std::make_unique<QTemporaryDir>();
-    UserFolder::setPath(m_userFolder->path());
-    m_translator = std::make_unique<Translator>();
-    m_host = std::make_unique<Host>(*m_translator);
-    m_host->loadPlugins(m_folder->path());
+    m_found = std::make_unique<HostSurroundings>();
+    m_host = std::make_unique<Host>(m_found->translator);
+    m_host->loadPlugins(m_found->plugins.path());
     QCOMPARE(m_host->container().plugins().size(), 2);
     takeEvents();
 }
@@ -127,7 +119,7 @@ void HostTest::setLinks(int plugin, const QStringList& names) const
 /** Saves a file of links with these addresses, one between two blanks each. */
 void HostTest::saveLinks(const QByteArray& addresses) const
 {
-    const QString folder = m_userFolder->path() + "/plugins/QuickLinkUIPlugin";
+    const QString folder = m_found->user.path() + "/plugins/QuickLinkUIPlugin";
     QVERIFY(QDir().mkpath(folder));
     QByteArray items;
     for (const QByteArray& address : addresses.split(' '))
@@ -162,7 +154,7 @@ INotifyService* HostTest::notifyService()
 
 void HostTest::preparesThePluginsFolders()
 {
-    const QDir folder(m_userFolder->path() + "/plugins");
+    const QDir folder(m_found->user.path() + "/plugins");
     QCOMPARE(folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList({"FakeFirst", "FakeSecond"}));
 }
 
@@ -250,7 +242,7 @@ void HostTest::keepsTheWindowsPlace()
         m_host.reset();
     QVERIFY(!UserSettings::windowPlace().isEmpty());
     m_host.reset();
-    m_host = std::make_unique<Host>(*m_translator);
+    m_host = std::make_unique<Host>(m_found->translator);
     showWindow();
     QCOMPARE(window()->geometry(), place);
 }
@@ -428,6 +420,14 @@ void HostTest::keepsTheOrderOfFilesNotLoaded()
     const QString text = window()->statusBar()->currentMessage();
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(text, "Plug-ins not loaded: " + codePoint(0x2066) + "libBroken.so" + codePoint(0x2069));
+}
+
+void HostTest::hasItsIcon()
+{
+    QGuiApplication::setWindowIcon(QIcon());
+    showWindow();
+    QTRY_VERIFY(!QGuiApplication::windowIcon().isNull());
+    QCOMPARE(QGuiApplication::windowIcon().actualSize(QSize(48, 48)), QSize(48, 48));
 }
 
 void HostTest::namesItsVersion()

@@ -13,14 +13,12 @@
 #include <algorithm>
 
 #include "Host.h"
+#include "HostSurroundings.h"
 #include "MainWindow.h"
 #include "MessageOnScreen.h"
-#include "PluginFixture.h"
 #include "ProcessLimits.h"
 #include "RecordedEvents.h"
 #include "Test.h"
-#include "Translator.h"
-#include "UserFolder.h"
 
 class HostTrustTest : public QObject
 {
@@ -44,20 +42,13 @@ private:
     static QAction* menuEntry();
     bool isLoaded(int count) const { return int(m_host->container().plugins().size()) == count; }
 
-    std::unique_ptr<PluginFolder> m_folder;
-    std::unique_ptr<QTemporaryDir> m_userFolder;
-    std::unique_ptr<Translator> m_translator;
+    std::unique_ptr<HostSurroundings> m_found;
     std::unique_ptr<Host> m_host;
 };
 
 void HostTrustTest::init()
 {
-    m_folder = std::make_unique<PluginFolder>();
-    m_folder->add("FakeFirst");
-    m_folder->add("FakeSecond");
-    m_userFolder = std::make_unique<QTemporaryDir>();
-    UserFolder::setPath(m_userFolder->path());
-    m_translator = std::make_unique<Translator>();
+    m_found = std::make_unique<HostSurroundings>();
 }
 
 void HostTrustTest::cleanup()
@@ -71,8 +62,8 @@ void HostTrustTest::start()
 {
     m_host.reset();
     takeEvents();
-    m_host = std::make_unique<Host>(*m_translator);
-    m_host->loadPlugins(m_folder->path());
+    m_host = std::make_unique<Host>(m_found->translator);
+    m_host->loadPlugins(m_found->plugins.path());
     m_host->showWindow(ConnectionKind::Manual);
     QVERIFY(QTest::qWaitForWindowExposed(window()));
     QTRY_VERIFY(recordedEvents().contains("FakeSecond Notify 258 0 0"));
@@ -89,9 +80,9 @@ void HostTrustTest::expectLeftOut()
 /** What a process leaves behind that ended in Init of the first plug-in. */
 void HostTrustTest::crash() const
 {
-    const QFileInfo file(m_folder->file("FakeFirst"));
-    QVERIFY(QDir(m_userFolder->path()).mkpath("calls"));
-    QFile note(m_userFolder->path() + "/calls/1");
+    const QFileInfo file(m_found->plugins.file("FakeFirst"));
+    QVERIFY(QDir(m_found->user.path()).mkpath("calls"));
+    QFile note(m_found->user.path() + "/calls/1");
     QVERIFY(note.open(QIODevice::WriteOnly));
     const QString line = QString("c 1 %1 %2 %3").arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch());
     note.write(line.arg(file.canonicalFilePath()).toLocal8Bit() + '\0');
@@ -137,7 +128,7 @@ QAction* HostTrustTest::menuEntry()
 
 void HostTrustTest::tellsWhatOthersMayWriteTo()
 {
-    const QString file = m_folder->file("FakeFirst");
+    const QString file = m_found->plugins.file("FakeFirst");
     QVERIFY(setMode(file, 0666));
     QTest::ignoreMessage(QtWarningMsg,
                          qPrintable(QString("Plug-in refused: %1: other users may write to %1").arg(file)));
