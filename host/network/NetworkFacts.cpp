@@ -206,8 +206,22 @@ NetworkFacts::Chosen NetworkFacts::describe(const QString& path) const
     chosen.state.id = uuid.isEmpty() ? path : uuid;
     chosen.state.reach = reach(device);
     chosen.path = path;
-    chosen.modem = textOf(device, "Udi");
+    chosen.modem = modemOf(device);
     return chosen;
+}
+
+QString NetworkFacts::modemOf(const QVariantMap& device)
+{
+    const uint modem = 8; // The number is NetworkManager's.
+    return BusValue::number(device.value(QStringLiteral("DeviceType"))) == modem ? textOf(device, "Udi") : QString();
+}
+
+QString NetworkFacts::modem() const
+{
+    const QStringList devices = BusValue::paths(of(manager()).value(QStringLiteral("Devices")));
+    const auto first = std::find_if(devices.begin(), devices.end(),
+                                    [this](const QString& path) { return !modemOf(of(path)).isEmpty(); });
+    return first == devices.end() ? QString() : modemOf(of(*first));
 }
 
 Reach NetworkFacts::reach(const QVariantMap& device) const

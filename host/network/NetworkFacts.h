@@ -17,7 +17,7 @@ public:
     struct Chosen {
         ConnectionState state;
         QString path;  ///< of the connection on the bus, while it is up
-        QString modem; ///< what its device calls its modem, while it is up; may be anything
+        QString modem; ///< what its device calls its modem, while it is up; may be anything, and is empty without one
     };
 
     /** The object path of NetworkManager itself. */
@@ -50,6 +50,9 @@ public:
      */
     Chosen chosen(const ConnectionChoice& choice, const QString& former) const;
 
+    /** What the first device that is a modem calls it, likewise. */
+    QString modem() const;
+
     /** Whether another is up that the traffic may take, while the service has not said that it does. */
     bool isTakeOverLikely(const ConnectionChoice& choice) const;
 
@@ -64,6 +67,7 @@ private:
     static bool leadsOut(const QVariantMap& connection);
     bool isMobile(const QVariantMap& connection) const;
     Chosen describe(const QString& path) const;
+    static QString modemOf(const QVariantMap& device);
     ConnectionState::Reach reach(const QVariantMap& device) const;
 
     QHash<QString, QVariantMap> m_values;

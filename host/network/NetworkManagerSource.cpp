@@ -62,17 +62,22 @@ ConnectionState NetworkManagerSource::state() const
     ConnectionState state = m_chosen.state;
     if (!state.isUp)
         return state;
-    state.operatorName = m_operator.name();
+    state.operatorName = m_chosen.modem.isEmpty() ? QString() : m_operator.name();
     // The service says the same while it looks for the first time as where it has found nothing.
     if (state.reach == Reach::Checking && !m_checking.isActive())
         state.reach = Reach::Limited;
-    return m_choice.forbidsRoaming() ? withoutRoaming(state, m_operator.roaming()) : state;
+    return m_choice.forbidsRoaming() ? withoutRoaming(state, roaming()) : state;
+}
+
+ModemOperator::Roaming NetworkManagerSource::roaming() const
+{
+    return m_chosen.modem.isEmpty() ? ModemOperator::Roaming::No : m_operator.roaming();
 }
 
 /** Whether it hangs on ModemManager alone if the connection counts; it says so by another change. */
 bool NetworkManagerSource::isRoamingUnknown() const
 {
-    return m_chosen.state.isUp && m_choice.forbidsRoaming() && m_operator.roaming() == ModemOperator::Roaming::Unknown;
+    return m_chosen.state.isUp && m_choice.forbidsRoaming() && roaming() == ModemOperator::Roaming::Unknown;
 }
 
 void NetworkManagerSource::askWhetherUp()
@@ -115,7 +120,8 @@ void NetworkManagerSource::take(const NetworkFacts::Chosen& found)
     if (found.state.reach != Reach::Checking)
         m_checking.stop();
     m_chosen = found;
-    m_operator.setModem(m_chosen.modem);
+    // One that is there is asked before it is needed: when its plan comes up, everything is known.
+    m_operator.setModem(m_chosen.modem.isEmpty() ? m_objects.facts().modem() : m_chosen.modem);
     if (m_presence == m_objects.presence()) {
         Q_EMIT changed();
     } else if (!isRoamingUnknown()) {

@@ -34,6 +34,7 @@ public:
     void askWhetherUp() override;
 
 private:
+    ModemOperator::Roaming roaming() const;
     bool isRoamingUnknown() const;
     NetworkFacts::Chosen chosen() const;
     void requestChange();

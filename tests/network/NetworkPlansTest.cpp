@@ -35,6 +35,7 @@ private Q_SLOTS:
     void roaming();
     void roamingBegins();
     void waitsUntilRoamingIsKnown();
+    void modemIsAskedOnce();
     void silentModemManagerIsAskedAgain();
     void downBeforeRoamingIsKnown();
     void upBeforeIsNoNewsWhileRoamingIsUnknown();
@@ -229,15 +230,34 @@ void NetworkPlansTest::waitsUntilRoamingIsKnown()
 {
     m_network->set(PlayedNetwork::mobile, "State", 1U);
     m_network->set(PlayedNetwork::bluetooth, "State", 4U);
+    m_modems->setSilent(PlayedModems::modem, true);
     start(notWhileRoaming());
     QCOMPARE(heard(), "coming up: Mobile plan");
-    m_modems->setSilent(PlayedModems::modem, true);
     m_network->set(PlayedNetwork::mobile, "State", 2U);
     m_network->tellChanges();
     QTRY_VERIFY(m_modems->questions(PlayedModems::modem) > 0);
     QCOMPARE(heard(), "coming up: Mobile plan");
     m_modems->setSilent(PlayedModems::modem, false);
     QTRY_COMPARE(heard(), "up: Mobile plan");
+}
+
+void NetworkPlansTest::modemIsAskedOnce()
+{
+    m_network->set(PlayedNetwork::mobile, "State", 4U);
+    m_network->set(PlayedNetwork::bluetooth, "State", 4U);
+    start(notWhileRoaming());
+    QTRY_COMPARE(m_modems->questions(PlayedModems::modem), 1);
+    QCOMPARE(m_source->state().operatorName, QString());
+    for (int i = 0; i < 2; ++i) {
+        m_network->set(PlayedNetwork::mobile, "State", 2U);
+        m_network->tellChanges();
+        QTRY_COMPARE(heard(), "up: Mobile plan");
+        QTRY_COMPARE(m_source->state().operatorName, "Northern Mobile");
+        m_network->set(PlayedNetwork::mobile, "State", 4U);
+        m_network->tellChanges();
+        QTRY_COMPARE(heard(), "down: ");
+    }
+    QCOMPARE(m_modems->questions(PlayedModems::modem), 1);
 }
 
 void NetworkPlansTest::silentModemManagerIsAskedAgain()

@@ -212,6 +212,7 @@ PlayedNetwork::PlayedNetwork()
     };
     set(manager, "ActiveConnections", paths({QDBusObjectPath(mobile), QDBusObjectPath(bluetooth)}));
     set(manager, "PrimaryConnection", path(mobile));
+    set(manager, "Devices", paths({QDBusObjectPath(telephone), QDBusObjectPath(modem)}));
     set(manager, "Connectivity", 4U);
     set(mobile, "Type", "gsm");
     set(mobile, "Id", "Mobile plan");
@@ -223,8 +224,11 @@ PlayedNetwork::PlayedNetwork()
     set(modem, "Interface", "cdc-wdm0");
     set(modem, "IpInterface", "wwan0");
     set(modem, "Udi", PlayedModems::modem);
+    set(modem, "DeviceType", 8U);
     addTelephone(2);
     set(telephone, "Interface", "bnep0");
+    set(telephone, "DeviceType", 5U);
+    set(telephone, "Udi", "/org/bluez/hci0/dev_00");
     set(stored, "type", "dun");
     set(stored, "connection.type", "bluetooth");
     set(stored, "connection.id", "Telephone");
