@@ -6,7 +6,8 @@
 # Usage: scripts/package.sh [--twice] [--version VERSION]
 #   --twice            builds them once more, elsewhere and otherwise, and fails where a byte is another
 #   --version VERSION  in place of the one in debian/changelog, to have packages to upgrade from; looks at nothing
-# The packages lie in build/packages/, or in build/packages-VERSION/, with the source package and the log of the build.
+# The packages lie in build/packages/, or in build/packages-VERSION/, with the source package, the log of the build and a list of
+# all sources with their licences (SPDX).
 
 # Its checks are functions that are called by a name put together:
 # shellcheck disable=SC2317
@@ -38,6 +39,7 @@ build() {
     listed_files | tar -cf - -T - | tar -xf - -C "$copy"
     [[ -z $version ]] || sed -i "1s/(.*)/($version)/" "$copy/debian/changelog"
     # A compiler that is called by another program would not be found in the log.
+    reuse --root "$copy" spdx --output "$copy.spdx" || return
     (cd "$copy" && env -u CMAKE_CXX_COMPILER_LAUNCHER DEB_BUILD_OPTIONS="parallel=$(nproc) noautodbgsym" \
         "$@" dpkg-buildpackage -us -uc)
 }
@@ -86,6 +88,7 @@ rm -rf "$place"
 mkdir -p "$place"
 logged "$place/build.log" build "$place/sources" || fail "the packages cannot be built, see above"
 rm -rf "$place/sources"
+mv "$place/sources.spdx" "$place/vellumconnect.spdx"
 (cd "$place" && say "Made in ${place#"$PWD/"}: $(echo *.deb)")
 [[ -z $version ]] || exit 0
 

@@ -21,7 +21,7 @@ run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n qtwayla
 demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 fuzz=(clang-14 libclang-rt-14-dev)
-package=(debhelper dpkg-dev lintian devscripts blhc desktop-file-utils appstream dbus xvfb xauth xdotool)
+package=(debhelper dpkg-dev lintian devscripts blhc desktop-file-utils appstream reuse dbus xvfb xauth xdotool)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
     python3-gi libglib2.0-bin gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
     iproute2 libcurl3-gnutls libgudev-1.0-0 libjansson4 libmbim-glib4 libmm-glib0 libndp0 libnm0 libpolkit-gobject-1-0 libpsl5

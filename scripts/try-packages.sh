@@ -43,7 +43,7 @@ within() {
 }
 
 make_debian() {
-    debootstrap --variant=minbase "$codename" "$inside" "$mirror"
+    debootstrap --variant=minbase "$codename" "$inside" "$mirror" || return
     # Where displays of users are found; else only root could make it.
     mkdir -m 1777 "$inside/tmp/.X11-unix"
     within apt-get -q -y update
@@ -107,7 +107,7 @@ build_examples() {
 try() {
     local text=$1
     shift
-    logged "$place/$1.log" "$@" || fail "$text: FAILED, see above"
+    logged "$place/$(basename "$1").log" "$@" || fail "$text: FAILED, see above"
     say "$text: ok"
 }
 
