@@ -36,3 +36,8 @@ build_for() {
     logged "$folder-configure.log" cmake --preset "$preset" -B "$folder" "$@" &&
         logged "$folder-build.log" cmake --build "$folder"
 }
+
+# listed_files: the files of the sources, those of git and of builds left out.
+listed_files() {
+    find . \( -path ./.git -o -path ./build -o -name __pycache__ \) -prune -o ! -type d -print | sed 's,^\./,,' | sort
+}

@@ -29,7 +29,7 @@ compiled_files() {
 }
 
 check_format() {
-    cpp_files include src host tests benchmarks | xargs clang-format-14 --dry-run --Werror
+    cpp_files include src host tests benchmarks examples | xargs clang-format-14 --dry-run --Werror
 }
 
 # Both tools know only sources of the compile commands, and read the headers through them.
@@ -60,7 +60,7 @@ check_licences() {
 check_sources() {
     local plugin=(include src) libraries=(include src host/libcore host/libsdk)
     none "$(
-        in_code '^#include <Qt[^>]*/' include src host tests benchmarks
+        in_code '^#include <Qt[^>]*/' include src host tests benchmarks examples
         in_code '^#include "[^"]*\.cpp"' include src host tests benchmarks
         in_code '^#include <([^>]*[./]|[^Qa-z])' "${libraries[@]}"
         in_code '^#include "[^"]*/' "${libraries[@]}"
@@ -98,7 +98,7 @@ none() {
 }
 
 check_scripts() {
-    shellcheck -x -P scripts scripts/*.sh .ci/run
+    shellcheck -x -P scripts scripts/*.sh .ci/run debian/tests/operators-links debian/tests/build-examples
 }
 
 # A path of one machine works on no other. "someone" is the made-up user of the tests. No name needs quoting in a shell.
@@ -109,10 +109,6 @@ check_paths() {
         listed_files | xargs grep -InE "$machine" -- | grep -v '/home/someone\b'
         listed_files | xargs grep -InF "$PWD/" --
     )"
-}
-
-listed_files() {
-    find . \( -path ./.git -o -path ./build -o -name __pycache__ \) -prune -o ! -type d -print | sed 's,^\./,,' | sort
 }
 
 status=0

@@ -3,11 +3,13 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the Debian 12 packages that a purpose needs and that are missing; says nothing when none is.
-# Usage: scripts/packages.sh run|demo|benchmark|fuzz|test|qt4
+# Usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|test|qt4
 #   run        build with Qt 5 and start the program
 #   demo       and show it on a virtual display
 #   benchmark  and measure it
 #   fuzz       build with clang for scripts/fuzz.sh
+#   package    make the Debian packages and look at them with scripts/package.sh
+#   try        and try them with scripts/try-packages.sh
 #   test       and build with Qt 6, run every test, and check format, lint and licences
 #   qt4        what a given toolkit of Qt 4.8 needs, 64-bit and 32-bit
 # Where each package is for: docs/dependencies.md
@@ -19,11 +21,12 @@ run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n qtwayla
 demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 fuzz=(clang-14 libclang-rt-14-dev)
+package=(debhelper dpkg-dev lintian devscripts blhc desktop-file-utils appstream reuse dbus xvfb xauth xdotool)
 test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto-cjk fonts-lohit-deva
-    python3-gi gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
+    python3-gi libglib2.0-bin gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
     iproute2 libcurl3-gnutls libgudev-1.0-0 libjansson4 libmbim-glib4 libmm-glib0 libndp0 libnm0 libpolkit-gobject-1-0 libpsl5
     libqmi-glib5 libqrtr-glib0 libreadline8
-    clang-format-14 clang-tidy-14 clazy reuse shellcheck)
+    clang-format-14 clang-tidy-14 clazy reuse shellcheck abigail-tools)
 qt4=(xvfb xauth libx11-dev libxext-dev libxrender-dev libfontconfig1-dev libfreetype6-dev libsm-dev libice-dev libxrandr-dev
     libxi-dev libxcursor-dev libdbus-1-dev zlib1g-dev g++-multilib xz-utils)
 
@@ -35,9 +38,11 @@ run) wanted=("${run[@]}") ;;
 demo) wanted=("${run[@]}" "${demo[@]}") ;;
 benchmark) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}") ;;
 fuzz) wanted=("${run[@]}" "${fuzz[@]}") ;;
-test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${fuzz[@]}" "${test[@]}") ;;
+package) wanted=("${run[@]}" "${package[@]}") ;;
+try) wanted=("${run[@]}" "${package[@]}" debootstrap) ;;
+test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${fuzz[@]}" "${package[@]}" "${test[@]}") ;;
 qt4) wanted=("${qt4[@]}") ;;
-*) fail "usage: scripts/packages.sh run|demo|benchmark|fuzz|test|qt4" ;;
+*) fail "usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|test|qt4" ;;
 esac
 
 is_installed() {

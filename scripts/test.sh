@@ -148,7 +148,7 @@ if [[ $quick == no ]]; then
     if [[ -n ${QT4_TOOLKITS-} ]]; then
         step "Qt 4.8: packages and toolkits" unpack_qt4
         step "Qt 4.8, 64-bit: build" build_qt4 qt4 x86_64 all
-        step "Qt 4.8, 64-bit: unit tests" ctest_in qt4 build/test-qt4.log -L unit
+        step "Qt 4.8, 64-bit: unit tests, developer kit" ctest_in qt4 build/test-qt4.log -L 'unit|kit'
         step "Qt 4.8, 32-bit: build" build_qt4_32
         step "every Qt: its own plug-in loaded, the others' refused" loaders qt4-32 qt4 qt6 default
     else
@@ -161,6 +161,7 @@ if [[ $quick == no ]]; then
     # The same inputs at each run: what is new is looked for by hand, for longer.
     step "fuzzing" env SEED=1 scripts/fuzz.sh 30
     step "mutants: a handful" scripts/mutants.sh --handful
+    step "Debian packages" scripts/package.sh
     step "instructions and heap; format and lint" beside instructions_and_heap scripts/lint.sh
 fi
 

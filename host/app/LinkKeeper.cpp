@@ -9,8 +9,10 @@
 #include <QApplication>
 #include <QThread>
 
+#include <dlfcn.h>
 #include <utility>
 
+#include "HostContract.h"
 #include "IQuickLinkPlugin.h"
 #include "ISettingUIPlugin.h"
 #include "LinkPage.h"
@@ -76,7 +78,10 @@ void LinkKeeper::watch(MainWindow* window)
     });
     connect(&m_guard, &LinkGuard::saveFailed, this, &LinkKeeper::saveFailed);
     m_guard.watch();
-    UserFolder::setListener([this] {
+    UserFolder::setListener([this](const void* caller) {
+        // What another plug-in has in the folder is its own business.
+        if (!m_isReloading && !isQuickLinks(caller))
+            return;
         m_isMenuTold = false;
         // Once it is loaded, the plug-in uses the file for saves only.
         m_guard.beforeUse(m_isReloading ? LinkGuard::Reading : LinkGuard::Saving);
@@ -113,6 +118,16 @@ void LinkKeeper::setSettings(SettingsDialog* settings)
         m_messages->leaveModalWindow();
     if (m_isMenuBehind)
         m_menu.rebuild();
+}
+
+/** Whether this is code of the quick links. Their table of virtual functions lies in the same file. */
+bool LinkKeeper::isQuickLinks(const void* code) const
+{
+    const QObject* const links = m_container.GetPlugin(QLatin1String(HostContract::quickLinks.clsid), 0);
+    Dl_info ours;
+    Dl_info theirs;
+    return links && dladdr(*reinterpret_cast<const void* const*>(links), &ours) && dladdr(code, &theirs) &&
+           ours.dli_fbase == theirs.dli_fbase;
 }
 
 void LinkKeeper::reload()

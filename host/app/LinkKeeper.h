@@ -76,6 +76,7 @@ Q_SIGNALS:
     void settingsRequested();
 
 private:
+    bool isQuickLinks(const void* code) const;
     void reload();
     void reloadWhenQuiet();
     void reloadAfter(const LinkGuard::Event& event);

@@ -18,7 +18,7 @@
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return UserFolder::askedByPlugin();
+    return UserFolder::askedByPlugin(__builtin_return_address(0));
 }
 
 void CommonUtils::OpenUrl(QString url)

@@ -13,9 +13,9 @@ static QString& chosenPath()
     return path;
 }
 
-static std::function<void()>& currentListener()
+static std::function<void(const void*)>& currentListener()
 {
-    static std::function<void()> listener;
+    static std::function<void(const void*)> listener;
     return listener;
 }
 
@@ -41,14 +41,14 @@ QString UserFolder::path()
     return chosen == QLatin1String("/") ? QString() : chosen;
 }
 
-void UserFolder::setListener(const std::function<void()>& listener)
+void UserFolder::setListener(const std::function<void(const void*)>& listener)
 {
     currentListener() = listener;
 }
 
-QString UserFolder::askedByPlugin()
+QString UserFolder::askedByPlugin(const void* caller)
 {
     if (currentListener())
-        currentListener()();
+        currentListener()(caller);
     return path();
 }

@@ -26,11 +26,11 @@ QString path();
 
 /**
  * Lets listener be called each time a plug-in asks for the folder, before it has the answer: it is about to read or
- * write there. One at a time; a null one ends it.
+ * write there. caller is an address in the plug-in's code. One at a time; a null one ends it.
  */
-void setListener(const std::function<void()>& listener);
+void setListener(const std::function<void(const void* caller)>& listener);
 
-/** A plug-in asks for the folder: tells the listener and answers path(). */
-QString askedByPlugin();
+/** A plug-in asks for the folder, from this place in its code: tells the listener and answers path(). */
+QString askedByPlugin(const void* caller);
 
 } // namespace UserFolder

@@ -89,7 +89,9 @@ QIcon LinkIcons::iconOf(const QString& address)
     if (path.startsWith(QLatin1Char('/')))
         return known(path, &iconOfPath);
     const QUrl completed = InternetAddress::completed(address);
-    return known(completed.isEmpty() ? typed.scheme() : completed.scheme(), &iconOfScheme);
+    const QString scheme = completed.isEmpty() ? typed.scheme() : completed.scheme();
+    // What other plug-ins have in the menu has no address.
+    return scheme.isEmpty() ? QIcon() : known(scheme, &iconOfScheme);
 }
 
 /** Once found, an icon is kept by this key. */

@@ -3,8 +3,10 @@
 
 """One program for a folder: a second start, and the desktop, reach the one that runs."""
 
+import configparser
 import os
 import subprocess
+from pathlib import Path
 
 from gi.repository import Gio, GLib
 
@@ -12,10 +14,12 @@ from display import active_window, press, xdotool
 from links import INTERNET, link
 from scenario import PROGRAM, TITLE, Scenario, main
 from session import Program
+from screen import Application
 from settings_dialog import SettingsDialog
 from waiting import wait_for
 
 NAME = "com.norvik.vellumconnect"
+ENTRY = Path(__file__).resolve().parents[2] / "host/app/com.norvik.vellumconnect.desktop"
 
 
 class OneProgram(Scenario):
@@ -99,6 +103,19 @@ class OneProgram(Scenario):
         self.act("quit", NAME)
         self.assertEqual(program.exit_code(), 0)
         self.assertNotIn(NAME, self.names_on_bus())
+
+    def test_actions_of_a_desktop_that_runs_commands(self):
+        """By what stands in the desktop entry for those that do not reach actions over the bus themselves."""
+        entry = configparser.ConfigParser(interpolation=None)
+        entry.optionxform = str
+        entry.read(ENTRY, encoding="utf-8")
+        program = Program([PROGRAM], self.folder / "plain-log", XDG_DATA_HOME=str(self.folder))
+        self.addCleanup(program.close)
+        wait_for(lambda: NAME in self.names_on_bus(), "the plain name on the bus")
+        subprocess.run(entry["Desktop Action settings"]["Exec"].split(), check=True)
+        SettingsDialog(Application(program)).close()
+        subprocess.run(entry["Desktop Action quit"]["Exec"].split(), check=True)
+        self.assertEqual(program.exit_code(), 0)
 
     def test_actions_of_the_desktop(self):
         self.act("settings")

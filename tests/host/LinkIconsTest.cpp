@@ -69,6 +69,8 @@ void LinkIconsTest::looksInTheTheme_data()
     QTest::addColumn<QString>("icon");
     QTest::newRow("program") << "/usr/bin/some-program"
                              << "some-program";
+    QTest::newRow("none, as of another plug-in's entry") << ""
+                                                         << "";
     QTest::newRow("program as file:") << "file:///usr/bin/some-program"
                                       << "some-program";
     QTest::newRow("other program") << "/usr/bin/other"
