@@ -92,6 +92,7 @@ void Host::loadPlugins(const QString& folder)
     const bool isFirstStart = !m_linkKeeper.guard().history().exists();
     if (isFirstStart && !FirstStart::copyDefaults(Places::defaultsFolder(), userFolder))
         m_linkKeeper.repeatFirstStart();
+    m_linkKeeper.seed();
     FirstStart::makePluginFolders(pluginFolder, userFolder);
     m_gatekeeper.open(userFolder, pluginFolder);
     loadFolder(pluginFolder);
