@@ -136,6 +136,11 @@ void Host::setSessionArguments(const QStringList& arguments)
     m_sessionArguments = arguments;
 }
 
+void Host::setFixedSettings(const FixedSettings& fixed)
+{
+    m_fixed = fixed;
+}
+
 void Host::setLanguage(const QString& language)
 {
     m_translator.use(language);
