@@ -92,6 +92,7 @@ void Host::loadPlugins(const QString& folder)
     const bool isFirstStart = !m_linkKeeper.guard().history().exists();
     if (isFirstStart && !FirstStart::copyDefaults(Places::defaultsFolder(), userFolder))
         m_linkKeeper.repeatFirstStart();
+    m_linkKeeper.seed();
     FirstStart::makePluginFolders(pluginFolder, userFolder);
     m_gatekeeper.open(userFolder, pluginFolder);
     loadFolder(pluginFolder);
@@ -133,6 +134,11 @@ const PluginContainer& Host::container() const
 void Host::setSessionArguments(const QStringList& arguments)
 {
     m_sessionArguments = arguments;
+}
+
+void Host::setFixedSettings(const FixedSettings& fixed)
+{
+    m_fixed = fixed;
 }
 
 void Host::setLanguage(const QString& language)

@@ -17,6 +17,7 @@
 #include "Decisions.h"
 #include "DesktopNotices.h"
 #include "DialupService.h"
+#include "FixedSettings.h"
 #include "Gatekeeper.h"
 #include "HostContract.h"
 #include "LinkAddresses.h"
@@ -75,6 +76,9 @@ public:
     /** What the program is to be started with together with the session, when the user chooses that. */
     void setSessionArguments(const QStringList& arguments);
 
+    /** What the operator of the computer has fixed: it counts instead of what the user chose. Before showWindow(). */
+    void setFixedSettings(const FixedSettings& fixed);
+
     /**
      * Builds the menu from the plug-ins, shows the main window and follows the connections that the user chose from now
      * on, or in this run those of kind. The plug-ins are told of the start when the window is on the screen, or at once
@@ -105,6 +109,9 @@ private:
     void quit();
     void follow(const ConnectionChoice& choice);
     ProgramPage* newConnectionPage();
+    ProgramPage* newGeneralPage();
+    void keepConnection(const ConnectionChoice& choice) const;
+    void startWithSessionAsFixed() const;
     void showWhy();
     void showSettings(const QString& link = QString());
     void editLink(const QString& link);
@@ -130,8 +137,9 @@ private:
     QString m_linkToEdit;
     QTimer m_editing; ///< goes off when that link is to be edited
     QStringList m_sessionArguments;
+    FixedSettings m_fixed;
     std::optional<ConnectionKind> m_kindOfThisRun; ///< where the user's choice is not to count
-    ConnectionChoice m_choice;                     ///< the user's
+    ConnectionChoice m_choice;                     ///< the user's, of a kind that may be fixed
     std::unique_ptr<ConnectionTexts> m_texts;
     ConnectionPanel* m_panel = nullptr; ///< the window's
     std::unique_ptr<MainWindow> m_window;

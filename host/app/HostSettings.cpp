@@ -36,12 +36,7 @@ void Host::showSettings(const QString& link)
     QObject::connect(history, &HistoryPage::goBackRequested, &m_linkKeeper, &LinkKeeper::goBackTo);
     dialog.addPage(history);
     dialog.addPage(newConnectionPage());
-    GeneralPage* const general = new GeneralPage(Autostart::isOn());
-    QObject::connect(general, &GeneralPage::startWithSessionChosen, general, [this, general](bool isOn) {
-        const bool isDone = isOn ? Autostart::turnOn(m_sessionArguments) : Autostart::turnOff();
-        general->setStartsWithSession(Autostart::isOn(), isDone ? QString() : Autostart::file());
-    });
-    dialog.addPage(general);
+    dialog.addPage(newGeneralPage());
     dialog.setParametersNote(LinkAddresses(guard.current()).haveParameters());
     QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
         dialog.setParametersNote(LinkAddresses(to).haveParameters());
@@ -52,17 +47,54 @@ void Host::showSettings(const QString& link)
     m_linkKeeper.setSettings(nullptr);
 }
 
+/** Lets the desktop start the program with these arguments or not; false when that cannot be done. */
+static bool setStartsWithSession(bool isOn, const QStringList& arguments)
+{
+    return isOn ? Autostart::turnOn(arguments) : Autostart::turnOff();
+}
+
+ProgramPage* Host::newGeneralPage()
+{
+    GeneralPage* const page = new GeneralPage(Autostart::isOn());
+    if (m_fixed.startsWithSession)
+        page->setFixed();
+    QObject::connect(page, &GeneralPage::startWithSessionChosen, page, [this, page](bool isOn) {
+        const bool isDone = setStartsWithSession(isOn, m_sessionArguments);
+        page->setStartsWithSession(Autostart::isOn(), isDone ? QString() : Autostart::file());
+    });
+    return page;
+}
+
+void Host::startWithSessionAsFixed() const
+{
+    if (!m_fixed.startsWithSession || *m_fixed.startsWithSession == Autostart::isOn())
+        return;
+    if (!setStartsWithSession(*m_fixed.startsWithSession, m_sessionArguments))
+        qWarning("%s cannot be changed", qUtf8Printable(Autostart::file()));
+}
+
 ProgramPage* Host::newConnectionPage()
 {
     ConnectionPage* const page = new ConnectionPage(m_choice, m_kindOfThisRun.has_value());
+    if (m_fixed.connection)
+        page->setKindFixed();
     MobilePlans* const plans = new MobilePlans(page);
     QObject::connect(page, &ConnectionPage::plansWanted, plans, &MobilePlans::ask);
     QObject::connect(plans, &MobilePlans::found, page, &ConnectionPage::setPlans);
     QObject::connect(page, &ConnectionPage::chosen, page, [this](const ConnectionChoice& choice) {
         m_choice = choice;
-        UserSettings::setConnection(choice);
+        keepConnection(choice);
         if (!m_kindOfThisRun)
             follow(choice);
     });
     return page;
+}
+
+/** The user's own kind is kept for the day on which it is fixed no longer. */
+void Host::keepConnection(const ConnectionChoice& choice) const
+{
+    ConnectionChoice kept = choice;
+    if (m_fixed.connection)
+        kept.kind = UserSettings::connection().kind;
+    UserSettings::setConnection(kept);
 }

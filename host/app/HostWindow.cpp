@@ -33,6 +33,8 @@ void Host::showWindow(std::optional<ConnectionKind> kind, bool isHidden)
 {
     m_kindOfThisRun = kind;
     m_choice = UserSettings::connection();
+    m_choice.kind = m_fixed.connection.value_or(m_choice.kind);
+    startWithSessionAsFixed();
     ConnectionChoice choice = m_choice;
     choice.kind = kind.value_or(choice.kind);
     // Whether the program ends with its window depends on the tray.
@@ -40,6 +42,8 @@ void Host::showWindow(std::optional<ConnectionKind> kind, bool isHidden)
     m_texts = std::make_unique<ConnectionTexts>(m_monitor, choice.kind);
     const QString language = m_translator.followsSystem() ? QString() : m_translator.current();
     LanguageMenu* const languages = new LanguageMenu(Translator::languages(), language);
+    if (m_fixed.language)
+        languages->setFixed();
     QObject::connect(languages, &LanguageMenu::languageChosen, languages, [this](const QString& chosen) {
         UserSettings::setLanguage(chosen);
         setLanguage(chosen);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The life of the plug-in that has the links, and what others do to them. What comes of its saves is in
-// LinkKeeperSaves.cpp.
+// LinkKeeperSaves.cpp, what comes of the operator's links in LinkKeeperLayers.cpp.
 
 #include "LinkKeeper.h"
 
@@ -18,12 +18,23 @@
 #include "LinkPage.h"
 #include "MainWindow.h"
 #include "MenuManager.h"
+#include "Places.h"
 #include "PluginContainer.h"
 #include "SettingsDialog.h"
 #include "UserFolder.h"
 
+/** The folders with the operator's links. */
+static QStringList layerFolders()
+{
+    QStringList folders = Places::operatorFolders();
+    for (QString& folder : folders)
+        folder += QStringLiteral("/links.d");
+    return folders;
+}
+
 LinkKeeper::LinkKeeper(const QString& userFolder, PluginContainer& container, MenuManager& menu)
     : m_guard(userFolder)
+    , m_layers(layerFolders(), userFolder + QStringLiteral("/seeded.xml"))
     , m_container(container)
     , m_menu(menu)
     , m_steps([this](const QByteArray& content) { return goBackTo(content); })
@@ -31,6 +42,9 @@ LinkKeeper::LinkKeeper(const QString& userFolder, PluginContainer& container, Me
     m_retry.setSingleShot(true);
     m_retry.setInterval(200); // ms
     connect(&m_retry, &QTimer::timeout, this, &LinkKeeper::reloadWhenQuiet);
+    m_layersRetry.setSingleShot(true);
+    m_layersRetry.setInterval(200); // ms
+    connect(&m_layersRetry, &QTimer::timeout, this, &LinkKeeper::followLayers);
 }
 
 LinkKeeper::~LinkKeeper()
@@ -78,6 +92,8 @@ void LinkKeeper::watch(MainWindow* window)
     });
     connect(&m_guard, &LinkGuard::saveFailed, this, &LinkKeeper::saveFailed);
     m_guard.watch();
+    connect(&m_layers, &LinkLayers::changed, this, &LinkKeeper::followLayers);
+    m_layers.watch();
     UserFolder::setListener([this](const void* caller) {
         // What another plug-in has in the folder is its own business.
         if (!m_isReloading && !isQuickLinks(caller))
@@ -98,12 +114,17 @@ bool LinkKeeper::endWatch()
 {
     UserFolder::setListener(nullptr);
     m_retry.stop();
+    m_layersRetry.stop();
+    m_layers.disconnect(this);
     m_guard.disconnect(this);
     m_menu.disconnect(this);
     m_offer.disconnect(this);
     m_offer.setLine(nullptr);
     m_messages.reset();
-    return !std::exchange(m_isWatching, false) || m_guard.finish();
+    if (!std::exchange(m_isWatching, false))
+        return true;
+    m_layers.finish();
+    return m_guard.finish();
 }
 
 void LinkKeeper::setSettings(SettingsDialog* settings)

@@ -14,6 +14,7 @@
 #include "GuardMessages.h"
 #include "LinkAttempt.h"
 #include "LinkGuard.h"
+#include "LinkLayers.h"
 #include "LinkSteps.h"
 #include "PutBackOffer.h"
 
@@ -52,6 +53,12 @@ public:
     /** What was prepared for the user could not be put in place: watch() tells so, and the next start tries again. */
     void repeatFirstStart();
 
+    /**
+     * Before plug-ins are loaded, and after prepare(): gives the user the operator's links. Where links wait to be
+     * brought back or put in place, that comes first, and this at the next start.
+     */
+    void seed();
+
     /** With the plug-ins loaded: tells in and over window what prepare() found, and stands by from now on. */
     void watch(MainWindow* window);
 
@@ -77,6 +84,7 @@ Q_SIGNALS:
 
 private:
     bool isQuickLinks(const void* code) const;
+    void followLayers();
     void reload();
     void reloadWhenQuiet();
     void reloadAfter(const LinkGuard::Event& event);
@@ -92,6 +100,7 @@ private:
     void repeatAttempt();
 
     LinkGuard m_guard;
+    LinkLayers m_layers;
     PluginContainer& m_container;
     MenuManager& m_menu;
     LinkGuard::Event m_found;
@@ -106,6 +115,7 @@ private:
     std::unique_ptr<GuardMessages> m_messages;
     QPointer<SettingsDialog> m_settings;
     QTimer m_retry;
+    QTimer m_layersRetry;
     bool m_isWatching = false;
     bool m_isUnprepared = false; ///< repeatFirstStart()
     bool m_isReloading = false;

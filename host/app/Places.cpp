@@ -22,6 +22,15 @@ QString Places::defaultsFolder()
     return fromProgram(QStringLiteral(VELLUM_BIN_TO_DATA "/defaults"));
 }
 
+QStringList Places::operatorFolders()
+{
+    QStringList chosen =
+        qEnvironmentVariable("VELLUMCONNECT_OPERATOR_DIRS").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    if (!chosen.isEmpty())
+        return chosen;
+    return {QStringLiteral("/usr/share/vellumconnect"), QStringLiteral("/etc/vellumconnect")};
+}
+
 QString Places::translationFolder()
 {
     return fromProgram(QStringLiteral(VELLUM_BIN_TO_DATA "/translations"));

@@ -4,10 +4,11 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /**
  * Where the installation has its things, relative to the program, so that a build tree or a moved installation works
- * like an installed one. Absolute paths; the folders need not exist.
+ * like an installed one; and where the computer has what is the operator's. Absolute paths; the folders need not exist.
  */
 namespace Places
 {
@@ -17,6 +18,13 @@ QString pluginFolder();
 
 /** The operator's defaults: plugins/<Name>/ with files for the user's folder of that name. */
 QString defaultsFolder();
+
+/**
+ * Where the operator of the computer has what is for all of its users, the more important folder last:
+ * /usr/share/vellumconnect, which is for packages, and /etc/vellumconnect. Others where VELLUMCONNECT_OPERATOR_DIRS
+ * names them, absolute paths with colons between them.
+ */
+QStringList operatorFolders();
 
 /** The folder with vellumconnect_<language>.qm. */
 QString translationFolder();

@@ -10,6 +10,7 @@
 #include "CommandLine.h"
 #include "DecisionsOnBus.h"
 #include "DisplayChoice.h"
+#include "FixedSettings.h"
 #include "FolderLock.h"
 #include "FolderPrivacy.h"
 #include "Host.h"
@@ -108,8 +109,10 @@ int main(int argc, char** argv)
     if (!display.platform.isEmpty())
         qunsetenv("QT_QPA_PLATFORM");
     UserFolder::setPath(commandLine.dataFolder);
+    const FixedSettings fixed = FixedSettings::read(FixedSettings::file(), Translator::languages());
     Translator translator;
-    translator.use(commandLine.language.isEmpty() ? UserSettings::language() : commandLine.language);
+    translator.use(commandLine.language.isEmpty() ? fixed.language.value_or(UserSettings::language())
+                                                  : commandLine.language);
     if (isRefused)
         return refuse(CommandLine::parse(arguments).error, wrongUsage);
     if (commandLine.action == CommandLine::ShowHelp)
@@ -137,6 +140,7 @@ int main(int argc, char** argv)
     host.guardLinks(lock.wasLeftBehind());
     host.loadPlugins(commandLine.pluginFolder);
     host.setSessionArguments(commandLine.againHidden());
+    host.setFixedSettings(fixed);
     host.showWindow(commandLine.connection, commandLine.isHidden);
     const int result = QApplication::exec();
     if (!host.endLinks())

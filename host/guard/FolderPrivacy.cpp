@@ -19,8 +19,13 @@ const mode_t groupAndOthers = S_IRWXG | S_IRWXO;
 
 bool isOnlyOurs(const QString& folder)
 {
-    const QStringList ours = {QStringLiteral("calls"), QStringLiteral("history"), QStringLiteral("left-out.json"),
-                              QStringLiteral("lock"),  QStringLiteral("plugins"), QStringLiteral("vellumconnect.ini")};
+    const QStringList ours = {QStringLiteral("calls"),
+                              QStringLiteral("history"),
+                              QStringLiteral("left-out.json"),
+                              QStringLiteral("lock"),
+                              QStringLiteral("plugins"),
+                              QStringLiteral("seeded.xml"),
+                              QStringLiteral("vellumconnect.ini")};
     const QStringList found =
         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     for (const QString& name : found) {

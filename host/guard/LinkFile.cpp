@@ -87,7 +87,20 @@ LinkFile LinkFile::ofContent(const QByteArray& content)
 
 QByteArray LinkFile::withoutLinks()
 {
-    return QByteArrayLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<tovadoc/>\n");
+    // As the plug-in writes it.
+    return QByteArrayLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                             "<tovadoc type=\"config\">\n"
+                             "    <function>\n"
+                             "        <Visible>1</Visible>\n"
+                             "        <CurrentID>0</CurrentID>\n"
+                             "    </function>\n"
+                             "    <type>\n"
+                             "        <item id=\" 0\" name=\"IDS_LINK_TYPE_APPLICATION\"/>\n"
+                             "        <item id=\" 1\" name=\"IDS_LINK_TYPE_E_MAIL\"/>\n"
+                             "        <item id=\" 2\" name=\"IDS_LINK_TYPE_INTERNET\"/>\n"
+                             "    </type>\n"
+                             "    <menu parent=\"quicklink\"/>\n"
+                             "</tovadoc>\n");
 }
 
 QStringList LinkFile::names(const QByteArray& content)

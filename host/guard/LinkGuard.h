@@ -65,6 +65,12 @@ public:
      */
     Event start(bool wasInterrupted);
 
+    /**
+     * Before any plug-in reads the file: lets it hold content, as the newest state, and keeps what it held before.
+     * False when that could not be done; the file is as it was then.
+     */
+    bool startWith(const QByteArray& content);
+
     /** Lets the next start be the user's first one again, unless there are links to keep by then. */
     void repeatFirstStart() { m_isFirstStartRepeated = true; }
 

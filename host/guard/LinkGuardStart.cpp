@@ -22,6 +22,13 @@ LinkGuard::Event LinkGuard::start(bool wasInterrupted)
     return m_history.newestGood().isNull() ? withoutHistory(file) : repair(file.condition, true);
 }
 
+bool LinkGuard::startWith(const QByteArray& content)
+{
+    // Another program may have written it since the last run, so that nobody has kept it yet.
+    const LinkFile file = LinkFile::look(m_file);
+    return (!file.isGood() || m_history.keep(file.content)) && goBackTo(content);
+}
+
 bool LinkGuard::isSafeToRead() const
 {
     // A stat(2) is enough: the file was looked into already.

@@ -3,8 +3,7 @@
 
 #include "LinkItems.h"
 
-#include <QXmlStreamWriter>
-
+#include "LinkRewrite.h"
 #include "LinkWalk.h"
 
 namespace
@@ -16,30 +15,7 @@ LinkItems::Fields fieldsOf(const QXmlStreamAttributes& attributes)
         fields.insert(attribute.qualifiedName().toString(), attribute.value().toString());
     return fields;
 }
-
-/** The start of a link whose attributes keep their order; new ones come last. */
-void writeLink(QXmlStreamWriter& writer, const QXmlStreamReader& reader, LinkItems::Fields fields)
-{
-    writer.writeStartElement(reader.qualifiedName().toString());
-    const QXmlStreamAttributes attributes = reader.attributes();
-    for (const QXmlStreamAttribute& attribute : attributes) {
-        const QString name = attribute.qualifiedName().toString();
-        const QString value = attribute.value().toString();
-        writer.writeAttribute(name, fields.contains(name) ? fields.take(name) : value);
-    }
-    for (auto field = fields.cbegin(); field != fields.cend(); ++field)
-        writer.writeAttribute(field.key(), field.value());
-}
 } // namespace
-
-/** The declaration, where there is one; the reader leaves out the end of its line. */
-static void writeDeclaration(QXmlStreamWriter& writer, const QXmlStreamReader& reader)
-{
-    if (reader.documentVersion().isEmpty())
-        return;
-    writer.writeCurrentToken(reader);
-    writer.writeCharacters(QStringLiteral("\n"));
-}
 
 QList<LinkItems::Fields> LinkItems::of(const QByteArray& content)
 {
@@ -61,18 +37,7 @@ bool LinkItems::isSame(Fields one, Fields other)
 
 QByteArray LinkItems::with(const QByteArray& content, int index, const Fields& fields)
 {
-    QByteArray changed;
-    QXmlStreamWriter writer(&changed);
-    int current = -1;
-    LinkWalk walk(content, LinkWalk::EveryToken);
-    while (walk.next()) {
-        if (walk.isAtLink() && ++current == index)
-            writeLink(writer, walk.reader(), fields);
-        else if (walk.reader().isStartDocument())
-            writeDeclaration(writer, walk.reader());
-        else
-            writer.writeCurrentToken(walk.reader());
-    }
-    writer.writeEndDocument();
-    return walk.reader().hasError() || index < 0 || index > current ? QByteArray() : changed;
+    LinkRewrite rewrite;
+    rewrite.changed.insert(index, fields);
+    return rewrite.applied(content);
 }

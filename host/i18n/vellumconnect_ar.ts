@@ -368,6 +368,13 @@
     </message>
 </context>
 <context>
+    <name>FixedReason</name>
+    <message>
+        <source>Fixed by the administrator of this computer</source>
+        <translation>ثبّته مدير هذا الحاسوب</translation>
+    </message>
+</context>
+<context>
     <name>GeneralPage</name>
     <message>
         <source>General</source>

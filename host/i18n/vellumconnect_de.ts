@@ -364,6 +364,13 @@
     </message>
 </context>
 <context>
+    <name>FixedReason</name>
+    <message>
+        <source>Fixed by the administrator of this computer</source>
+        <translation>Vom Administrator dieses Computers festgelegt</translation>
+    </message>
+</context>
+<context>
     <name>GeneralPage</name>
     <message>
         <source>General</source>

@@ -364,6 +364,13 @@
     </message>
 </context>
 <context>
+    <name>FixedReason</name>
+    <message>
+        <source>Fixed by the administrator of this computer</source>
+        <translation>Fixé par l’administrateur de cet ordinateur</translation>
+    </message>
+</context>
+<context>
     <name>GeneralPage</name>
     <message>
         <source>General</source>

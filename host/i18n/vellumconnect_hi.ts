@@ -364,6 +364,13 @@
     </message>
 </context>
 <context>
+    <name>FixedReason</name>
+    <message>
+        <source>Fixed by the administrator of this computer</source>
+        <translation>इस कंप्यूटर के व्यवस्थापक ने तय किया है</translation>
+    </message>
+</context>
+<context>
     <name>GeneralPage</name>
     <message>
         <source>General</source>

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "FixedReason.h"
 #include "ShownText.h"
 #include "WrappedText.h"
 
@@ -38,6 +39,7 @@ QVBoxLayout* newColumn(QWidget* part)
 ConnectionPage::ConnectionPage(const ConnectionChoice& choice, bool isForNextTime)
     : m_choice(choice)
     , m_runNote(new WrappedText)
+    , m_fixedNote(new WrappedText)
     , m_mobile(new QRadioButton)
     , m_mobilePart(new QWidget)
     , m_anyPlan(new QRadioButton)
@@ -58,12 +60,14 @@ ConnectionPage::ConnectionPage(const ConnectionChoice& choice, bool isForNextTim
     mobileColumn->addWidget(m_notWhileRoaming);
     QVBoxLayout* const column = new QVBoxLayout(this);
     column->addWidget(m_runNote);
+    column->addWidget(m_fixedNote);
     column->addWidget(m_mobile);
     column->addLayout(indented(m_mobilePart, m_mobile));
     column->addWidget(m_any);
     column->addWidget(m_manual);
     column->addStretch(1);
     m_runNote->setVisible(isForNextTime);
+    m_fixedNote->hide();
 
     // By itself the toolkit takes the buttons of a part for those of the whole page, too.
     for (QRadioButton* const button : {m_mobile, m_any, m_manual})
@@ -91,6 +95,15 @@ ConnectionPage::ConnectionPage(const ConnectionChoice& choice, bool isForNextTim
 QString ConnectionPage::caption() const
 {
     return tr("Connection");
+}
+
+void ConnectionPage::setKindFixed()
+{
+    const QList<QAbstractButton*> buttons = m_kinds.buttons();
+    for (QAbstractButton* const button : buttons)
+        button->setEnabled(false);
+    m_fixedNote->show();
+    setTexts();
 }
 
 void ConnectionPage::setPlans(const ConnectionChoice::Plans& plans, bool isAnswered)
@@ -176,6 +189,9 @@ void ConnectionPage::setTexts()
 {
     m_runNote->setText(tr("In this run the command line says which connections count. "
                           "What you choose here counts from the next start on."));
+    m_fixedNote->setText(fixedReason());
+    for (QRadioButton* const button : {m_mobile, m_any, m_manual})
+        button->setAccessibleDescription(button->isEnabled() ? QString() : fixedReason());
     m_mobile->setText(tr("&Mobile broadband"));
     m_anyPlan->setText(tr("An&y plan"));
     m_somePlans->setText(tr("Only the plans &ticked here"));

@@ -25,6 +25,9 @@ public:
 
     QString caption() const override;
 
+    /** Lets the user choose plans only: the kind of connection cannot be changed, and a text says why. */
+    void setKindFixed();
+
     /**
      * Offers the mobile plans that there are. Those that were chosen and are no longer there stay. Where isAnswered is
      * false, nobody knows which there are.
@@ -66,6 +69,7 @@ private:
     QButtonGroup m_kinds;
     QButtonGroup m_anyOrSome;
     QLabel* m_runNote = nullptr;
+    QLabel* m_fixedNote = nullptr;
     QRadioButton* m_mobile = nullptr;
     QWidget* m_mobilePart = nullptr;
     QRadioButton* m_anyPlan = nullptr;

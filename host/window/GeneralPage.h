@@ -22,6 +22,9 @@ public:
     /** What became of the choice: whether it is so now, and the file that could not be changed; empty for none. */
     void setStartsWithSession(bool isOn, const QString& failedFile);
 
+    /** Shows the choice only: it cannot be changed, and a text says why. */
+    void setFixed();
+
 Q_SIGNALS:
     /** The user wants the program to start together with the session, or not to. */
     void startWithSessionChosen(bool isOn);
@@ -33,6 +36,7 @@ private:
     void setTexts();
 
     QCheckBox* m_startWithSession = nullptr;
+    QLabel* m_fixedNote = nullptr;
     QLabel* m_hint = nullptr;
     QLabel* m_failure = nullptr;
     QString m_failedFile;

@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QLocale>
 
+#include "FixedReason.h"
+
 /** As its speakers call it, with a capital as befits a menu. */
 static QString nameOf(const QString& language)
 {
@@ -46,6 +48,15 @@ LanguageMenu::LanguageMenu(const QStringList& languages, const QString& current)
             [this](const QAction* action) { Q_EMIT languageChosen(action->data().toString()); });
 }
 
+void LanguageMenu::setFixed()
+{
+    m_group->setEnabled(false);
+    addSeparator();
+    m_fixed = addAction(QString());
+    m_fixed->setEnabled(false);
+    setTexts();
+}
+
 void LanguageMenu::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -67,4 +78,6 @@ void LanguageMenu::setTexts()
 {
     setTitle(tr("&Language"));
     m_system->setText(tr("&System Language"));
+    if (m_fixed)
+        m_fixed->setText(fixedReason());
 }

@@ -16,6 +16,9 @@ public:
     /** Offers languages, such as "de" or "zh_CN", with current marked; empty stands for the system's. */
     LanguageMenu(const QStringList& languages, const QString& current);
 
+    /** Shows them only: another one cannot be chosen, and an entry says why. */
+    void setFixed();
+
 Q_SIGNALS:
     /** The user chose a language; empty stands for the system's. */
     void languageChosen(const QString& language);
@@ -30,4 +33,5 @@ private:
 
     QActionGroup* m_group = nullptr;
     QAction* m_system = nullptr;
+    QAction* m_fixed = nullptr; ///< null while one can be chosen
 };

@@ -77,7 +77,8 @@ class Session:
         os.environ.clear()
         os.environ.update(kept, HOME=home, XDG_RUNTIME_DIR=runtime, XDG_DATA_HOME=f"{home}/data",
                           XDG_CONFIG_HOME=f"{home}/config", XDG_CACHE_HOME=f"{home}/cache", LC_ALL="C.UTF-8",
-                          GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb")
+                          VELLUMCONNECT_OPERATOR_DIRS=f"{home}/operator", GSETTINGS_BACKEND="memory",
+                          QT_QPA_PLATFORM="xcb")
 
     def _start(self, command, **options):
         self._started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,

@@ -16,7 +16,8 @@
 // that click; it is for comparing times. With WITHOUT_GUARD, there is neither a guard nor a lock.
 //
 // Prints a line of JSON: the links in the window, the messages, the file calls and bytes of the operation, and the
-// microseconds of the last click and of the guard's look before plug-ins are loaded.
+// microseconds of the last click, of the guard's look before plug-ins are loaded, and of loading them, the operator's
+// links included.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -131,6 +132,15 @@ public:
         m_guardTime = timer.nsecsElapsed() / 1000;
     }
 
+    /** What comes after that until plug-ins are loaded. */
+    void load(Host& host)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        host.loadPlugins(QStringLiteral(FAULT_PLUGINS));
+        m_loadTime = timer.nsecsElapsed() / 1000;
+    }
+
     /** Once the window is there. */
     void work(const PluginContainer& container)
     {
@@ -238,7 +248,8 @@ private:
                                  {QStringLiteral("calls"), countedFileCalls()},
                                  {QStringLiteral("bytes"), qint64(countedFileBytes())},
                                  {QStringLiteral("click"), m_clickTime},
-                                 {QStringLiteral("guard"), m_guardTime}};
+                                 {QStringLiteral("guard"), m_guardTime},
+                                 {QStringLiteral("load"), m_loadTime}};
         std::printf("%s\n", QJsonDocument(answer).toJson(QJsonDocument::Compact).constData());
         std::fflush(stdout);
         QApplication::closeAllWindows();
@@ -251,6 +262,7 @@ private:
     QString m_fault;
     qint64 m_clickTime = 0; ///< microseconds
     qint64 m_guardTime = 0; ///< microseconds
+    qint64 m_loadTime = 0;  ///< microseconds
 };
 
 template <class Program>
@@ -269,7 +281,7 @@ int runGuarded(Driver& driver)
     if (lock.take() == FolderLock::Busy)
         return 1;
     driver.guard(host, lock.wasLeftBehind());
-    host.loadPlugins(QStringLiteral(FAULT_PLUGINS));
+    driver.load(host);
     host.showWindow(ConnectionKind::Manual);
     run(host, driver);
     if (!host.endLinks())

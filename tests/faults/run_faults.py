@@ -29,7 +29,7 @@ from links import APPLICATION, EMAIL, config_path, document, link, visible_links
 from power_cut import Disk, make, states_of  # noqa: E402
 
 PAGE = ("new", "edit", "up", "down", "delete")
-ALL = (*PAGE, "start", "first")
+ALL = (*PAGE, "start", "first", "seed")
 ERRORS = {"kill": -1, **{name: getattr(errno, name) for name in ("ENOSPC", "EIO", "EROFS", "EACCES")}}
 # The faults: in words, the operations that they strike, and what the user sees.
 PUT_BACK = "a message, and the links as they were before"
@@ -52,6 +52,13 @@ FIRST = {
     "power": "nothing: the next start copies what is missing",
 }
 FIRST_FAILED = "a message that the prepared links could not be put in place; the next start does it"
+SEED = {
+    "kill": "nothing: the next start gives what is missing",
+    "power": "nothing: the next start gives what is missing",
+}
+SEED_FAILED = "nothing: the next start gives what could not be put in place"
+ROWS = ("first", "seed")  # the operations that have rows of their own
+GIVEN = "given"  # the operator's link
 MEMORY = "/dev/shm"  # where waiting for the disk takes no time
 PAIRS = 20  # of two programs, for each size
 
@@ -66,7 +73,9 @@ def names_before(size):
 def names_after(operation, size):
     """What the links are when the operation succeeds on the second of them."""
     names = names_before(size)
-    if operation == "new":
+    if operation == "seed":
+        names.append(GIVEN)
+    elif operation == "new":
         names.append("newed")
     elif operation == "edit":
         names[1] = "edited"
@@ -109,10 +118,11 @@ class Faults:
         self._environment = environment or {}
         self._user = user
         self._states = {}  # of the disk: by operation and size
-        self._preparing = threading.Lock()
+        self._preparing = threading.RLock()
 
     def start(self, data, operation, first=0, fault=0, driver=None, **environment):
-        operation = {"new": "new=newed", "first": "start"}.get(operation, operation)
+        environment = {**self.layers_of(operation), **environment}
+        operation = {"new": "new=newed", "first": "start", "seed": "start"}.get(operation, operation)
         return subprocess.Popen([driver or self._driver, data, operation, str(first), str(fault)],
                                 env={**os.environ, **self._environment, **environment},
                                 user=self._user, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
@@ -131,10 +141,20 @@ class Faults:
     def run(self, data, *arguments, wait=120, **options):
         return self.answer(self.start(data, *arguments, **options), wait)
 
-    def look(self, data, driver=None):
-        found = self.run(data, "look", driver=driver)
+    def look(self, data, driver=None, **environment):
+        found = self.run(data, "look", driver=driver, **environment)
         assert found, "the program does not start again"
         return found
+
+    def layers_of(self, operation):
+        """The environment in which an operator gives a link, or none."""
+        place = self._place / ("operator" if operation == "seed" else "no-operator")
+        layer = place / "links.d/office.xml"
+        with self._preparing:
+            if operation == "seed" and not layer.exists():
+                layer.parent.mkdir(parents=True)
+                layer.write_bytes(document(1, link(0, GIVEN, APPLICATION, "/usr/bin/given")))
+        return {"VELLUMCONNECT_OPERATOR_DIRS": str(place)}
 
     def driver_of(self, operation, size):
         """For the first start a program beside which an operator's links lie."""
@@ -230,23 +250,35 @@ class Faults:
         before, after = names_before(size), names_after(operation, size)
         driver = self.driver_of(operation, size)
         answer = self.run(data, operation, point, ERRORS.get(fault, fault), driver)
-        found = self.look(data, driver)["links"]
+        found = self.look(data, driver, **self.layers_of(operation))["links"]
         lost = lost_of(before, after, found)
+        if operation == "seed":
+            # The user asked for nothing: what counts is that it is there in the end, and noted.
+            return Try(fault, operation, size, point, lost, found == after, self.is_given(data, size), f"{answer} -> {found}")
         # What the window shows at the end is what was wanted and is there at the next start; else somebody is told.
         told = found in (before, after) and \
             (fault == "kill" if not answer else answer["links"] == found == after or bool(answer["messages"]))
         return Try(fault, operation, size, point, lost, found == after, told, f"{answer} -> {found}")
+
+    def is_given(self, data, size):
+        """Whether the operator's link is there, and stays away once the user has deleted it."""
+        layers = self.layers_of("seed")
+        is_there = self.look(data, **layers)["links"] == names_after("seed", size)
+        config_path(data).write_bytes(content(names_before(size)))
+        return is_there and self.look(data, **layers)["links"] == names_before(size)
 
     def power_cut(self, operation, size, point):
         state, is_done = self._states[operation, size][point]
         before, after = names_before(size), names_after(operation, size)
         with tempfile.TemporaryDirectory(dir=self._place) as data:
             make(data, state)
-            answer = self.look(data, self.driver_of(operation, size))
+            answer = self.look(data, self.driver_of(operation, size), **self.layers_of(operation))
+            is_given = operation != "seed" or self.is_given(Path(data), size)
         found = answer["links"]
         # A change that was done before the power went is there.
         lost = lost_of(before, after, found) + (is_done and found != after)
-        return Try("power", operation, size, point, lost, found == after, found in (before, after),
+        return Try("power", operation, size, point, lost, found == after,
+                   found in (before, after) and is_given,
                    f"{is_done} {[(name, len(data)) for name, data in state]} {answer}")
 
     def foreign(self, data, operation, size):
@@ -316,14 +348,16 @@ def main():
         results = [attempt.result() for attempt in tries]
     rows = collections.defaultdict(list)
     for attempt in results:
-        rows[attempt.fault, attempt.operation == "first"].append(attempt)
+        rows[attempt.fault, ROWS.index(attempt.operation) if attempt.operation in ROWS else -1].append(attempt)
         if attempt.lost or not attempt.told:
             print(attempt, file=options.output)
     print("| fault | tries | links lost | change in place | nobody told | what the user sees |\n|---|---|---|---|---|---|")
-    for (fault, is_first), attempts in sorted(rows.items(), key=lambda row: (row[0][1], list(FAULTS).index(row[0][0]))):
+    for (fault, row), attempts in sorted(rows.items(), key=lambda row: (row[0][1], list(FAULTS).index(row[0][0]))):
         name, _, seen = FAULTS[fault]
-        if is_first:
+        if row == 0:
             name, seen = f"first start: {name}", FIRST.get(fault, FIRST_FAILED)
+        elif row == 1:
+            name, seen = f"operator's link: {name}", SEED.get(fault, SEED_FAILED)
         print(f"| {name} | {len(attempts)} | {sum(a.lost for a in attempts)} |"
               f" {sum(a.kept for a in attempts)} | {sum(not a.told for a in attempts)} | {seen} |")
     sys.exit(any(attempt.lost or not attempt.told for attempt in results))

@@ -88,6 +88,7 @@ void FolderPrivacyTest::content_data()
     QTest::newRow("choices") << "vellumconnect.ini" << true;
     QTest::newRow("plug-ins that were called") << "calls" << true;
     QTest::newRow("plug-ins left out") << "left-out.json" << true;
+    QTest::newRow("the operator's links that were given") << "seeded.xml" << true;
     QTest::newRow("something of the user's") << "Documents" << false;
     QTest::newRow("hidden") << ".ssh" << false;
     QTest::newRow("nearly ours") << "plugins2" << false;

@@ -3,6 +3,8 @@
 
 // What the guard finds before any plug-in reads the links, and what it does about it.
 
+#include <QSignalSpy>
+
 #include <sys/stat.h>
 
 #include "GuardedFolder.h"
@@ -22,6 +24,9 @@ private Q_SLOTS:
     void firstStart();
     void firstStartAgain();
     void goodFileIsLeftAlone();
+    void startsWithOtherLinks_data();
+    void startsWithOtherLinks();
+    void doesNotStartWithWhatCannotBeKept();
     void missingFile_data();
     void missingFile();
     void removedFileIsToldOnce();
@@ -114,6 +119,45 @@ void LinkGuardStartTest::goodFileIsLeftAlone()
         QCOMPARE(guard.start(wasInterrupted).kind, Event::Nothing);
         QVERIFY(guard.isSafeToRead());
     }
+    QCOMPARE(m_folder->read(), m_links);
+}
+
+void LinkGuardStartTest::startsWithOtherLinks_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<int>("states");
+    QTest::newRow("in place of a file that nobody has kept") << m_links << 2;
+    QTest::newRow("without a file") << QByteArray() << 1;
+}
+
+void LinkGuardStartTest::startsWithOtherLinks()
+{
+    QFETCH(const QByteArray, before);
+    const QByteArray others = GuardedFolder::links({"Others"});
+    QVERIFY(before.isEmpty() || m_folder->write(before));
+    LinkGuard guard(m_folder->path());
+    guard.start(false);
+    const QSignalSpy changed(&guard, &LinkGuard::stateChanged);
+    QVERIFY(guard.startWith(others));
+    QCOMPARE(m_folder->read(), others);
+    // Also before anybody watches: a kill may come first.
+    const QList<LinkHistory::State> states = guard.history().states();
+    QTEST(int(states.size()), "states");
+    QCOMPARE(LinkHistory::contentOf(states.first()), others);
+    QCOMPARE(LinkHistory::contentOf(states.last()), before.isEmpty() ? others : before);
+    guard.watch();
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(guard.current(), others);
+}
+
+void LinkGuardStartTest::doesNotStartWithWhatCannotBeKept()
+{
+    QVERIFY(m_folder->write(m_links));
+    // No folder can be made in its place.
+    QVERIFY(GuardedFolder::writeTo(m_folder->history(), "x"));
+    LinkGuard guard(m_folder->path());
+    guard.start(false);
+    QVERIFY(!guard.startWith(GuardedFolder::links({"Others"})));
     QCOMPARE(m_folder->read(), m_links);
 }
 

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void namesOfPlansAreShownAsTheyStand();
     void anyPlanWhileNoneIsTicked();
     void saysThatTheCommandLineDecides();
+    void fixedKindIsGreyedWithItsReason();
     void keyboardGoesFromTopToBottom();
     void followsTheLanguage();
 
@@ -300,6 +301,23 @@ void ConnectionPageTest::saysThatTheCommandLineDecides()
     show(ConnectionChoice(), true);
     QCOMPARE(texts(), QStringList("In this run the command line says which connections count. What you choose here "
                                   "counts from the next start on."));
+}
+
+void ConnectionPageTest::fixedKindIsGreyedWithItsReason()
+{
+    const QString reason = "Fixed by the administrator of this computer";
+    show(ConnectionChoice());
+    QVERIFY(!texts().contains(reason));
+    m_page->setKindFixed();
+    QCOMPARE(lines(), QStringList({"[*&Mobile broadband]", "*An&y plan", "Only the plans &ticked here",
+                                   "Not while &roaming", "[&Any connection]", "[My own &button]"}));
+    QVERIFY(texts().contains(reason));
+    // Which plans count is the user's choice all the same.
+    click("Not while &roaming");
+    QVERIFY(m_told.last().isNotWhileRoaming);
+    const FakeTranslator other;
+    QTRY_VERIFY(texts().contains("*" + reason));
+    QCOMPARE(buttonsOf(*m_page).first()->accessibleDescription(), "*" + reason);
 }
 
 void ConnectionPageTest::keyboardGoesFromTopToBottom()

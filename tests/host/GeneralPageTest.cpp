@@ -20,6 +20,7 @@ private Q_SLOTS:
     void showsTheChoice();
     void asksForTheChoice();
     void tellsThatItCannotBeKept();
+    void fixedChoiceIsGreyedWithItsReason();
     void followsTheLanguage();
 };
 
@@ -78,6 +79,25 @@ void GeneralPageTest::tellsThatItCannotBeKept()
     QCOMPARE(texts(page).value(1), "This choice cannot be kept in /etc/x.desktop.");
     page.setStartsWithSession(true, QString());
     QCOMPARE(texts(page).size(), 1);
+}
+
+void GeneralPageTest::fixedChoiceIsGreyedWithItsReason()
+{
+    GeneralPage page(true);
+    page.setFixed();
+    page.show();
+    const QSignalSpy chosen(&page, &GeneralPage::startWithSessionChosen);
+    QCheckBox* const box = page.findChild<QCheckBox*>();
+    QVERIFY(!box->isEnabled());
+    QVERIFY(box->isChecked());
+    box->click();
+    QCOMPARE(chosen.size(), 0);
+    const QString reason = "Fixed by the administrator of this computer";
+    QCOMPARE(texts(page).value(0), reason);
+    QCOMPARE(box->accessibleDescription(), reason);
+    const FakeTranslator other;
+    QTRY_COMPARE(box->accessibleDescription(), "*" + reason);
+    QCOMPARE(texts(page).value(0), "*" + reason);
 }
 
 void GeneralPageTest::followsTheLanguage()

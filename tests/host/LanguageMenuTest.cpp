@@ -25,6 +25,7 @@ private Q_SLOTS:
     void marksTheCurrentOne();
     void tellsWhatIsChosen_data();
     void tellsWhatIsChosen();
+    void fixedLanguageIsGreyedWithItsReason();
     void followsTheLanguage();
 };
 
@@ -128,6 +129,18 @@ void LanguageMenuTest::tellsWhatIsChosen()
     QCOMPARE(told.size(), 1);
     QCOMPARE(told.first().first().toString(), language);
     QCOMPARE(marked(menu), QStringList(language));
+}
+
+void LanguageMenuTest::fixedLanguageIsGreyedWithItsReason()
+{
+    LanguageMenu menu(offeredLanguages, "de");
+    menu.setFixed();
+    for (const QAction* action : choices(menu))
+        QVERIFY(!action->isEnabled());
+    QCOMPARE(marked(menu), QStringList("de"));
+    QCOMPARE(choices(menu).constLast()->text(), "Fixed by the administrator of this computer");
+    const FakeTranslator translator;
+    QTRY_COMPARE(choices(menu).constLast()->text(), "*Fixed by the administrator of this computer");
 }
 
 void LanguageMenuTest::followsTheLanguage()
