@@ -8,7 +8,13 @@
 #include <climits>
 
 #include "FindingsReport.h"
+#include "LinkEdits.h"
+#include "LinkExchange.h"
 #include "LinkFileCheck.h"
+#include "LinkStart.h"
+#include "LinkTexts.h"
+#include "LinkWords.h"
+#include "LinksFile.h"
 
 namespace
 {
@@ -26,11 +32,54 @@ LinkCall::Result check(const LinkCall& call)
     return findings.isEmpty() ? LinkCall::Done : LinkCall::NotDone;
 }
 
-const char* const help = R"(Usage: vellumconnect-links COMMAND [OPTION]... [FILE]...
-Checks files of quick links.
+LinkCall::Result list(const LinkCall& call)
+{
+    LinksFile file(call.word(0));
+    const QString problem = file.read();
+    if (!problem.isEmpty())
+        return LinkCall::refuse(problem);
+    if (formatOf(call) != QLatin1String("text")) {
+        LinkCall::print(LinkExchange::to(file.links, formatOf(call)));
+        return LinkCall::Done;
+    }
+    int number = 0;
+    for (const QuickLinkRecord& link : qAsConst(file.links)) {
+        QStringList row{QString::number(++number), link.name, LinkWords::ofType(link.type), link.url};
+        for (QString& text : row)
+            text = plainLine(text);
+        LinkCall::print(row.join(QLatin1Char('\t')).toLocal8Bit() + '\n');
+    }
+    return LinkCall::Done;
+}
+
+LinkCall::Result open(const LinkCall& call)
+{
+    LinksFile file(call.word(1));
+    QString problem = file.read();
+    const int index = problem.isEmpty() ? LinkWords::find(file.links, call.word(0), problem) : -1;
+    if (index >= 0)
+        problem = LinkStart::open(file.links.at(index));
+    if (!problem.isEmpty())
+        return LinkCall::refuse(problem);
+    LinkCall::say(QStringLiteral("Opening \"%1\": %2").arg(file.links.at(index).name, file.links.at(index).url));
+    return LinkCall::Done;
+}
+
+const char* const help = R"(Usage: vellumconnect-links COMMAND [OPTION]... [FILE]
+Checks and changes files of quick links. FILE is the user's own where none is named.
 
   check [--format text|json|sarif] FILE...   say what is wrong with each file
+  list [--format text|json] [FILE]           print the links
+  export [--format json|html|xbel] [FILE]    print the links for other programs
+  import SOURCE [FILE]                       take in links of such a format
+  add FIELD... [FILE]                        add a link behind the others
+  edit LINK FIELD... [FILE]                  change a link
+  remove LINK [FILE]                         remove a link
+  move LINK PLACE [FILE]                     move a link to another place
+  open LINK [FILE]                           open a link
 
+LINK is a name, or else a number as "list" has it. A FIELD is one of --name TEXT, --url TEXT, --para TEXT,
+--type internet|e-mail|application, and --startconnect, --startmobile, --delete and --edit, each with 0 or 1.
 It ends with 0 when all is done, 1 when something was found or cannot be done, and 2 for wrong usage.
 )";
 
@@ -39,13 +88,22 @@ struct Command {
     int fewest; ///< words behind the name
     int most;
     QStringList formats; ///< of --format, the default first
+    bool hasFields;
     LinkCall::Result (*run)(const LinkCall& call);
 };
 
 const QList<Command>& commands()
 {
     static const QList<Command> all{
-        {"check", 1, INT_MAX, FindingsReport::formats(), check},
+        {"check", 1, INT_MAX, FindingsReport::formats(), false, check},
+        {"list", 0, 1, {QStringLiteral("text"), QStringLiteral("json")}, false, list},
+        {"export", 0, 1, LinkExchange::formats(), false, list},
+        {"import", 1, 2, {}, false, LinkEdits::importLinks},
+        {"add", 0, 1, {}, true, LinkEdits::add},
+        {"edit", 1, 2, {}, true, LinkEdits::edit},
+        {"remove", 1, 2, {}, false, LinkEdits::remove},
+        {"move", 2, 3, {}, false, LinkEdits::move},
+        {"open", 1, 2, {}, false, open},
     };
     return all;
 }
@@ -61,6 +119,13 @@ QString usageProblem(const Command& command, const LinkCall& call)
         return QStringLiteral("Unexpected argument \"%1\".").arg(call.words.constLast());
     if (!command.formats.isEmpty() && !command.formats.contains(formatOf(call)))
         return QStringLiteral("No such format: \"%1\".").arg(formatOf(call));
+    if (!command.hasFields)
+        return QString();
+    for (const char* const flag : {"startconnect", "startmobile", "delete", "edit"}) {
+        const QString value = call.line.value(QLatin1String(flag));
+        if (call.line.isSet(QLatin1String(flag)) && value != QLatin1String("0") && value != QLatin1String("1"))
+            return QStringLiteral("\"--%1\" is 0 or 1, and not \"%2\".").arg(QLatin1String(flag), value);
+    }
     return QString();
 }
 
@@ -70,6 +135,11 @@ LinkCall::Result run(const Command& command, const QStringList& arguments)
     if (!command.formats.isEmpty())
         call.line.addOption(
             {QStringLiteral("format"), QString(), QStringLiteral("FORMAT"), command.formats.constFirst()});
+    if (command.hasFields) {
+        const QList<LinkAttributes::Attribute> attributes = LinkEdits::fields();
+        for (const LinkAttributes::Attribute& attribute : attributes)
+            call.line.addOption({QLatin1String(attribute.name), QString(), QStringLiteral("TEXT")});
+    }
     call.line.parse(arguments);
     call.words = call.line.positionalArguments().mid(1);
     const QString problem = usageProblem(command, call);
