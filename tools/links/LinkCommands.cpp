@@ -57,7 +57,7 @@ LinkCall::Result open(const LinkCall& call)
     LinksFile file(call.word(1));
     QString problem = file.read();
     const int index = problem.isEmpty() ? LinkWords::find(file.links, call.word(0), problem) : -1;
-    if (index >= 0)
+    if (index >= 0 && !file.openInProgram(index))
         problem = LinkStart::open(file.links.at(index));
     if (!problem.isEmpty())
         return LinkCall::refuse(problem);

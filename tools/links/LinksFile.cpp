@@ -21,6 +21,7 @@
 #include "LinkFileCheck.h"
 #include "LinkHistory.h"
 #include "Places.h"
+#include "RunningLinks.h"
 #include "StoreText.h"
 #include "UserFolder.h"
 
@@ -94,7 +95,7 @@ QString LinksFile::readToChange()
     QString problem = lock();
     if (!problem.isEmpty())
         return problem;
-    if (m_isOwn && !QFileInfo::exists(m_path)) {
+    if (m_isOwn && !m_isInProgram && !QFileInfo::exists(m_path)) {
         if (QFileInfo::exists(historyFolder()))
             return QStringLiteral("%1 is missing; the program offers to bring it back at its next start.").arg(m_path);
         if (!FirstStart::copyDefaults(Places::defaultsFolder(), m_userFolder) ||
@@ -117,6 +118,9 @@ QString LinksFile::lock()
     case FolderLock::Taken:
         return QString();
     case FolderLock::Busy:
+        m_isInProgram = !m_userFolder.isEmpty() && RunningLinks::isThere(m_userFolder);
+        if (m_isInProgram)
+            return QString();
         return QStringLiteral("A program, process %1, works with the folder %2: change the links in its settings, or "
                               "end it first.")
             .arg(QString::number(m_lock->owner()), folder);
@@ -144,6 +148,16 @@ int LinksFile::hiddenLinks() const
     const Findings findings = LinkFileCheck::of(m_path);
     return int(std::count_if(findings.cbegin(), findings.cend(),
                              [](const Finding& finding) { return finding.code == FindingCode::HiddenLink; }));
+}
+
+bool LinksFile::openInProgram(int index) const
+{
+    const QString& name = links.at(index).name;
+    // The program goes by names.
+    const bool isOnlyOne = std::count_if(links.cbegin(), links.cend(),
+                                         [&name](const QuickLinkRecord& link) { return link.name == name; }) == 1;
+    return isOnlyOne && !m_userFolder.isEmpty() && QFileInfo::exists(m_userFolder + QStringLiteral("/lock")) &&
+           RunningLinks::open(m_userFolder, name);
 }
 
 void LinksFile::append(QuickLinkRecord link)
@@ -183,6 +197,12 @@ QString LinksFile::save()
     const QByteArray content = written();
     if (content.isEmpty())
         return QStringLiteral("The links cannot be written; %1 is as it was.").arg(m_path);
+    if (m_isInProgram && !RunningLinks::replace(m_userFolder, m_content, content))
+        return QStringLiteral("The program that runs with %1 does not take the change: its settings are open, or the "
+                              "links are others meanwhile.")
+            .arg(m_userFolder);
+    if (m_isInProgram)
+        return QString();
     const LinkHistory history(m_userFolder, historyFolder());
     const bool hasHistory = !m_userFolder.isEmpty() && (m_isOwn || history.exists());
     if (hasHistory && !m_content.isEmpty() && !history.keep(m_content))

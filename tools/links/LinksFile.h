@@ -36,10 +36,14 @@ public:
     QString read();
 
     /**
-     * The same for who is going to change them: nobody else does until this object goes. A user's first links are the
+     * The same for who is going to change them: nobody else does until this object goes, or a program that runs with
+     * the folder does it. A user's first links are the
      * operator's prepared ones, as at the program's first start. Files of other users are left alone.
      */
     QString readToChange();
+
+    /** Opens a link of the file by the program that runs with its folder. False where none does. */
+    bool openInProgram(int index) const;
 
     /** Lets the file hold the links. What went wrong, in words; the file is as it was then. */
     QString save();
@@ -60,8 +64,9 @@ private:
 
     const bool m_isOwn;
     QString m_path;
-    QString m_userFolder; ///< empty where the file lies in none
-    QByteArray m_content; ///< as it was read; empty for none
+    QString m_userFolder;       ///< empty where the file lies in none
+    bool m_isInProgram = false; ///< which does the change
+    QByteArray m_content;       ///< as it was read; empty for none
     QuickLinkXmlParse m_store;
     std::unique_ptr<FolderLock> m_lock;
 };
