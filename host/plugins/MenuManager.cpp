@@ -47,7 +47,7 @@ bool MenuManager::open(const QString& name)
 {
     for (QAction* action : qAsConst(m_actions)) {
         if (action->data().toString() == ShownText::onOneLine(name))
-            return QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+            return QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
     }
     return false;
 }

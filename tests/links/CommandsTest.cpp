@@ -29,6 +29,7 @@ private Q_SLOTS:
     void checkEndsWithWhatItFound();
     void lists();
     void listsNothingOfANewUser();
+    void tellsThatOutputIsLost();
     void changes_data();
     void changes();
     void refuses_data();
@@ -144,6 +145,15 @@ void CommandsTest::listsNothingOfANewUser()
     QCOMPARE(answer.code, 0);
     QCOMPARE(answer.out, "");
     QVERIFY(!QFileInfo::exists(m_tool->path("data")));
+}
+
+void CommandsTest::tellsThatOutputIsLost()
+{
+    const LinksTool shell("sh");
+    QVERIFY(shell.write(shell.ownFile(), goodFile()));
+    const LinksTool::Answer answer = shell.run({"-c", PROGRAM " export >/dev/full"});
+    QCOMPARE(answer.code, 1);
+    QCOMPARE(answer.error.count('\n'), 1);
 }
 
 void CommandsTest::changes_data()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void browsersFileGoesRound();
     void readsFoldersOfXbel();
     void mergesByNameAndAddress();
+    void longNamesStayApart();
     void leavesOutWhatWouldNotOpen();
     void refusesOtherFiles_data();
     void refusesOtherFiles();
@@ -98,7 +99,7 @@ void ExchangeTest::roundTrip()
 {
     QFETCH(QString, format);
     const QString source = m_tool->path("source.xml");
-    QVERIFY(m_tool->write(source, goodFile().replace("Portal", "R&amp;D &lt;&quot;&gt; &#x1F600;'")));
+    QVERIFY(m_tool->write(source, goodFile().replace("Portal", "R&amp;lt; &lt;&quot;&gt; &#x1F600;'")));
     const LinksTool::Answer exported = m_tool->run({"export", "--format", format, source});
     QCOMPARE(exported.code, 0);
     imported(exported.out.toUtf8());
@@ -152,16 +153,29 @@ void ExchangeTest::readsFoldersOfXbel()
 void ExchangeTest::mergesByNameAndAddress()
 {
     QVERIFY(m_tool->write(m_tool->ownFile(), goodFile()));
-    const QStringList said =
-        imported("{\"links\":[{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"},"
-                 "{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"www.b.example\"},"
-                 "{\"name\":\"Other\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"},"
-                 "{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"http://www.c.example\"},"
-                 "{\"name\":\"Other\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"}]}");
+    const QByteArray others =
+        ("{\"links\":[{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"},"
+         "{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"www.b.example\"},"
+         "{\"name\":\"Other\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"},"
+         "{\"name\":\"Portal\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"http://www.c.example\"},"
+         "{\"name\":\"Other\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"https://a.example/\"}]}");
+    const QStringList said = imported(others);
     QVERIFY2(said.filter("3 added, 2 there already, 0 left out").size() == 1, qUtf8Printable(said.join('\n')));
     QCOMPARE(LinksTool::fields(m_tool->ownFile()),
              (QStringList{"Portal", "Write", "Root", "Portal (2)", "Other", "Portal (3)"}));
+    QCOMPARE(imported(others).filter("0 added, 5 there already, 0 left out").size(), 1);
     QCOMPARE(int(LinkFileCheck::of(m_tool->ownFile()).size()), 0);
+}
+
+void ExchangeTest::longNamesStayApart()
+{
+    const QByteArray name(49, 'a');
+    const QByteArray others = "{\"links\":[{\"name\":\"" + name +
+                              "\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"www.a.example\"},{\"name\":\"" + name +
+                              "\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"www.b.example\"}]}";
+    imported(others);
+    QCOMPARE(LinksTool::fields(m_tool->ownFile()), (QStringList{name, name.left(40) + " (2)"}));
+    QCOMPARE(imported(others).filter("0 added, 2 there already").size(), 1);
 }
 
 void ExchangeTest::leavesOutWhatWouldNotOpen()

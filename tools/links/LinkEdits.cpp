@@ -5,8 +5,7 @@
 
 #include <QFile>
 
-#include <algorithm>
-
+#include "KnownLinks.h"
 #include "LinkCall.h"
 #include "LinkExchange.h"
 #include "LinkJudgement.h"
@@ -16,20 +15,13 @@
 
 namespace
 {
-bool isNameFree(const QuickLinkRecordList& links, const QString& name, int except = -1)
-{
-    for (int i = 0; i < links.size(); ++i) {
-        if (i != except && links.at(i).name == name)
-            return false;
-    }
-    return true;
-}
-
 /** What the dialog or a click would object to; empty for nothing. place is the link's among links, -1 for a new one. */
 QString objectionTo(const QuickLinkRecord& link, const QuickLinkRecordList& links, int place)
 {
-    if (!isNameFree(links, link.name, place))
-        return QStringLiteral("There is a link \"%1\" already.").arg(link.name);
+    for (int i = 0; i < links.size(); ++i) {
+        if (i != place && links.at(i).name == link.name)
+            return QStringLiteral("There is a link \"%1\" already.").arg(link.name);
+    }
     if (!LinkJudgement::ofType(link.type).isEmpty())
         return LinkJudgement::ofType(link.type);
     const QList<LinkJudgement::Problem> problems = LinkJudgement::of(link);
@@ -90,15 +82,6 @@ struct Chosen {
     int index;
 };
 
-/** The name, with a number behind it where another link has it. */
-QString freeName(const QuickLinkRecordList& links, const QString& name)
-{
-    QString free = name;
-    for (int i = 2; !isNameFree(links, free); ++i)
-        free = QStringLiteral("%1 (%2)").arg(name.left(40)).arg(i);
-    return free;
-}
-
 /** Why a link is not taken in; empty where it is. That a program is not there yet is no reason. */
 QString reasonAgainst(const QuickLinkRecord& link)
 {
@@ -135,29 +118,29 @@ LinkCall::Result LinkEdits::importLinks(const LinkCall& call)
     const QString problem = file.readToChange();
     if (!problem.isEmpty())
         return LinkCall::refuse(problem);
+    KnownLinks known;
+    for (const QuickLinkRecord& link : qAsConst(file.links))
+        known.add(link);
     QStringList done;
     int added = 0;
-    int known = 0;
+    int leftOut = 0;
     for (QuickLinkRecord link : qAsConst(links)) {
         const QString reason = reasonAgainst(link);
-        const auto isSame = [&link](const QuickLinkRecord& other) {
-            return other.name == link.name && LinkExchange::addressOf(other) == LinkExchange::addressOf(link);
-        };
         if (!reason.isEmpty()) {
             done.append(QStringLiteral("Left out \"%1\": %2").arg(link.name, reason));
-        } else if (std::any_of(file.links.cbegin(), file.links.cend(), isSame)) {
-            ++known;
-        } else {
-            link.name = freeName(file.links, link.name);
+            ++leftOut;
+        } else if (!known.contains(link)) {
+            link.name = known.freeName(link.name);
             link.visible = QStringLiteral("1");
             file.append(link);
+            known.add(link);
             done.append(QStringLiteral("Added \"%1\".").arg(link.name));
             ++added;
         }
     }
     done.append(QStringLiteral("%1: %2 added, %3 there already, %4 left out.")
-                    .arg(file.path(), QString::number(added), QString::number(known),
-                         QString::number(links.size() - added - known)));
+                    .arg(file.path(), QString::number(added), QString::number(links.size() - added - leftOut),
+                         QString::number(leftOut)));
     if (added > 0)
         return save(file, done);
     for (const QString& sentence : qAsConst(done))

@@ -103,19 +103,16 @@ bool fromXbel(const QByteArray& content, QuickLinkRecordList& links)
     QuickLinkRecordList read;
     QString address;
     QString title;
-    bool isInBookmark = false; // Folders have titles as well.
     while (!reader.atEnd()) {
         reader.readNext();
         const bool isBookmark = reader.name() == QLatin1String("bookmark");
         if (reader.isStartElement() && isBookmark) {
             address = reader.attributes().value(QLatin1String("href")).toString();
-            title.clear();
-            isInBookmark = true;
-        } else if (reader.isStartElement() && isInBookmark && reader.name() == QLatin1String("title")) {
+            title.clear(); // That of a folder may have gone before.
+        } else if (reader.isStartElement() && reader.name() == QLatin1String("title")) {
             title = reader.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
         } else if (reader.isEndElement() && isBookmark) {
             read.append(ofBookmark(address, title));
-            isInBookmark = false;
         }
     }
     links += read;

@@ -160,15 +160,23 @@ bool LinksFile::openInProgram(int index) const
            RunningLinks::open(m_userFolder, name);
 }
 
+/** What the counter says, unless an id is as large. */
+qlonglong LinksFile::nextId() const
+{
+    qlonglong next = numberOf(m_store.m_currentId);
+    for (const QuickLinkRecord& link : links)
+        next = std::max(next, numberOf(link.id) + 1);
+    return next;
+}
+
 void LinksFile::append(QuickLinkRecord link)
 {
     for (const LinkAttributes::Attribute& attribute : LinkAttributes::all)
         link.*attribute.field = StoreText::writable(link.*attribute.field);
-    qlonglong next = numberOf(m_store.m_currentId);
-    for (const QuickLinkRecord& other : qAsConst(links))
-        next = std::max(next, numberOf(other.id) + 1);
-    link.id = QString::number(next);
-    m_store.m_currentId = QString::number(next + 1);
+    if (m_nextId < 0)
+        m_nextId = nextId();
+    link.id = QString::number(m_nextId++);
+    m_store.m_currentId = QString::number(m_nextId);
     links.append(link);
 }
 

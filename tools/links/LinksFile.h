@@ -59,6 +59,7 @@ public:
 private:
     QString lock();
     QByteArray written();
+    qlonglong nextId() const;
     void parse(const QByteArray& content, QuickLinkXmlParse& store, QuickLinkRecordList& to) const;
     QString historyFolder() const;
 
@@ -68,5 +69,6 @@ private:
     bool m_isInProgram = false; ///< which does the change
     QByteArray m_content;       ///< as it was read; empty for none
     QuickLinkXmlParse m_store;
+    qlonglong m_nextId = -1; ///< of a link that is appended; -1 where none was yet
     std::unique_ptr<FolderLock> m_lock;
 };

@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 
 #include <clocale>
+#include <cstdio>
 
 #include "LinkCommands.h"
 
@@ -16,5 +17,9 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(VELLUM_VERSION));
     // The store's trace is for developers.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    return LinkCommands::run(QCoreApplication::arguments());
+    const LinkCall::Result result = LinkCommands::run(QCoreApplication::arguments());
+    // Whoever keeps the output as a copy of the links must learn that it is none.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        return LinkCall::refuse(QStringLiteral("What was to be printed could not be written."));
+    return result;
 }
