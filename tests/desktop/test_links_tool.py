@@ -9,7 +9,7 @@ import subprocess
 from gi.repository import Gio, GLib
 
 from display import press
-from links import APPLICATION, INTERNET, document, link, visible_links
+from links import APPLICATION, INTERNET, document, link, save, visible_links
 from scenario import Scenario, main
 from settings_dialog import SettingsDialog
 from waiting import wait_for
@@ -23,11 +23,15 @@ LOST = link(1, "Axolotl", APPLICATION, "/no/such/program")
 
 class LinksTool(Scenario):
 
-    def setUp(self):
-        super().setUp()
-        self.start_with(PORTAL, LOST)
+    def start_reachable(self):
+        """Starts the program with the links that there are, and waits until the bus has it."""
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        self.start()
         wait_for(self.names_on_bus, "a name on the bus")
+
+    def start_with_links(self):
+        save(self.data, PORTAL, LOST)
+        self.start_reachable()
 
     def names_on_bus(self):
         [names] = self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ListNames")
@@ -57,6 +61,7 @@ class LinksTool(Scenario):
         self.assertEqual([item["name"] for item in visible_links(self.data)], list(names))
 
     def test_changes_show_at_once_and_can_be_undone(self):
+        self.start_with_links()
         self.expect_done("add", "--name", "News", "--type", "internet", "--url", "www.example.org")
         self.expect_links("Portal", "Axolotl", "News")
         self.expect_done("edit", "Portal", "--name", "Gate")
@@ -72,6 +77,7 @@ class LinksTool(Scenario):
         settings.close()
 
     def test_change_is_refused_while_the_settings_are_open(self):
+        self.start_with_links()
         press("ctrl+comma")
         settings = SettingsDialog(self.application)
         answer = self.tool("remove", "Portal")
@@ -84,6 +90,7 @@ class LinksTool(Scenario):
         self.expect_links("Axolotl")
 
     def test_links_open_by_the_rules_of_the_window(self):
+        self.start_with_links()
         self.expect_done("open", "Portal")
         wait_for(lambda: self.opened.calls() == [["https://portal.example.org/"]], "the link")
         self.expect_done("open", "2")
@@ -91,6 +98,7 @@ class LinksTool(Scenario):
         self.assertEqual(len(self.opened.calls()), 1)
 
     def test_others_on_the_bus(self):
+        self.start_with_links()
         changes = []
         self.bus.signal_subscribe(None, INTERFACE, "Changed", PATH, None, Gio.DBusSignalFlags.NONE,
                                   lambda *arguments: changes.append(arguments))
@@ -107,6 +115,11 @@ class LinksTool(Scenario):
         self.assertEqual(self.ask("List"), ["Portal"])
         wait_for(lambda: GLib.MainContext.default().iteration(False) or changes, "the signal")
         self.assertEqual(len(changes), 1)
+
+    def test_first_link(self):
+        self.start_reachable()
+        self.expect_done("add", "--name", "News", "--type", "internet", "--url", "www.example.org")
+        self.expect_links("News")
 
 
 if __name__ == "__main__":

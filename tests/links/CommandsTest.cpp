@@ -41,6 +41,7 @@ private Q_SLOTS:
     void staysAwayFromARunningProgram();
     void leavesTheLockOfACrash();
     void keepsPermissionsAndSymbolicLinks();
+    void makesANewFile();
     void leavesOthersFilesAlone();
     void keepsTheStateBefore();
     void makesNoHistoryElsewhere();
@@ -297,6 +298,20 @@ void CommandsTest::keepsPermissionsAndSymbolicLinks()
     QCOMPARE(LinksTool::fields(file), (QStringList{"Portal", "Write"}));
     QVERIFY(QFileInfo(link).isSymLink());
     QCOMPARE(QFile::permissions(file) & ~(QFile::ReadUser | QFile::WriteUser), forAll);
+}
+
+void CommandsTest::makesANewFile()
+{
+    const QString file = m_tool->path("new.xml");
+    QCOMPARE(m_tool->run({"list", file}).code, 1);
+    QCOMPARE(m_tool->run({"remove", "A", file}).code, 1);
+    QVERIFY(!QFileInfo::exists(file));
+    const LinksTool shell("sh");
+    QCOMPARE(shell.run({"-c", "umask 027; " PROGRAM " add --name A --type e-mail --url mailto: new.xml"}).code, 0);
+    QCOMPARE(LinksTool::fields(shell.path("new.xml")), QStringList{"A"});
+    QCOMPARE(int(LinkFileCheck::of(shell.path("new.xml")).size()), 0);
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    QCOMPARE(QFile::permissions(shell.path("new.xml")) & others, QFile::Permissions(QFile::ReadGroup));
 }
 
 void CommandsTest::leavesOthersFilesAlone()

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "CommonUtils.h"
@@ -62,6 +63,14 @@ static qlonglong numberOf(const QString& text)
     return text.size() > 18 ? 0 : std::max(0LL, text.toLongLong());
 }
 
+/** The permissions that a new file has in this session; its mask can be read by setting it only. */
+static mode_t usualMode()
+{
+    const mode_t mask = ::umask(S_IRWXG | S_IRWXO);
+    ::umask(mask);
+    return (S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH) & ~mask;
+}
+
 LinksFile::LinksFile(const QString& path)
     : m_isOwn(path.isEmpty())
     , m_path(absolutePath(m_isOwn ? UserFolder::path() + placeInUserFolder : path))
@@ -79,12 +88,17 @@ LinksFile::~LinksFile()
 
 QString LinksFile::read()
 {
+    return load(m_isOwn);
+}
+
+QString LinksFile::load(bool mayBeMissing)
+{
     const LinkFile file = LinkFile::look(m_path);
     if (file.isGood())
         m_content = file.content;
     else if (file.condition != LinkFile::Missing)
         return QStringLiteral("%1 cannot be read as links; \"vellumconnect-links check\" says why.").arg(m_path);
-    else if (!m_isOwn)
+    else if (!mayBeMissing)
         return QStringLiteral("There is no file %1.").arg(m_path);
     parse(m_content, m_store, links);
     return QString();
@@ -105,7 +119,7 @@ QString LinksFile::readToChange()
     if (QFileInfo::exists(m_path) && QFileInfo(m_path).ownerId() != ::geteuid())
         return QStringLiteral("%1 belongs to another user (%2), who alone changes it.")
             .arg(m_path, QString::number(QFileInfo(m_path).ownerId()));
-    return read();
+    return load(true);
 }
 
 QString LinksFile::lock()
@@ -222,6 +236,8 @@ QString LinksFile::save()
     // Whoever could read it still can, as with files that a computer's users share.
     if (!isNew)
         QFile::setPermissions(m_path, permissions);
+    else if (m_userFolder.isEmpty())
+        ::chmod(QFile::encodeName(m_path).constData(), usualMode());
     if (hasHistory)
         history.keep(content);
     m_content = content;

@@ -38,7 +38,8 @@ public:
     /**
      * The same for who is going to change them: nobody else does until this object goes, or a program that runs with
      * the folder does it. A user's first links are the
-     * operator's prepared ones, as at the program's first start. Files of other users are left alone.
+     * operator's prepared ones, as at the program's first start; another file that is not there is a new one. Files of
+     * other users are left alone.
      */
     QString readToChange();
 
@@ -57,6 +58,7 @@ public:
     int hiddenLinks() const;
 
 private:
+    QString load(bool mayBeMissing);
     QString lock();
     QByteArray written();
     qlonglong nextId() const;
