@@ -29,7 +29,7 @@ compiled_files() {
 }
 
 check_format() {
-    cpp_files include src host tests benchmarks examples | xargs clang-format-14 --dry-run --Werror
+    cpp_files include src host tools tests benchmarks examples | xargs clang-format-14 --dry-run --Werror
 }
 
 # Both tools know only sources of the compile commands, and read the headers through them.
@@ -42,7 +42,7 @@ check_tidy() {
 check_clazy() {
     compiled_files |
         xargs -P2 -n1 clazy-standalone -p build/lint -checks=level1,no-qstring-ref \
-            --header-filter="^$PWD/(include|src|host|benchmarks)/" --extra-arg=-Werror
+            --header-filter="^$PWD/(include|src|host|tools|benchmarks)/" --extra-arg=-Werror
 }
 
 # On a copy of the sources: outside git the tool would take the build for sources, too.
@@ -60,8 +60,8 @@ check_licences() {
 check_sources() {
     local plugin=(include src) libraries=(include src host/libcore host/libsdk)
     none "$(
-        in_code '^#include <Qt[^>]*/' include src host tests benchmarks examples
-        in_code '^#include "[^"]*\.cpp"' include src host tests benchmarks
+        in_code '^#include <Qt[^>]*/' include src host tools tests benchmarks examples
+        in_code '^#include "[^"]*\.cpp"' include src host tools tests benchmarks
         in_code '^#include <([^>]*[./]|[^Qa-z])' "${libraries[@]}"
         in_code '^#include "[^"]*/' "${libraries[@]}"
         foreign_includes "${libraries[@]}"

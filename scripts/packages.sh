@@ -26,6 +26,7 @@ test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto
     python3-gi libglib2.0-bin gir1.2-atspi-2.0 at-spi2-core dbus python3-dbusmock trayer weston qt6-wayland procps
     iproute2 libcurl3-gnutls libgudev-1.0-0 libjansson4 libmbim-glib4 libmm-glib0 libndp0 libnm0 libpolkit-gobject-1-0 libpsl5
     libqmi-glib5 libqrtr-glib0 libreadline8
+    libxml2-utils groff-base
     clang-format-14 clang-tidy-14 clazy reuse shellcheck abigail-tools)
 qt4=(xvfb xauth libx11-dev libxext-dev libxrender-dev libfontconfig1-dev libfreetype6-dev libsm-dev libice-dev libxrandr-dev
     libxi-dev libxcursor-dev libdbus-1-dev zlib1g-dev g++-multilib xz-utils)

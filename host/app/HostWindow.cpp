@@ -15,6 +15,7 @@
 #include "EditLinkButton.h"
 #include "IQuickLinkPlugin.h"
 #include "LanguageMenu.h"
+#include "LinksOnBus.h"
 #include "MainWindow.h"
 #include "Notice.h"
 #include "OpeningCause.h"
@@ -177,6 +178,7 @@ void Host::announce()
     m_runningProgram = std::make_unique<RunningProgram>(UserFolder::path());
     RunningProgram* const program = m_runningProgram.get();
     new DecisionsOnBus(m_decisions, *program);
+    new LinksOnBus(m_linkKeeper, m_menuManager, *program);
     QObject::connect(program, &RunningProgram::windowRequested, window,
                      [window](const QByteArray& token) { bringToFront(window, token); });
     // When the caller has its answer. One dialog of settings is enough.

@@ -225,3 +225,10 @@ bool LinkKeeper::goBackTo(const QByteArray& content)
         m_messages->tellSaveFailed(LinkGuard::Event(), false);
     return isDone;
 }
+
+bool LinkKeeper::replace(const QByteArray& from, const QByteArray& to)
+{
+    // What a plug-in or another program has written just now is not known to the guard yet.
+    const bool isSeen = m_guard.current() == from && LinkFile::look(m_guard.file()).content == from;
+    return m_isWatching && isSeen && !m_settings && !isPluginBusy() && LinkFile::ofContent(to).isGood() && goBackTo(to);
+}

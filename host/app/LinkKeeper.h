@@ -78,6 +78,12 @@ public:
      * told. */
     bool goBackTo(const QByteArray& content);
 
+    /**
+     * Lets the links be as in to, for another program that has seen them as in from, as a step of its own. False where
+     * they are others meanwhile, where to is no good, or where the user is at work on them.
+     */
+    bool replace(const QByteArray& from, const QByteArray& to);
+
 Q_SIGNALS:
     /** What the user wants to do again needs the settings. */
     void settingsRequested();

@@ -43,6 +43,15 @@ void MenuManager::rebuild()
         action->deleteLater();
 }
 
+bool MenuManager::open(const QString& name)
+{
+    for (QAction* action : qAsConst(m_actions)) {
+        if (action->data().toString() == ShownText::onOneLine(name))
+            return QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
+    }
+    return false;
+}
+
 void MenuManager::retranslate()
 {
     for (QAction* action : qAsConst(m_actions))

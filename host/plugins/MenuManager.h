@@ -35,6 +35,9 @@ public:
      */
     void rebuild();
 
+    /** Opens the first link of this name as if it were picked, once the caller is done. False where there is none. */
+    bool open(const QString& name);
+
     /** Shows the texts of the actions in the current language. Asks no plug-in. */
     void retranslate();
 

@@ -10,9 +10,6 @@
 
 namespace
 {
-const int nameLength = 49;
-const int targetLength = 261;
-
 /** Takes the half out of a field that is left of a character when the field cuts what does not fit. */
 class WholeCharacters : public QValidator
 {
@@ -58,10 +55,10 @@ void limit(QLineEdit* edit, int length)
 
 void DialogLengthLimits::limitName(QLineEdit* edit)
 {
-    limit(edit, nameLength);
+    limit(edit, longestName);
 }
 
 void DialogLengthLimits::limitTarget(QLineEdit* edit)
 {
-    limit(edit, targetLength);
+    limit(edit, longestTarget);
 }

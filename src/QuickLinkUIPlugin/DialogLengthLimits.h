@@ -11,9 +11,12 @@ class QLineEdit;
  */
 namespace DialogLengthLimits
 {
-/** For a link's name: 49 units. */
+const int longestName = 49;    ///< units of a link's name
+const int longestTarget = 261; ///< units of a path, its parameters or an address
+
+/** For a link's name. */
 void limitName(QLineEdit* edit);
 
-/** For what a link leads to, a path, its parameters or an address: 261 units. */
+/** For what a link leads to, a path, its parameters or an address. */
 void limitTarget(QLineEdit* edit);
 } // namespace DialogLengthLimits

@@ -5,6 +5,7 @@
 
 #include <QUrl>
 
+#include "AddressCheck.h"
 #include "CommonUtils.h"
 #include "LinkTarget.h"
 #include "PluginTexts.h"
@@ -30,6 +31,5 @@ void QuickLinkSettingPluginDlg::LaunchQuickLinkAction(QAction* action)
 
 bool QuickLinkSettingPluginDlg::isValidUrl(QString url)
 {
-    return url.contains(QLatin1String("http://")) || url.contains(QLatin1String("https://")) ||
-           url.contains(QLatin1String("ftp")) || url.contains(QLatin1String("www."));
+    return AddressCheck::passes(url);
 }

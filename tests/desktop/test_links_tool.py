@@ -1,0 +1,126 @@
+# SPDX-FileCopyrightText: 2026 The Vellum Connect authors
+# SPDX-License-Identifier: MIT
+
+"""vellumconnect-links beside the running program: what it changes goes through the program, and both never write at once."""
+
+import os
+import subprocess
+
+from gi.repository import Gio, GLib
+
+from display import press
+from links import APPLICATION, INTERNET, document, link, save, visible_links
+from scenario import Scenario, main
+from settings_dialog import SettingsDialog
+from waiting import wait_for
+
+TOOL = os.environ["VELLUM_LINKS"]
+PATH = "/com/norvik/vellumconnect"
+INTERFACE = "com.norvik.vellumconnect.Links"
+PORTAL = link(0, "Portal", INTERNET, "https://portal.example.org/")
+LOST = link(1, "Axolotl", APPLICATION, "/no/such/program")
+
+
+class LinksTool(Scenario):
+
+    def start_reachable(self):
+        """Starts the program with the links that there are, and waits until the bus has it."""
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        self.start()
+        wait_for(self.names_on_bus, "a name on the bus")
+
+    def start_with_links(self):
+        save(self.data, PORTAL, LOST)
+        self.start_reachable()
+
+    def names_on_bus(self):
+        [names] = self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ListNames")
+        return [name for name in names if name.startswith("com.norvik.vellumconnect")]
+
+    def call(self, name, path, interface, method, arguments=None):
+        return self.bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NO_AUTO_START, 30000)
+
+    def ask(self, method, arguments=None):
+        [name] = self.names_on_bus()
+        [answer] = self.call(name, PATH, INTERFACE, method, arguments)
+        return answer
+
+    def replace(self, before, after):
+        return self.ask("Replace", GLib.Variant("(ayay)", (before, after)))
+
+    def tool(self, *arguments):
+        return subprocess.run([TOOL, *arguments, str(self.config)], capture_output=True, text=True, timeout=60,
+                              check=False, env={**os.environ, **self.opened.environment})
+
+    def expect_done(self, *arguments):
+        answer = self.tool(*arguments)
+        self.assertEqual((answer.returncode, answer.stderr), (0, ""))
+
+    def expect_links(self, *names):
+        wait_for(lambda: self.names_on_buttons() == list(names), f"the buttons {names}")
+        self.assertEqual([item["name"] for item in visible_links(self.data)], list(names))
+
+    def test_changes_show_at_once_and_can_be_undone(self):
+        self.start_with_links()
+        self.expect_done("add", "--name", "News", "--type", "internet", "--url", "www.example.org")
+        self.expect_links("Portal", "Axolotl", "News")
+        self.expect_done("edit", "Portal", "--name", "Gate")
+        self.expect_done("move", "News", "1")
+        self.expect_links("News", "Gate", "Axolotl")
+        self.expect_done("remove", "Axolotl")
+        self.expect_links("News", "Gate")
+        press("ctrl+z")
+        self.expect_links("News", "Gate", "Axolotl")
+        press("ctrl+comma")
+        settings = SettingsDialog(self.application)
+        settings.wait_for_links("News", "Gate", "Axolotl")
+        settings.close()
+
+    def test_change_is_refused_while_the_settings_are_open(self):
+        self.start_with_links()
+        press("ctrl+comma")
+        settings = SettingsDialog(self.application)
+        answer = self.tool("remove", "Portal")
+        self.assertEqual((answer.returncode, answer.stdout), (1, ""))
+        self.assertEqual(len(answer.stderr.splitlines()), 1, answer.stderr)
+        settings.wait_for_links("Portal", "Axolotl")
+        settings.close()
+        self.expect_links("Portal", "Axolotl")
+        self.expect_done("remove", "Portal")
+        self.expect_links("Axolotl")
+
+    def test_links_open_by_the_rules_of_the_window(self):
+        self.start_with_links()
+        self.expect_done("open", "Portal")
+        wait_for(lambda: self.opened.calls() == [["https://portal.example.org/"]], "the link")
+        self.expect_done("open", "2")
+        self.message_about("/no/such/program").find("push button", "OK").click()
+        self.assertEqual(len(self.opened.calls()), 1)
+
+    def test_others_on_the_bus(self):
+        self.start_with_links()
+        changes = []
+        self.bus.signal_subscribe(None, INTERFACE, "Changed", PATH, None, Gio.DBusSignalFlags.NONE,
+                                  lambda *arguments: changes.append(arguments))
+        self.assertEqual(self.ask("List"), ["Portal", "Axolotl"])
+        self.assertFalse(self.ask("Open", GLib.Variant("(s)", ("Nowhere",))))
+        before = self.config.read_bytes()
+        after = document(1, PORTAL)
+        for wrong in ((b"", after), (after, before), (before, after[:-10]), (before, b"")):
+            with self.subTest(wrong=wrong):
+                self.assertFalse(self.replace(*wrong))
+                self.assertEqual(self.config.read_bytes(), before)
+        self.assertTrue(self.replace(before, after))
+        self.expect_links("Portal")
+        self.assertEqual(self.ask("List"), ["Portal"])
+        wait_for(lambda: GLib.MainContext.default().iteration(False) or changes, "the signal")
+        self.assertEqual(len(changes), 1)
+
+    def test_first_link(self):
+        self.start_reachable()
+        self.expect_done("add", "--name", "News", "--type", "internet", "--url", "www.example.org")
+        self.expect_links("News")
+
+
+if __name__ == "__main__":
+    main()
