@@ -158,27 +158,27 @@
     </message>
     <message>
         <source>&amp;Mobile broadband</source>
-        <translation>النطاق العريض ال&amp;محمول</translation>
+        <translation>النطاق العريض المحمول (&amp;M)</translation>
     </message>
     <message>
         <source>An&amp;y plan</source>
-        <translation>أي با&amp;قة</translation>
+        <translation>أي باقة (&amp;P)</translation>
     </message>
     <message>
         <source>Only the plans &amp;ticked here</source>
-        <translation>ال&amp;باقات المحددة هنا فقط</translation>
+        <translation>الباقات المحددة هنا فقط (&amp;T)</translation>
     </message>
     <message>
         <source>Not while &amp;roaming</source>
-        <translation>ليس أثناء ال&amp;تجوال</translation>
+        <translation>ليس أثناء التجوال (&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Any connection</source>
-        <translation>أي ات&amp;صال</translation>
+        <translation>أي اتصال (&amp;A)</translation>
     </message>
     <message>
         <source>My own &amp;button</source>
-        <translation>زر &amp;خاص بي</translation>
+        <translation>زر خاص بي (&amp;B)</translation>
     </message>
     <message>
         <source>%1 (not there now)</source>
@@ -201,11 +201,11 @@
     <name>ConnectionPanel</name>
     <message>
         <source>&amp;Disconnect</source>
-        <translation>&amp;قطع الاتصال</translation>
+        <translation>قطع الاتصال (&amp;D)</translation>
     </message>
     <message>
         <source>Co&amp;nnect</source>
-        <translation>ات&amp;صال</translation>
+        <translation>اتصال (&amp;N)</translation>
     </message>
     <message>
         <source>Connection:</source>
@@ -330,11 +330,11 @@
     <name>EditLinkButton</name>
     <message>
         <source>&amp;Edit Links</source>
-        <translation>&amp;تحرير الروابط</translation>
+        <translation>تحرير الروابط (&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Edit Link</source>
-        <translation>&amp;تحرير الرابط</translation>
+        <translation>تحرير الرابط (&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -470,11 +470,11 @@
     </message>
     <message>
         <source>&amp;Bring Back</source>
-        <translation>ا&amp;ستعادة</translation>
+        <translation>استعادة (&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Leave Out</source>
-        <translation>&amp;ترك</translation>
+        <translation>ترك (&amp;L)</translation>
     </message>
     <message>
         <source>The change of your quick links could not be saved.</source>
@@ -486,11 +486,11 @@
     </message>
     <message>
         <source>&amp;Load Them</source>
-        <translation>ت&amp;حميلها</translation>
+        <translation>تحميلها (&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Keep Mine</source>
-        <translation>الاح&amp;تفاظ بروابطي</translation>
+        <translation>الاحتفاظ بروابطي (&amp;K)</translation>
     </message>
     <message>
         <source>Quick Links</source>
@@ -498,7 +498,7 @@
     </message>
     <message>
         <source>&amp;Try Again</source>
-        <translation>&amp;حاول مرة أخرى</translation>
+        <translation>حاول مرة أخرى (&amp;T)</translation>
     </message>
     <message>
         <source>The quick links that were prepared for you could not be put in place. The program tries again at its next start.</source>
@@ -556,7 +556,7 @@
     </message>
     <message>
         <source>&amp;Go Back to This</source>
-        <translation>ال&amp;عودة إلى هذه</translation>
+        <translation>العودة إلى هذه (&amp;G)</translation>
     </message>
     <message>
         <source>The states that your quick links were in, newest first; the last %1 are kept.</source>
@@ -578,11 +578,11 @@
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
-        <translation>ال&amp;لغة</translation>
+        <translation>اللغة (&amp;L)</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation>لغة ال&amp;نظام</translation>
+        <translation>لغة النظام (&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -661,7 +661,7 @@
     <name>MainWindow</name>
     <message>
         <source>&amp;Why…</source>
-        <translation>&amp;لماذا…</translation>
+        <translation>لماذا (&amp;W)…</translation>
     </message>
     <message>
         <source>See which links opened or did not, and why</source>
@@ -677,23 +677,23 @@
     </message>
     <message>
         <source>&amp;Connection</source>
-        <translation>الا&amp;تصال</translation>
+        <translation>الاتصال (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>إ&amp;نهاء</translation>
+        <translation>إنهاء (&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Quick Links</source>
-        <translation>ال&amp;روابط السريعة</translation>
+        <translation>الروابط السريعة (&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation>الأ&amp;دوات</translation>
+        <translation>الأدوات (&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
-        <translation>الإ&amp;عدادات…</translation>
+        <translation>الإعدادات (&amp;S)…</translation>
     </message>
     <message>
         <source>Add, change and order quick links</source>
@@ -701,19 +701,19 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>ال&amp;عرض</translation>
+        <translation>العرض (&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Status Bar</source>
-        <translation>شريط ال&amp;حالة</translation>
+        <translation>شريط الحالة (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>ال&amp;مساعدة</translation>
+        <translation>المساعدة (&amp;H)</translation>
     </message>
     <message>
         <source>&amp;About Vellum Connect</source>
-        <translation>&amp;حول Vellum Connect</translation>
+        <translation>حول Vellum Connect (&amp;A)</translation>
     </message>
     <message>
         <source>About Vellum Connect</source>
@@ -725,11 +725,11 @@
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>ت&amp;حرير</translation>
+        <translation>تحرير (&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;تراجع</translation>
+        <translation>تراجع (&amp;U)</translation>
     </message>
     <message>
         <source>Take back the last change of the quick links</source>
@@ -737,7 +737,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>إ&amp;عادة</translation>
+        <translation>إعادة (&amp;R)</translation>
     </message>
     <message>
         <source>Make the change again that was taken back</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>&amp;Plug-ins Left Out…</source>
-        <translation>ال&amp;ملحقات المتروكة…</translation>
+        <translation>الملحقات المتروكة (&amp;P)…</translation>
     </message>
     <message>
         <source>See which plug-ins crashed or hung, and load them again</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>&amp;Find a Quick Link</source>
-        <translation>&amp;بحث عن رابط سريع</translation>
+        <translation>بحث عن رابط سريع (&amp;F)</translation>
     </message>
     <message>
         <source>Show only the quick links with a name that you type</source>
@@ -787,11 +787,11 @@
     <name>OfferLine</name>
     <message>
         <source>&amp;Put Back</source>
-        <translation>أ&amp;عِدها</translation>
+        <translation>أعِدها (&amp;P)</translation>
     </message>
     <message>
         <source>Leave &amp;As It Is</source>
-        <translation>ا&amp;تركها كما هي</translation>
+        <translation>اتركها كما هي (&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -868,11 +868,11 @@
     </message>
     <message>
         <source>&amp;Load at the Next Start</source>
-        <translation>ت&amp;حميل عند البدء التالي</translation>
+        <translation>تحميل عند البدء التالي (&amp;L)</translation>
     </message>
     <message>
         <source>Leave &amp;Out</source>
-        <translation>&amp;ترك</translation>
+        <translation>ترك (&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -966,27 +966,27 @@
     <message>
         <source>IDS_LINK_SETTING_UP</source>
         <extracomment>Button below the table: moves the link up. Up to about 14 characters; the letter after the ampersand must differ from those of the page&apos;s other buttons.</extracomment>
-        <translation>لأ&amp;على</translation>
+        <translation>لأعلى (&amp;U)</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DOWN</source>
         <extracomment>Button below the table: moves the link down. As IDS_LINK_SETTING_UP.</extracomment>
-        <translation>لأ&amp;سفل</translation>
+        <translation>لأسفل (&amp;D)</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW</source>
         <extracomment>Button beside the table: opens the dialog for a new link. Up to about 12 characters; with an ampersand as IDS_LINK_SETTING_UP.</extracomment>
-        <translation>&amp;جديد…</translation>
+        <translation>جديد (&amp;N)…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_EDIT</source>
         <extracomment>Button beside the table: opens the dialog that changes the chosen link. As IDS_LINK_SETTING_NEW.</extracomment>
-        <translation>&amp;تحرير…</translation>
+        <translation>تحرير (&amp;E)…</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_DEL</source>
         <extracomment>Button beside the table: deletes the chosen link after a question. As IDS_LINK_SETTING_NEW.</extracomment>
-        <translation>&amp;حذف</translation>
+        <translation>حذف (&amp;L)</translation>
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TITLE</source>
@@ -1227,11 +1227,11 @@
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;نسخ</translation>
+        <translation>نسخ (&amp;C)</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;L)</translation>
     </message>
 </context>
 </TS>

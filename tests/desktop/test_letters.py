@@ -67,7 +67,8 @@ class Letters(SettingsScenario):
         self.assertIn("QT_SCALE_FACTOR", environment_of(self.program.pid))
         self.window.find("push button", "Notes").click()
         pid = self.started(application)[0]
-        own = {name for name in environment_of(pid) if name.startswith(("QT_SCALE", "QT_FONT", "VELLUMCONNECT"))}
+        own = {name for name in environment_of(pid).keys() - os.environ.keys()
+               if name.startswith(("QT_SCALE", "QT_FONT", "VELLUMCONNECT"))}
         self.assertEqual(own, set())
 
     def test_second_start_hands_over(self):

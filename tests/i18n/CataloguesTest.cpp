@@ -72,6 +72,8 @@ private Q_SLOTS:
     void isTranslated();
     void keepsPlaceHoldersAndMarkup_data() { addLanguageRows(); }
     void keepsPlaceHoldersAndMarkup();
+    void underlinesNoLetterThatJoins_data() { addLanguageRows(); }
+    void underlinesNoLetterThatJoins();
 
 private:
     QTemporaryDir m_folder;
@@ -163,6 +165,19 @@ void CataloguesTest::keepsPlaceHoldersAndMarkup()
             if (!translation.isEmpty() && !isKept)
                 wrong.append(text.id() + " -> " + translation);
         }
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+}
+
+/** The toolkit draws an underlined letter apart from those that it would join, or be one sign with. */
+void CataloguesTest::underlinesNoLetterThatJoins()
+{
+    QFETCH(QString, language);
+    QStringList wrong;
+    const QList<CatalogueText> texts = readCatalogue(cataloguePath(language));
+    for (const CatalogueText& text : texts) {
+        for (const QString& translation : text.translations)
+            wrong += allIn(translation, "&[\\p{Arabic}\\p{Devanagari}]");
     }
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
 }
