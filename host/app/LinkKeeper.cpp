@@ -90,7 +90,7 @@ void LinkKeeper::watch(MainWindow* window)
     });
     connect(&m_guard, &LinkGuard::saveFailed, this, &LinkKeeper::saveFailed);
     m_guard.watch();
-    connect(&m_layers, &LinkLayers::changed, this, &LinkKeeper::followLayers);
+    connect(&m_layers, &LinkLayers::changed, this, &LinkKeeper::layersChanged);
     m_layers.watch();
     UserFolder::setListener([this] {
         m_isMenuTold = false;

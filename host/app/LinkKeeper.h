@@ -83,6 +83,7 @@ Q_SIGNALS:
     void settingsRequested();
 
 private:
+    void layersChanged();
     void followLayers();
     void reload();
     void reloadWhenQuiet();
