@@ -92,7 +92,7 @@ void LinkKeeper::watch(MainWindow* window)
     });
     connect(&m_guard, &LinkGuard::saveFailed, this, &LinkKeeper::saveFailed);
     m_guard.watch();
-    connect(&m_layers, &LinkLayers::changed, this, &LinkKeeper::followLayers);
+    connect(&m_layers, &LinkLayers::changed, this, &LinkKeeper::layersChanged);
     m_layers.watch();
     UserFolder::setListener([this](const void* caller) {
         // What another plug-in has in the folder is its own business.

@@ -90,6 +90,7 @@ Q_SIGNALS:
 
 private:
     bool isQuickLinks(const void* code) const;
+    void layersChanged();
     void followLayers();
     void reload();
     void reloadWhenQuiet();

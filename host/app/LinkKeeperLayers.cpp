@@ -5,6 +5,7 @@
 
 #include "LinkKeeper.h"
 
+#include "LayersLog.h"
 #include "SettingsDialog.h"
 
 /** The user's links, to which the operator's are added; nothing where they are no good. */
@@ -29,12 +30,20 @@ void LinkKeeper::seed()
         m_layers.seed(links, [this](const QByteArray& content) { return m_guard.startWith(content); });
 }
 
+void LinkKeeper::layersChanged()
+{
+    followLayers();
+    if (m_layersRetry.isActive())
+        qCInfo(layersLog, "the operator's links changed; they wait until nobody works on the user's");
+}
+
 /**
  * While the program runs. The file and the plug-in's memory change together, or the plug-in would save over it; and
  * what another program has just written is the guard's first.
  */
 void LinkKeeper::followLayers()
 {
+    m_layersRetry.stop();
     if (m_isUnprepared)
         return;
     const LinkFile file = LinkFile::look(m_guard.file());

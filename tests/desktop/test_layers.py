@@ -73,6 +73,8 @@ class Layers(SettingsScenario):
         # Where the settings are open, they are left alone until they close.
         settings = self.open_settings()
         self.give(PORTAL, HELP, MORE)
+        self.wait_for_log("they wait until nobody works on the user's")
+        self.assertEqual(settings.links(), ["Help", "Portal"])
         dialog = settings.new()
         dialog.choose_type("E-mail")
         dialog.field("Name:").type("Post")
@@ -103,16 +105,20 @@ class Layers(SettingsScenario):
         save(self.data, MINE)
         file = Path(os.environ["XDG_CONFIG_HOME"]) / "autostart/com.norvik.vellumconnect.desktop"
         self.addCleanup(file.unlink, missing_ok=True)
-        self.settings_file.write_text("language=en\nstartWithSession=true\n[connection]\nkind=manual\n", encoding="utf-8")
+        (self.data / "vellumconnect.ini").write_text("[connection]\nkind=any\n", encoding="utf-8")
+        self.settings_file.write_text("language=en\nstartWithSession=true\n[connection]\nkind=mobile\n", encoding="utf-8")
         self.start()
         self.assertTrue(file.exists())
-        self.window.find("push button", "Connect")
         settings = self.open_settings()
         settings.window.find("list item", "Connection").click()
         settings.window.find("label", REASON)
         for name in ("Mobile broadband", "Any connection", "My own button"):
             button = settings.window.find("radio button", name)
-            self.assertEqual((button.is_enabled(), button.is_checked()), (False, name == "My own button"), name)
+            self.assertEqual((button.is_enabled(), button.is_checked()), (False, name == "Mobile broadband"), name)
+        # What is not fixed can be chosen.
+        roaming = settings.window.find("check box", "Not while roaming")
+        roaming.click()
+        wait_for(roaming.is_checked, "the choice")
         settings.window.find("list item", "General").click()
         box = settings.window.find("check box", "Start with the session")
         self.assertEqual((box.is_enabled(), box.is_checked(), box.description), (False, True, REASON))
@@ -131,7 +137,8 @@ class Layers(SettingsScenario):
         self.start()
         settings = self.open_settings()
         settings.window.find("list item", "Connection").click()
-        wait_for(settings.window.find("radio button", "Mobile broadband").is_checked, "the user's own choice")
+        wait_for(settings.window.find("radio button", "Any connection").is_checked, "the user's own choice")
+        self.assertTrue(settings.window.find("check box", "Not while roaming").is_checked())
         settings.close()
 
 
