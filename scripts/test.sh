@@ -91,6 +91,10 @@ build_qt6() {
     build_for qt6 qt6 "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -DNDEBUG"
 }
 
+sanitized_desktop() {
+    sanitized_tests sanitized build/test-asan-desktop.log 16 lsan.supp desktop.supp
+}
+
 instructions_and_heap() {
     logged build/test-benchmarks.log benchmarks/run --check
 }
@@ -157,11 +161,10 @@ if [[ $quick == no ]]; then
     fi
     step "Qt 5, Qt 6: real services; sanitizers: build" beside services build_asan
     step "sanitizers: unit tests" sanitized_tests unit build/test-asan.log 10 lsan.supp
-    step "sanitizers: desktop" sanitized_tests sanitized build/test-asan-desktop.log 16 lsan.supp desktop.supp
+    step "sanitizers: desktop; Debian packages" beside sanitized_desktop scripts/package.sh
     # The same inputs at each run: what is new is looked for by hand, for longer.
     step "fuzzing" env SEED=1 scripts/fuzz.sh 30
     step "mutants: a handful" scripts/mutants.sh --handful
-    step "Debian packages" scripts/package.sh
     step "instructions and heap; format and lint" beside instructions_and_heap scripts/lint.sh
 fi
 

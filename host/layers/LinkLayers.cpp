@@ -42,6 +42,8 @@ bool LinkLayers::seed(const QByteArray& content, const Place& place)
 {
     const LayerFiles layers = LayerFiles::read(m_folders);
     m_files = layers.paths;
+    if (m_isWatching)
+        keepWatching();
     tellUnreadable(layers.unreadable);
     if (layers.isUnknown) {
         qCWarning(layersLog, "a folder of the operator's links may not be read; all links stay as they are");
@@ -107,6 +109,7 @@ void LinkLayers::tellUnreadable(const QStringList& names)
 
 void LinkLayers::watch()
 {
+    m_isWatching = true;
     keepWatching();
 }
 

@@ -70,6 +70,7 @@ private:
     QStringList m_toldBroken; ///< names of layers
     bool m_isRead = false;    ///< m_given is what the record says, or more
     bool m_isNoted = true;    ///< the record says m_given
+    bool m_isWatching = false;
     QFileSystemWatcher m_watcher;
     QTimer m_quiet;
 };

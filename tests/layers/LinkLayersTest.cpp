@@ -242,6 +242,13 @@ void LinkLayersTest::tellsThatLayersChanged()
     changed.clear();
     QVERIFY(LayerFolders::write(m_folders->packages(), "c.xml", LayerFolders::links({"C"})));
     QTRY_VERIFY(changed.size() > 0);
+    // A file that has come since is watched as well.
+    layers.seed(m_user->read(), [](const QByteArray&) { return true; });
+    changed.clear();
+    QFile newLayer(m_folders->packages() + "/c.xml");
+    QVERIFY(newLayer.open(QIODevice::Append) && newLayer.write("\n") == 1);
+    newLayer.close();
+    QTRY_VERIFY(changed.size() > 0);
 }
 
 void LinkLayersTest::isQuietWhileFilesCome()
