@@ -17,13 +17,13 @@
 #include "LanguageMenu.h"
 #include "LinksOnBus.h"
 #include "MainWindow.h"
+#include "NetworkManagerSource.h"
 #include "Notice.h"
 #include "OpeningCause.h"
 #include "PluginMessages.h"
 #include "PluginNotifications.h"
 #include "ProgramIcon.h"
 #include "RunningProgram.h"
-#include "SystemSource.h"
 #include "Translator.h"
 #include "Tray.h"
 #include "UserFolder.h"
@@ -68,7 +68,8 @@ void Host::follow(const ConnectionChoice& choice)
 {
     m_texts->setKind(choice.kind);
     m_panel->setKind(choice.kind);
-    m_monitor.start(newSystemSource(choice));
+    const bool isManual = choice.kind == ConnectionKind::Manual;
+    m_monitor.start(isManual ? nullptr : std::make_unique<NetworkManagerSource>(choice));
 }
 
 void Host::connectWindow()
