@@ -40,7 +40,7 @@ QString FixedSettings::file()
     return Places::operatorFolders().constLast() + QStringLiteral("/vellumconnect.ini");
 }
 
-FixedSettings FixedSettings::read(const QString& file, const QStringList& languages)
+FixedSettings FixedSettings::read(const QString& file, QStringList (*languages)())
 {
     FixedSettings fixed;
     // A pipe or device would be read for ever.
@@ -51,7 +51,7 @@ FixedSettings FixedSettings::read(const QString& file, const QStringList& langua
         qWarning("%s cannot be read; it fixes nothing", qUtf8Printable(file));
         return fixed;
     }
-    fixed.language = valueAmong(hashOf(languages), settings, QStringLiteral("language"));
+    fixed.language = valueAmong(hashOf(languages()), settings, QStringLiteral("language"));
     fixed.connection = valueAmong(ConnectionChoice::kinds(), settings, QStringLiteral("connection/kind"));
     const QHash<QString, bool> flags = {{QStringLiteral("true"), true}, {QStringLiteral("false"), false}};
     fixed.startsWithSession = valueAmong(flags, settings, QStringLiteral("startWithSession"));

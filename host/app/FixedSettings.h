@@ -19,9 +19,9 @@ struct FixedSettings {
     /**
      * Reads them from file, which has "language", "startWithSession" and, in the section "connection", "kind". A value
      * that is no good, as a language that is not among languages, fixes nothing; a line on the warning channel says so.
-     * A file that is missing fixes nothing.
+     * A file that is missing fixes nothing, and languages are not asked for then.
      */
-    static FixedSettings read(const QString& file, const QStringList& languages);
+    static FixedSettings read(const QString& file, QStringList (*languages)());
 
     /** Where that file lies: vellumconnect.ini in the most important of Places::operatorFolders(). */
     static QString file();

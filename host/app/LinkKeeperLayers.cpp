@@ -25,6 +25,8 @@ void LinkKeeper::seed()
     // What there is no trace of was not deleted link by link.
     if (m_found.kind == Event::FirstStart || m_found.kind == Event::NothingKept)
         m_layers.forget();
+    if (m_layers.isIdle())
+        return;
     const QByteArray links = linksOf(LinkFile::look(m_guard.file()));
     if (!links.isEmpty())
         m_layers.seed(links, [this](const QByteArray& content) { return m_guard.startWith(content); });

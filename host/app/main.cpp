@@ -109,7 +109,7 @@ int main(int argc, char** argv)
     if (!display.platform.isEmpty())
         qunsetenv("QT_QPA_PLATFORM");
     UserFolder::setPath(commandLine.dataFolder);
-    const FixedSettings fixed = FixedSettings::read(FixedSettings::file(), Translator::languages());
+    const FixedSettings fixed = FixedSettings::read(FixedSettings::file(), &Translator::languages);
     Translator translator;
     translator.use(commandLine.language.isEmpty() ? fixed.language.value_or(UserSettings::language())
                                                   : commandLine.language);

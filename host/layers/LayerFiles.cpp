@@ -53,6 +53,11 @@ static LayerLink linkOf(const QString& layer, const LinkItems::Fields& item)
     return link;
 }
 
+bool LayerFiles::areNone(const QStringList& folders)
+{
+    return layersIn(folders).isEmpty() && std::none_of(folders.begin(), folders.end(), &isClosed);
+}
+
 LayerFiles LayerFiles::read(const QStringList& folders)
 {
     LayerFiles files;

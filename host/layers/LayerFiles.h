@@ -22,6 +22,9 @@ struct LayerFiles {
     /** Whether it cannot be said which layers there are: a folder, or one on the way to it, is closed to this user. */
     bool isUnknown = false;
 
+    /** Whether there is none in folders, of which none is closed. Reads no file. */
+    static bool areNone(const QStringList& folders);
+
     /** Reads the layers in folders, of which those that are missing have none. */
     static LayerFiles read(const QStringList& folders);
 };

@@ -38,6 +38,11 @@ static QByteArray rewritten(const QByteArray& content, const LinkRewrite& links,
     return isGood ? made : QByteArray();
 }
 
+bool LinkLayers::isIdle() const
+{
+    return m_given.isEmpty() && LayerFiles::areNone(m_folders) && !QFileInfo::exists(m_record);
+}
+
 bool LinkLayers::seed(const QByteArray& content, const Place& place)
 {
     const LayerFiles layers = LayerFiles::read(m_folders);

@@ -37,6 +37,9 @@ public:
     /** Lets the user's links be as in content; false when that cannot be done. */
     using Place = std::function<bool(const QByteArray& content)>;
 
+    /** Whether there is nothing to bring, and nothing was brought: the user's links need not be read for it. */
+    bool isIdle() const;
+
     /**
      * Brings the layers into the user's links, which are those of content, a good file, and have place put there what
      * comes of it. Whether that was done: nothing is where nothing changes. What is wrong with a layer is told once, in

@@ -219,9 +219,12 @@ QString NetworkFacts::modemOf(const QVariantMap& device)
 QString NetworkFacts::modem() const
 {
     const QStringList devices = BusValue::paths(of(manager()).value(QStringLiteral("Devices")));
-    const auto first = std::find_if(devices.begin(), devices.end(),
-                                    [this](const QString& path) { return !modemOf(of(path)).isEmpty(); });
-    return first == devices.end() ? QString() : modemOf(of(*first));
+    for (const QString& path : devices) {
+        QString modem = modemOf(of(path));
+        if (!modem.isEmpty())
+            return modem;
+    }
+    return QString();
 }
 
 Reach NetworkFacts::reach(const QVariantMap& device) const

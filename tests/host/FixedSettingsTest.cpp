@@ -29,7 +29,8 @@ private Q_SLOTS:
     void liesInTheMostImportantFolder();
 
 private:
-    static FixedSettings read(const QString& file) { return FixedSettings::read(file, {"de", "en", "pt_PT"}); }
+    static QStringList languages() { return {"de", "en", "pt_PT"}; }
+    static FixedSettings read(const QString& file) { return FixedSettings::read(file, &languages); }
     static QString text(const FixedSettings& fixed);
     bool write(const QByteArray& content) const;
 

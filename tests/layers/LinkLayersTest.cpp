@@ -22,6 +22,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void isIdleWithoutLayers();
     void givesLinksOnce();
     void keepsTheStateBefore();
     void changesNothingAtTheNextStart();
@@ -73,6 +74,20 @@ QStringList LinkLayersTest::start() const
     layers.seed(m_user->read(), [&guard](const QByteArray& content) { return guard.startWith(content); });
     guard.watch();
     return names();
+}
+
+void LinkLayersTest::isIdleWithoutLayers()
+{
+    const auto isIdle = [this] {
+        return LinkLayers(m_folders->folders(), record()).isIdle();
+    };
+    QVERIFY(isIdle());
+    QVERIFY(give({"A"}));
+    QVERIFY(!isIdle());
+    QCOMPARE(start(), QStringList({"Mine", "A"}));
+    // What was given may have to go.
+    QVERIFY(QFile::remove(m_folders->computers() + "/a.xml"));
+    QVERIFY(!isIdle());
 }
 
 void LinkLayersTest::givesLinksOnce()
