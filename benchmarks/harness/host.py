@@ -27,7 +27,8 @@ Paint = namedtuple("Paint", "milliseconds cpu")
 
 def _commands(programs, folders):
     """What starts each program, by its name in the table."""
-    commands = {"empty window": [programs.path("bench_window")]}
+    window = programs.path("bench_window")
+    commands = {"empty window": [window], "empty window without OpenGL": [window, "raster"]}
     for count in FEW, MANY:
         commands[f"{count} links"] = [programs.application, "--data-dir", folders.fresh(count, "application")]
     return commands

@@ -76,6 +76,8 @@ void describeApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(VELLUM_VERSION));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vellum Connect"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.norvik.vellumconnect"));
+    // Otherwise the toolkit loads OpenGL for the first window, in case a widget draws with it: half of a start.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
 #if QT_VERSION < 0x060000
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
