@@ -10,6 +10,7 @@ using Decision = TransitionRules::Decision;
 
 Decision TransitionRules::observe(const ConnectionState& state, qint64 now)
 {
+    m_isComingUp = state.isComingUp;
     switch (m_phase) {
     case Phase::Unseen:
         return firstSight(state);
@@ -101,10 +102,15 @@ Decision TransitionRules::resume(const ConnectionState& state, const QString& re
     return {Announcement::None, reason + QStringLiteral(", not a new connection")};
 }
 
-Decision TransitionRules::tellDown(const QString& reason)
+Decision TransitionRules::endGap()
 {
+    // Modems that lost their power are slow to find their network, and the service begins only then.
+    if (m_isComingUp && m_gap == Gap::Network && m_deadline == m_wokeUp + wakeUpLimit) {
+        m_deadline += arrivalLimit;
+        return Decision();
+    }
     withdraw();
-    return {Announcement::Down, reason};
+    return {Announcement::Down, QStringLiteral("down")};
 }
 
 Decision TransitionRules::timePassed(qint64 now)
@@ -112,7 +118,7 @@ Decision TransitionRules::timePassed(qint64 now)
     if (m_deadline < 0 || now < m_deadline)
         return Decision();
     if (m_phase == Phase::Gap)
-        return tellDown(QStringLiteral("down"));
+        return endGap();
     ConnectionState stillUp;
     stillUp.isUp = true;
     stillUp.id = m_id;

@@ -18,6 +18,7 @@ public:
     static constexpr qint64 reachLimit = 10000;   ///< how long a new connection may take to reach the Internet
     static constexpr qint64 handOverLimit = 5000; ///< how long a connection may be gone and still be the same
     static constexpr qint64 wakeUpLimit = 60000;  ///< the same after the computer slept
+    static constexpr qint64 arrivalLimit = 30000; ///< how much longer, if it is on its way then
 
     enum class Announcement { None, Up, Down };
 
@@ -69,11 +70,12 @@ private:
     Decision goDown(qint64 now);
     Decision inGap(const ConnectionState& state, qint64 now);
     Decision resume(const ConnectionState& state, const QString& reason);
-    Decision tellDown(const QString& reason);
+    Decision endGap();
 
     Phase m_phase = Phase::Unseen;
     Gap m_gap = Gap::Network;
     QString m_id; ///< of the connection that is, or last was, up
+    bool m_isComingUp = false; ///< a connection is
     bool m_isAsleep = false;
     qint64 m_wokeUp = -wakeUpLimit;
     qint64 m_handOverEnds = -1; ///< until when a gap may end with any connection

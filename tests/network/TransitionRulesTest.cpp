@@ -42,6 +42,8 @@ public:
         const QString name = words.value(0);
         if (name == "down")
             note(m_rules.observe(ConnectionState(), m_now));
+        else if (name == "coming")
+            note(m_rules.observe(comingUp(), m_now));
         else if (name == "up")
             note(m_rules.observe(up(words), m_now));
         else if (name == "sleep")
@@ -72,6 +74,13 @@ private:
         state.isUp = true;
         state.id = words.at(1);
         state.reach = reaches.value(words.value(2));
+        return state;
+    }
+
+    static ConnectionState comingUp()
+    {
+        ConnectionState state;
+        state.isComingUp = true;
         return state;
     }
 
@@ -132,7 +141,7 @@ void TransitionRulesTest::table_data()
     const QList<QStringList> rows = rowsOfThePage();
     for (const QStringList& row : rows)
         QTest::newRow(qPrintable(row.at(0))) << row.at(1) << row.at(2);
-    QCOMPARE(rows.size(), 74);
+    QCOMPARE(rows.size(), 79);
 }
 
 void TransitionRulesTest::table()

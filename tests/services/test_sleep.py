@@ -54,8 +54,8 @@ class Sleep(ServiceScenario):
         self.expect_same_connection_after(12)
 
     def test_back_before_the_minute_ends(self):
-        # It takes the services some seconds to bring the connection up where the computer has much to do.
-        self.expect_same_connection_after(54)
+        # The services then begin to bring it up, and are ready when the minute is over.
+        self.expect_same_connection_after(58)
 
 
 if __name__ == "__main__":
