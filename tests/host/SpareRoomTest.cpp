@@ -191,8 +191,10 @@ void SpareRoomTest::countsRoomOnce()
     show(QSize(135, 90));
     QCOMPARE(m_column->contentsMargins(), QMargins(12, 12, 12, 12));
     m_frame->hide();
+    m_frame->setFixedSize(125, 90);
     m_frame->show();
-    QCOMPARE(m_column->contentsMargins(), QMargins(12, 12, 12, 12));
+    // A third of what there was at first.
+    QCOMPARE(m_column->contentsMargins(), QMargins(8, 12, 8, 12));
 }
 
 void SpareRoomTest::leavesMarksAboveTheLine_data()
@@ -213,7 +215,7 @@ void SpareRoomTest::leavesMarksAboveTheLine()
     m_column->addWidget(label);
     show(QSize(345, 360));
     const QMargins margins = label->contentsMargins();
-    QVERIFY(hasMarks ? margins.top() > 0 : margins.isNull());
+    QVERIFY2(hasMarks ? margins.top() > 0 : margins.isNull(), qPrintable(QString::number(margins.top())));
 }
 
 REGISTER_TEST(SpareRoomTest)
