@@ -5,7 +5,7 @@
 
 from display import press, windows_of_class, xdotool
 from links import INTERNET, link
-from scenario import main
+from scenario import TITLE, main
 from settings_dialog import LinkDialog, SettingsDialog
 from settings_scenario import SettingsScenario
 from waiting import wait_for
@@ -60,6 +60,23 @@ class Keyboard(SettingsScenario):
         press("Return")
         self.application.wait_until_gone(question)
         SettingsDialog(self.application).wait_for_links("Second", "Third")
+
+    def test_settings_begin_with_the_links_and_then_where_they_were_left(self):
+        settings = self.open_settings()
+        wait_for(lambda: settings.table.has_state("focused"), "the keyboard in the table")
+        press("Return")
+        dialog = LinkDialog(self.application, LinkDialog.edit_title)
+        self.assertEqual(dialog.field("Name:").text, "First")
+        press("Escape")
+        dialog.wait_until_gone()
+        settings.window.find("list item", "General").click()
+        press("Escape")
+        settings.wait_until_gone()
+        self.application.main_window(TITLE)
+        press("ctrl+comma")
+        page = self.application.window("Settings")
+        box = page.find("check box", "Start with the session")
+        wait_for(lambda: box.has_state("focused"), "the keyboard on the page")
 
     def test_double_click_edits(self):
         settings = self.open_settings()
