@@ -38,8 +38,10 @@ void PageArea::setPage(QWidget* page, Room room)
 static bool isWorthTheFocus(const QWidget* control)
 {
     const QAbstractItemView* const list = qobject_cast<const QAbstractItemView*>(control);
-    return (control->focusPolicy() & Qt::TabFocus) && control->isVisible() && control->isEnabled() &&
-           !qobject_cast<const QTabBar*>(control) && !(list && list->model() && list->model()->rowCount() == 0);
+    // A widget of tabs hands the focus on to its tabs.
+    return (control->focusPolicy() & Qt::TabFocus) && !control->focusProxy() && control->isVisible() &&
+           control->isEnabled() && !qobject_cast<const QTabBar*>(control) &&
+           !(list && list->model() && list->model()->rowCount() == 0);
 }
 
 void PageArea::takeFocus()

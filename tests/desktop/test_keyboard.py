@@ -63,10 +63,9 @@ class Keyboard(SettingsScenario):
 
     def test_settings_begin_with_the_links_and_then_where_they_were_left(self):
         settings = self.open_settings()
-        wait_for(lambda: settings.table.has_state("focused"), "the keyboard in the table")
-        press("Return")
+        press("Down", "Return")
         dialog = LinkDialog(self.application, LinkDialog.edit_title)
-        self.assertEqual(dialog.field("Name:").text, "First")
+        self.assertEqual(dialog.field("Name:").text, "Second")
         press("Escape")
         dialog.wait_until_gone()
         settings.window.find("list item", "General").click()

@@ -85,6 +85,13 @@ class CommandLine(unittest.TestCase):
         self.assertEqual((answer.returncode, answer.stdout), (0, "No quick links\n"))
         self.assertEqual(answer.stderr, f"vellumconnect: There is no plug-in in the folder \"{folder}\".\n")
 
+    def test_folder_with_a_broken_plugin(self):
+        folder = self.home / "no plug-ins"
+        (folder / "Broken").mkdir(parents=True)
+        (folder / "Broken/libBroken.so").write_text("no library", encoding="ascii")
+        answer = self.run_program("--plugin-dir", str(folder), "--list-links")
+        self.assertRegex(answer.stderr, "^Plug-in refused: .*/libBroken.so: [^\n]*\n$")
+
     def test_help(self):
         answer = self.run_program("--help")
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))

@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTabBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "PageArea.h"
@@ -209,7 +209,7 @@ void PageAreaTest::letsTheKeyboardBegin()
     const auto area = shownArea();
     QWidget* const page = new QWidget(area->pageParent());
     QVBoxLayout* const column = new QVBoxLayout(page);
-    column->addWidget(new QTabBar);
+    column->addWidget(new QTabWidget);
     QListWidget* const list = new QListWidget;
     QLineEdit* const field = new QLineEdit;
     QPushButton* const button = new QPushButton;
