@@ -41,6 +41,13 @@ class Keyboard(SettingsScenario):
         press("ctrl+2")
         self.expect_opened("Third", "First", "Second")
 
+    def test_menu_by_its_letter(self):
+        self.application.main_window(TITLE)
+        press("alt+q")
+        wait_for(lambda: len(windows_of_class("vellumconnect")) > 1, "the menu")
+        press("Down", "Down", "Return")
+        self.expect_opened("Third")
+
     def test_table_of_the_settings(self):
         settings = self.open_settings()
         settings.select("First")
