@@ -129,6 +129,11 @@ QString CommandLine::runningAlready(qint64 process, const QString& folder)
     return Options::tr("It is running already, as process %1, with the folder %2.").arg(process).arg(folder);
 }
 
+QString CommandLine::noPlugins(const QString& folder)
+{
+    return Options::tr("There is no plug-in in the folder \"%1\".").arg(folder);
+}
+
 QString CommandLine::notRunning(const QString& folder)
 {
     return Options::tr("No running program with the folder %1 can be asked.").arg(folder);

@@ -40,6 +40,9 @@ struct CommandLine {
     /** What is said where the program runs already with this folder, as the process with this number. */
     static QString runningAlready(qint64 process, const QString& folder);
 
+    /** What is said where the folder of plug-ins that was asked for has none. */
+    static QString noPlugins(const QString& folder);
+
     /** What is said where no program with this folder can be asked for its decisions. */
     static QString notRunning(const QString& folder);
 

@@ -5,6 +5,7 @@
 
 #include "Host.h"
 
+#include "CommandLine.h"
 #include "ConnectionTexts.h"
 #include "EditLinkButton.h"
 #include "FirstStart.h"
@@ -96,6 +97,7 @@ void Host::loadPlugins(const QString& folder)
     FirstStart::makePluginFolders(pluginFolder, userFolder);
     m_gatekeeper.open(userFolder, pluginFolder);
     loadFolder(pluginFolder);
+    tellMissing(folder);
 }
 
 void Host::lookAtPlugins(const QString& folder)
@@ -103,6 +105,7 @@ void Host::lookAtPlugins(const QString& folder)
     const QString pluginFolder = folderOfPlugins(folder);
     m_gatekeeper.look(UserFolder::path(), pluginFolder);
     loadFolder(pluginFolder);
+    tellMissing(folder);
 }
 
 void Host::loadFolder(const QString& pluginFolder)
@@ -112,6 +115,13 @@ void Host::loadFolder(const QString& pluginFolder)
         m_container.loadFolder(pluginFolder);
     else
         qWarning("%s is no file; no plug-in is loaded", qUtf8Printable(m_linkKeeper.guard().file()));
+}
+
+/** Of a folder that the user named; what is wrong with a plug-in in it was told. */
+void Host::tellMissing(const QString& asked) const
+{
+    if (!asked.isEmpty() && m_container.plugins().isEmpty() && m_container.refusals().isEmpty())
+        qWarning("vellumconnect: %s", qUtf8Printable(CommandLine::noPlugins(asked)));
 }
 
 bool Host::endLinks()

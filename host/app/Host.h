@@ -98,6 +98,7 @@ private:
     void connectMessages();
     void giveIcons(const QList<QAction*>& actions);
     void loadFolder(const QString& pluginFolder);
+    void tellMissing(const QString& asked) const;
     void connectWindow();
     void tellStarted();
     void tellConnectionChanged(bool isUp, const QString& reason);

@@ -41,10 +41,12 @@ void Host::showSettings(const QString& link)
     QObject::connect(&guard, &LinkGuard::stateChanged, &dialog, [&dialog](const QByteArray&, const QByteArray& to) {
         dialog.setParametersNote(LinkAddresses(to).haveParameters());
     });
+    dialog.beginWith(UserSettings::settingsPage());
     dialog.chooseLink(link);
     m_linkKeeper.setSettings(&dialog);
     dialog.exec();
     m_linkKeeper.setSettings(nullptr);
+    UserSettings::setSettingsPage(dialog.pageName());
 }
 
 /** Lets the desktop start the program with these arguments or not; false when that cannot be done. */

@@ -8,10 +8,12 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include "HostContract.h"
 #include "UserFolder.h"
 
 static const QString languageKey = QStringLiteral("language");
 static const QString connectionGroup = QStringLiteral("connection");
+static const QString settingsPageKey = QStringLiteral("settingsPage");
 static const QString windowPlaceKey = QStringLiteral("windowPlace");
 static const QString agreedKey = QStringLiteral("agreedAddresses");
 
@@ -70,6 +72,18 @@ ConnectionChoice UserSettings::connection()
 void UserSettings::setConnection(const ConnectionChoice& choice)
 {
     keep(choice.values(), connectionGroup);
+}
+
+QString UserSettings::settingsPage()
+{
+    const QString name = kept(settingsPageKey).toString();
+    return name.isEmpty() ? QString::fromLatin1(HostContract::quickLinks.name) : name;
+}
+
+void UserSettings::setSettingsPage(const QString& name)
+{
+    if (name != settingsPage())
+        keep(settingsPageKey, name);
 }
 
 QByteArray UserSettings::windowPlace()

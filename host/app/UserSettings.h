@@ -24,6 +24,12 @@ ConnectionChoice connection();
 /** Keeps which connections count. Failure is written to the warning channel. */
 void setConnection(const ConnectionChoice& choice);
 
+/** The name of the settings' page that was used last; that of the quick links where it was never kept. */
+QString settingsPage();
+
+/** Keeps the name of that page for the next time. Failure is written to the warning channel. */
+void setSettingsPage(const QString& name);
+
 /** Where the window was and how large, as the toolkit writes it down; empty where it was never kept. */
 QByteArray windowPlace();
 

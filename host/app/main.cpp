@@ -107,6 +107,7 @@ int main(int argc, char** argv)
                                                : QStringLiteral("default.debug=false"));
     describeApplication();
     QApplication application(argc, argv);
+    display.connection.reset();
     // What links start chooses by itself.
     if (!display.platform.isEmpty())
         qunsetenv("QT_QPA_PLATFORM");

@@ -54,8 +54,7 @@ static const char* const quickLinkKeys[] = {
     QT_TRANSLATE_NOOP("QuickLinkUIPlugin", "IDS_LINK_TYPE_INTERNET"),
     //: Label above the field with the path of the program. Up to about 25 characters (184 pixels).
     QT_TRANSLATE_NOOP("QuickLinkUIPlugin", "IDS_LINK_SETTING_NEW_TAB_APP_URL"),
-    //: Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters
-    //: that reach below the line, such as y, lose their tails.
+    //: Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.
     QT_TRANSLATE_NOOP("QuickLinkUIPlugin", "IDS_LINK_SETTING_NEW_TAB_APP_BROWSER"),
     //: Label above the field with the program's parameters. Up to about 35 characters (250 pixels).
     QT_TRANSLATE_NOOP("QuickLinkUIPlugin", "IDS_LINK_SETTING_NEW_TAB_APP_PARA"),

@@ -16,12 +16,12 @@
         <translation>يجب أن تُكتب بداية هذا العنوان بأحرف صغيرة:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>يجب أن يبدأ هذا العنوان بـ &quot;‎http://‎&quot; أو &quot;‎https://‎&quot;:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>تُفتح عناوين الإنترنت فقط (http وhttps وftp). هذا ليس عنوان إنترنت:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>يجب أن يبدأ هذا العنوان بـ &quot;‎http://‎&quot; أو &quot;‎https://‎&quot; أو &quot;‎ftp://‎&quot; أو &quot;‎www.‎&quot;:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>مراقبة الاتصالات من النوع KIND في هذا التشغيل، أيًا كان ما في الإعدادات: إما mobile (النطاق العريض المحمول) أو any (أي اتصال له مسار مبدئي) أو manual (بزر تضغطه).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>لا يوجد ملحق في المجلد &quot;%1&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>تعذر تشغيل أي برنامج لهذا العنوان:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>لم يُفتح العنوان</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>لا توجد شاشة: لم يُعيَّن DISPLAY ولا WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>يطلب QT_QPA_PLATFORM شاشة X، لكن DISPLAY غير معيَّن.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>الشاشة &quot;%1&quot; لا تستجيب.</translation>
     </message>
 </context>
 <context>
@@ -612,10 +620,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>لا يُسمح لك بفتح هذا:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>لم يُفتح</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1030,7 +1034,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>انتقاء…</translation>
     </message>
     <message>

@@ -16,12 +16,12 @@
         <translation>Der Anfang dieser Adresse muss kleingeschrieben sein:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Diese Adresse braucht „http://“ oder „https://“ am Anfang:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Nur Internetadressen (http, https und ftp) werden geöffnet. Dies ist keine:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Diese Adresse braucht „http://“, „https://“, „ftp://“ oder „www.“ am Anfang:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>In diesem Lauf Verbindungen der Art KIND überwachen, was immer die Einstellungen sagen: mobile (mobiles Breitband), any (jede mit Standardroute) oder manual (per Schaltfläche).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>Im Ordner „%1“ gibt es kein Plug-in.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Für diese Adresse konnte kein Programm gestartet werden:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Adresse nicht geöffnet</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Es gibt keinen Bildschirm: Weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM verlangt X, aber DISPLAY ist nicht gesetzt.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>Der Bildschirm „%1“ antwortet nicht.</translation>
     </message>
 </context>
 <context>
@@ -592,10 +600,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Sie dürfen dies nicht öffnen:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Nicht geöffnet</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Wählen&#xa0;…</translation>
     </message>
     <message>

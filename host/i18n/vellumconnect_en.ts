@@ -16,11 +16,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
+        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -109,15 +109,15 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -323,6 +323,14 @@
     </message>
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -591,10 +599,6 @@
     </message>
     <message>
         <source>You are not allowed to open this:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not opened</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Browse…</translation>
     </message>
     <message>

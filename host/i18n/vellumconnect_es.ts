@@ -16,12 +16,12 @@
         <translation>El comienzo de esta dirección debe escribirse en minúsculas:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Esta dirección necesita «http://» o «https://» al principio:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Solo se abren direcciones de Internet (http, https y ftp). Esta no lo es:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Esta dirección necesita «http://», «https://», «ftp://» o «www.» al principio:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Vigila en esta ejecución las conexiones de tipo KIND, diga lo que diga la configuración: mobile (banda ancha móvil), any (cualquiera con una ruta predeterminada) o manual (con un botón).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>No hay ningún complemento en la carpeta «%1».</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>No se pudo iniciar ningún programa para esta dirección:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Dirección no abierta</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>No hay pantalla: no se ha definido ni DISPLAY ni WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM pide X, pero no se ha definido DISPLAY.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>La pantalla «%1» no responde.</translation>
     </message>
 </context>
 <context>
@@ -592,10 +600,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>No tiene permiso para abrir esto:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>No abierto</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Examinar…</translation>
     </message>
     <message>

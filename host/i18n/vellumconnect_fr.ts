@@ -16,12 +16,12 @@
         <translation>Le début de cette adresse doit être écrit en minuscules&#xa0;:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Cette adresse doit commencer par «&#xa0;http://&#xa0;» ou «&#xa0;https://&#xa0;»&#xa0;:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Seules les adresses Internet (http, https et ftp) sont ouvertes. Ceci n’en est pas une&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Cette adresse doit commencer par «&#xa0;http://&#xa0;», «&#xa0;https://&#xa0;», «&#xa0;ftp://&#xa0;» ou «&#xa0;www.&#xa0;»&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Surveille pour cette fois les connexions de type KIND, quels que soient les paramètres&#xa0;: mobile (haut débit mobile), any (tout ce qui a une route par défaut) ou manual (vous appuyez sur un bouton).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne contient aucun greffon.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Aucun programme n’a pu être lancé pour cette adresse&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Adresse non ouverte</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Aucun écran : ni DISPLAY ni WAYLAND_DISPLAY n’est défini.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM demande X, mais DISPLAY n’est pas défini.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>L’écran «&#xa0;%1&#xa0;» ne répond pas.</translation>
     </message>
 </context>
 <context>
@@ -592,10 +600,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Vous n’avez pas le droit d’ouvrir ceci&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Non ouvert</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Parcourir…</translation>
     </message>
     <message>

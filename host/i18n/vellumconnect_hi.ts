@@ -16,12 +16,12 @@
         <translation>इस पते की शुरुआत छोटे अक्षरों में लिखी होनी चाहिए:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>इस पते की शुरुआत में &quot;http://&quot; या &quot;https://&quot; होना चाहिए:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>केवल इंटरनेट पते (http, https और ftp) खोले जाते हैं। यह ऐसा पता नहीं है:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>इस पते की शुरुआत में &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; या &quot;www.&quot; होना चाहिए:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>सेटिंग्स कुछ भी कहें, इस बार KIND प्रकार के कनेक्शन पर नज़र रखता है: mobile (मोबाइल ब्रॉडबैंड), any (जिसका भी डिफ़ॉल्ट रूट हो) या manual (आप बटन दबाते हैं)।</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>फ़ोल्डर &quot;%1&quot; में कोई प्लग-इन नहीं है।</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>इस पते के लिए कोई प्रोग्राम शुरू नहीं हो सका:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>पता नहीं खुला</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>कोई डिस्प्ले नहीं है: न DISPLAY सेट है, न WAYLAND_DISPLAY।</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM X माँगता है, लेकिन DISPLAY सेट नहीं है।</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>डिस्प्ले &quot;%1&quot; जवाब नहीं दे रहा है।</translation>
     </message>
 </context>
 <context>
@@ -592,10 +600,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>आपको इसे खोलने की अनुमति नहीं है:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>नहीं खुला</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>ब्राउज़…</translation>
     </message>
     <message>

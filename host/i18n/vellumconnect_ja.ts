@@ -16,12 +16,12 @@
         <translation>このアドレスの先頭は小文字で書く必要があります:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>このアドレスの先頭には「http://」または「https://」が必要です:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>開けるのはインターネットアドレス (http、https、ftp) だけです。これは該当しません:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>このアドレスの先頭には「http://」、「https://」、「ftp://」または「www.」が必要です:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>設定にかかわらず、今回は種類 KIND の接続を監視します: mobile (モバイルブロードバンド)、any (既定の経路を持つものすべて)、manual (ボタンを押す)。</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>フォルダー「%1」にはプラグインがありません。</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>このアドレスを開くプログラムを起動できませんでした:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>アドレスを開けませんでした</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>ディスプレイがありません。DISPLAY も WAYLAND_DISPLAY も設定されていません。</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM は X を求めていますが、DISPLAY が設定されていません。</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>ディスプレイ「%1」が応答しません。</translation>
     </message>
 </context>
 <context>
@@ -587,10 +595,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>これを開く権限がありません:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>開けませんでした</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1005,7 +1009,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>参照…</translation>
     </message>
     <message>

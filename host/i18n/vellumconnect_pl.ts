@@ -16,12 +16,12 @@
         <translation>Początek tego adresu musi być napisany małymi literami:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Ten adres musi się zaczynać od „http://” lub „https://”:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Otwierane są tylko adresy internetowe (http, https i ftp). To nie jest taki adres:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Ten adres musi się zaczynać od „http://”, „https://”, „ftp://” lub „www.”:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>W tym uruchomieniu śledzi połączenia rodzaju KIND, niezależnie od ustawień: mobile (komórkowe szerokopasmowe), any (każde z trasą domyślną) lub manual (naciskasz przycisk).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>W folderze „%1” nie ma wtyczki.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Nie udało się uruchomić programu dla tego adresu:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Nie otwarto adresu</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Nie ma ekranu: nie ustawiono ani DISPLAY, ani WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM żąda X, ale nie ustawiono DISPLAY.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>Ekran „%1” nie odpowiada.</translation>
     </message>
 </context>
 <context>
@@ -597,10 +605,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Brak uprawnień do otwarcia:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Nie otwarto</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1015,7 +1019,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Wskaż…</translation>
     </message>
     <message>

@@ -16,12 +16,12 @@
         <translation>O início deste endereço tem de ser escrito em minúsculas:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Este endereço precisa de &quot;http://&quot; ou &quot;https://&quot; no início:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Só são abertos endereços da Internet (http, https e ftp). Este não é um deles:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Este endereço precisa de &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; ou &quot;www.&quot; no início:</translation>
     </message>
 </context>
 <context>
@@ -109,6 +109,10 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Vigia nesta execução as ligações do tipo KIND, digam o que disserem as definições: mobile (banda larga móvel), any (qualquer uma com rota predefinida) ou manual (por um botão).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>Não há nenhum plug-in na pasta &quot;%1&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
@@ -125,10 +129,6 @@
     <message>
         <source>No program could be started for this address:</source>
         <translation>Não foi possível iniciar um programa para este endereço:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Endereço não aberto</translation>
     </message>
 </context>
 <context>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Não há ecrã: nem DISPLAY nem WAYLAND_DISPLAY está definido.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM pede X, mas DISPLAY não está definido.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>O ecrã &quot;%1&quot; não responde.</translation>
     </message>
 </context>
 <context>
@@ -616,10 +624,6 @@
     <message>
         <source>This is too long to be opened:</source>
         <translation>Isto é demasiado longo para ser aberto:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Não aberto</translation>
     </message>
 </context>
 <context>
@@ -1010,7 +1014,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Procurar…</translation>
     </message>
     <message>

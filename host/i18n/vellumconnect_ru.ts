@@ -16,12 +16,12 @@
         <translation>Начало этого адреса должно быть написано строчными буквами:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>В начале этого адреса должно быть «http://» или «https://»:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Открываются только интернет-адреса (http, https и ftp). Это не такой адрес:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>В начале этого адреса должно быть «http://», «https://», «ftp://» или «www.»:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>В этом запуске следить за подключениями вида KIND, что бы ни говорила настройка: mobile (мобильное широкополосное), any (любое с маршрутом по умолчанию) или manual (вы нажимаете кнопку).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>В папке «%1» нет модулей.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Не удалось запустить программу для этого адреса:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Адрес не открыт</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Нет экрана: не заданы ни DISPLAY, ни WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM требует X, но DISPLAY не задан.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>Экран «%1» не отвечает.</translation>
     </message>
 </context>
 <context>
@@ -597,10 +605,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Недостаточно прав для открытия:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Не открыто</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1015,7 +1019,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Указать…</translation>
     </message>
     <message>

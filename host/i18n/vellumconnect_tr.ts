@@ -16,12 +16,12 @@
         <translation>Bu adresin başı küçük harflerle yazılmalıdır:</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>Bu adresin başında &quot;http://&quot; veya &quot;https://&quot; olmalıdır:</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>Yalnızca internet adresleri (http, https ve ftp) açılır. Bu bir internet adresi değil:</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>Bu adresin başında &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; veya &quot;www.&quot; olmalıdır:</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>Ayarlar ne derse desin bu çalıştırmada KIND türündeki bağlantıları izler: mobile (mobil geniş bant), any (öntanımlı rotası olan her bağlantı) veya manual (bir düğmeye basarsınız).</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>&quot;%1&quot; klasöründe eklenti yok.</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>Bu adres için hiçbir program başlatılamadı:</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>Adres açılamadı</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>Ekran yok: ne DISPLAY ne de WAYLAND_DISPLAY ayarlı.</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM X istiyor, ancak DISPLAY ayarlı değil.</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>&quot;%1&quot; ekranı yanıt vermiyor.</translation>
     </message>
 </context>
 <context>
@@ -587,10 +595,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>Bunu açma izniniz yok:</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>Açılamadı</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1005,7 +1009,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>Gözat…</translation>
     </message>
     <message>

@@ -16,12 +16,12 @@
         <translation>此地址的开头必须用小写字母书写：</translation>
     </message>
     <message>
-        <source>This address needs &quot;http://&quot; or &quot;https://&quot; at its beginning:</source>
-        <translation>此地址的开头需要“http://”或“https://”：</translation>
-    </message>
-    <message>
         <source>Only Internet addresses (http, https and ftp) are opened. This is not one:</source>
         <translation>只能打开互联网地址（http、https 和 ftp）。这不是互联网地址：</translation>
+    </message>
+    <message>
+        <source>This address needs &quot;http://&quot;, &quot;https://&quot;, &quot;ftp://&quot; or &quot;www.&quot; at its beginning:</source>
+        <translation>此地址的开头需要“http://”、“https://”、“ftp://”或“www.”：</translation>
     </message>
 </context>
 <context>
@@ -109,16 +109,16 @@
         <source>Watch connections of type KIND in this run, whatever the settings say: mobile (mobile broadband), any (whatever has a default route) or manual (you press a button).</source>
         <translation>不论设置如何，本次运行监视 KIND 类型的连接：mobile（移动宽带）、any（任何有默认路由的连接）或 manual（由您按按钮）。</translation>
     </message>
+    <message>
+        <source>There is no plug-in in the folder &quot;%1&quot;.</source>
+        <translation>文件夹“%1”中没有插件。</translation>
+    </message>
 </context>
 <context>
     <name>CommonUtils</name>
     <message>
         <source>No program could be started for this address:</source>
         <translation>无法为此地址启动任何程序：</translation>
-    </message>
-    <message>
-        <source>Address not opened</source>
-        <translation>未打开地址</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -324,6 +324,14 @@
     <message>
         <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.</source>
         <translation>没有显示器：DISPLAY 和 WAYLAND_DISPLAY 均未设置。</translation>
+    </message>
+    <message>
+        <source>QT_QPA_PLATFORM asks for X, but DISPLAY is not set.</source>
+        <translation>QT_QPA_PLATFORM 要求使用 X，但未设置 DISPLAY。</translation>
+    </message>
+    <message>
+        <source>The display &quot;%1&quot; does not answer.</source>
+        <translation>显示器“%1”没有响应。</translation>
     </message>
 </context>
 <context>
@@ -587,10 +595,6 @@
     <message>
         <source>You are not allowed to open this:</source>
         <translation>您无权打开此项：</translation>
-    </message>
-    <message>
-        <source>Not opened</source>
-        <translation>未打开</translation>
     </message>
     <message>
         <source>This is no valid address:</source>
@@ -1005,7 +1009,7 @@
     </message>
     <message>
         <source>IDS_LINK_SETTING_NEW_TAB_APP_BROWSER</source>
-        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters. It is low: letters that reach below the line, such as y, lose their tails.</extracomment>
+        <extracomment>Button beside that field: opens the choice of a file. 80 pixels: up to about 10 characters.</extracomment>
         <translation>浏览…</translation>
     </message>
     <message>

@@ -36,7 +36,7 @@ QString AddressProblem::sentence(const QString& address)
     if (isInternet && trimmed.size() != address.size())
         return Sentence::tr("There are blanks before or behind this address:");
     if (isInternet && !beginsAsAnAddress(address, Qt::CaseInsensitive))
-        return Sentence::tr("This address needs \"http://\" or \"https://\" at its beginning:");
+        return Sentence::tr("This address needs \"http://\", \"https://\", \"ftp://\" or \"www.\" at its beginning:");
     if (isInternet && !beginsAsAnAddress(address, Qt::CaseSensitive))
         return Sentence::tr("The beginning of this address must be written in small letters:");
     return Sentence::tr("Only Internet addresses (http, https and ftp) are opened. This is not one:");

@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include "AddressProblem.h"
+#include "FailureList.h"
 #include "InternetAddress.h"
 #include "Notice.h"
 #include "OpenedLink.h"
@@ -34,5 +35,5 @@ void CommonUtils::OpenUrl(QString url)
             : QCoreApplication::translate("CommonUtils", "No program could be started for this address:");
     const Opening opening(url);
     opening.refuse(reason);
-    showNotice(QCoreApplication::translate("CommonUtils", "Address not opened"), reason, address, opening.link());
+    showNotice(FailureList::notOpened(), reason, address, opening.link());
 }

@@ -12,6 +12,8 @@
 #include <QScreen>
 #endif
 
+#include "SpareRoom.h"
+
 namespace
 {
 
@@ -83,6 +85,7 @@ void ExtendDialog::AddMainWidget(QWidget* widget)
         delete former;
     }
     box->addWidget(widget);
+    new SpareRoom(widget);
 }
 
 void ExtendDialog::setWindowTitle(const QString& title)

@@ -37,7 +37,7 @@ void FailureList::add(const QString& title, const QString& reason, const QString
 
 QString FailureList::title() const
 {
-    return m_sharesTitle ? m_title : tr("Not opened");
+    return m_sharesTitle ? m_title : notOpened();
 }
 
 QString FailureList::text() const

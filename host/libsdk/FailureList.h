@@ -25,6 +25,9 @@ public:
      */
     void add(const QString& title, const QString& reason, const QString& subject, const QString& link = QString());
 
+    /** The title of every notice about something that was to be opened and was not. */
+    static QString notOpened() { return tr("Not opened"); }
+
     /** The title that the failures share, else one that fits them all. */
     QString title() const;
 

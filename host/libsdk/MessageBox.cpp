@@ -86,6 +86,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, QString ti
     if (const OpenedLink* const link = refusedLink(text)) {
         const QString reason = AddressProblem::sentence(link->address());
         Opening(link->address()).refuse(reason);
+        title = FailureList::notOpened();
         refused.add(title, reason, link->address(), link->name());
         text = refused.text();
         details = refused.details();

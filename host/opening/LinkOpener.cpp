@@ -11,6 +11,7 @@
 #include "DesktopOpener.h"
 #include "DesktopPrograms.h"
 #include "EntryRun.h"
+#include "FailureList.h"
 #include "LinkPath.h"
 #include "Notice.h"
 #include "ProgramRun.h"
@@ -149,11 +150,11 @@ void LinkOpener::handToDesktop(const QString& target, const Opening& opening)
 void LinkOpener::refuse(const QString& reason, const QString& target, const Opening& opening)
 {
     opening.refuse(reason);
-    showNotice(tr("Not opened"), reason, target, opening.link());
+    showNotice(FailureList::notOpened(), reason, target, opening.link());
 }
 
 void LinkOpener::fail(const QString& reason, const QString& target, const Opening& opening)
 {
     opening.fail(reason);
-    showNotice(tr("Not opened"), reason, target, opening.link());
+    showNotice(FailureList::notOpened(), reason, target, opening.link());
 }

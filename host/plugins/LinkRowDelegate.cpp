@@ -5,17 +5,15 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QGlyphRun>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QRawFont>
-#include <QTextLayout>
 #include <QToolTip>
 
 #include <cmath>
 
 #include "LinkPage.h"
 #include "ShownText.h"
+#include "TextInk.h"
 
 static const int smallest = 6; // pixels; less is no letter any more
 
@@ -24,25 +22,6 @@ static QRect textPart(const QRect& cell, const QWidget* table)
 {
     const int margin = QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1;
     return cell.adjusted(margin, 0, -margin, 0);
-}
-
-/** What a text covers, seen from its baseline. The toolkit's own measure leaves out how marks are moved, as in Hindi.
- */
-static QRectF inkOf(const QString& text, const QFont& font)
-{
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    const QTextLine line = layout.createLine();
-    layout.endLayout();
-    QRectF ink;
-    const QList<QGlyphRun> runs = layout.glyphRuns();
-    for (const QGlyphRun& run : runs) {
-        const QVector<quint32> glyphs = run.glyphIndexes();
-        const QVector<QPointF> places = run.positions();
-        for (int i = 0; i < glyphs.size(); ++i)
-            ink |= run.rawFont().boundingRect(glyphs.at(i)).translated(places.at(i));
-    }
-    return ink.translated(0, -line.ascent());
 }
 
 void LinkRowDelegate::addTo(QWidget* page)
@@ -63,7 +42,7 @@ LinkRowDelegate::Line LinkRowDelegate::fitted(const QString& text, const QFont& 
     Line line{whole, font, 0};
     for (int size = QFontInfo(font).pixelSize();; --size) {
         line.font.setPixelSize(size);
-        const QRectF ink = inkOf(whole, line.font);
+        const QRectF ink = TextInk::of(whole, line.font).rect;
         const int above = int(std::ceil(-ink.top()));
         const int below = int(std::ceil(ink.bottom()));
         if (above + below > room.height() && size > smallest)

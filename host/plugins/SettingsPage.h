@@ -20,6 +20,9 @@ public:
     /** The pages of plugins, in their order: of each that takes part now and has a caption for its page. */
     static QList<SettingsPage> of(const QList<PluginWith<ISettingUIPlugin>>& plugins);
 
+    /** The plug-in's name, the same in every language. */
+    QString name() const { return m_plugin.name; }
+
     /** The name in the dialog's list, in the current language. */
     QString caption() const;
 

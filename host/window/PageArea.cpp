@@ -3,8 +3,10 @@
 
 #include "PageArea.h"
 
+#include <QAbstractItemView>
 #include <QEvent>
 #include <QStyle>
+#include <QTabBar>
 
 PageArea::PageArea()
 {
@@ -31,6 +33,25 @@ void PageArea::setPage(QWidget* page, Room room)
     if (m_page)
         m_page->installEventFilter(this);
     makeRoom();
+}
+
+static bool isWorthTheFocus(const QWidget* control)
+{
+    const QAbstractItemView* const list = qobject_cast<const QAbstractItemView*>(control);
+    // A widget of tabs hands the focus on to its tabs.
+    return (control->focusPolicy() & Qt::TabFocus) && !control->focusProxy() && control->isVisible() &&
+           control->isEnabled() && !qobject_cast<const QTabBar*>(control) &&
+           !(list && list->model() && list->model()->rowCount() == 0);
+}
+
+void PageArea::takeFocus()
+{
+    if (!m_page)
+        return;
+    for (QWidget* next = m_page->nextInFocusChain(); next != m_page; next = next->nextInFocusChain()) {
+        if (m_page->isAncestorOf(next) && isWorthTheFocus(next))
+            return next->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void PageArea::makeRoom()

@@ -26,6 +26,9 @@ public:
     /** Keeps page, a child of pageParent(), in this room, and never smaller than it wants to be; null for none. */
     void setPage(QWidget* page, Room room = Whole);
 
+    /** Lets the keyboard go to the first control of the page that does something; not to tabs or to an empty list. */
+    void takeFocus();
+
     /** As large as shows the whole page. */
     QSize sizeHint() const override;
 

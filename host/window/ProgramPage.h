@@ -11,4 +11,7 @@ class ProgramPage : public QWidget
 public:
     /** The name in the list of pages, in the current language. */
     virtual QString caption() const = 0;
+
+    /** The same in every language, for the program itself. */
+    QString name() const { return QString::fromLatin1(metaObject()->className()); }
 };

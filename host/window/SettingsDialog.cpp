@@ -75,6 +75,19 @@ void SettingsDialog::addPage(ProgramPage* page)
     listPages();
 }
 
+void SettingsDialog::beginWith(const QString& page)
+{
+    m_pageName = page;
+}
+
+/** Of the page at a row of the list; empty for none. */
+QString SettingsDialog::nameOf(int row) const
+{
+    if (row < 0 || row >= m_list->count())
+        return QString();
+    return row < m_pages.size() ? m_pages.at(row).name() : ownPage(row)->name();
+}
+
 void SettingsDialog::listPages()
 {
     const int count = int(m_pages.size() + m_ownPages.size());
@@ -173,10 +186,17 @@ bool SettingsDialog::allAgree(bool (SettingsPage::*question)() const)
 void SettingsDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (m_shown < 0 && m_list->count() > 0)
-        m_list->setCurrentRow(0);
+    const bool isOpening = m_shown < 0 && m_list->count() > 0;
+    if (isOpening) {
+        int first = m_list->count() - 1;
+        while (first > 0 && nameOf(first) != m_pageName)
+            --first;
+        m_list->setCurrentRow(first);
+    }
     if (!m_choice.isEmpty())
         chooseLink(std::exchange(m_choice, QString()));
+    if (isOpening)
+        m_area->takeFocus();
 }
 
 void SettingsDialog::changeEvent(QEvent* event)
@@ -207,6 +227,7 @@ void SettingsDialog::showPage(int index)
     m_shown = index;
     if (m_shown < 0)
         return;
+    m_pageName = nameOf(m_shown);
     QWidget* const page = shown();
     m_area->setPage(page, LinkPage(page).isThere() ? PageArea::Wanted : PageArea::Whole);
     showNote();

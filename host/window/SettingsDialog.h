@@ -27,6 +27,13 @@ public:
     /** Offers page, which becomes the dialog's, below those of the plug-ins and those that were added before. */
     void addPage(ProgramPage* page);
 
+    /** Lets the page of this name be the first to show, which pageName() told; where there is none, the one at the top
+     * is. */
+    void beginWith(const QString& page);
+
+    /** The name of the page that shows, showed last or is to show first; the same in every language. */
+    QString pageName() const { return m_pageName; }
+
     /** The line below the pages that offers to put something right; it stays the dialog's. */
     OfferLine& offerLine() { return *m_offerLine; }
 
@@ -49,7 +56,7 @@ public:
     void reject() override;
 
 protected:
-    /** Shows the first page, now that the dialog has its size. */
+    /** Shows the first page, now that the dialog has its size, and lets the keyboard be there. */
     void showEvent(QShowEvent* event) override;
 
     /** Follows a change of the language. The pages are told by their plug-ins. */
@@ -63,14 +70,16 @@ private:
     QWidget* shown();
     ProgramPage* ownPage(int row) const;
     void growToPage();
+    QString nameOf(int row) const;
     bool isLinkPageShown() const;
     void showNote();
 
     QList<SettingsPage> m_pages;
     QList<ProgramPage*> m_ownPages; ///< below those of the plug-ins
-    QString m_choice;               ///< the link to be chosen when the dialog is shown
-    int m_shown = -1;               ///< index of the page in the area
-    int m_shownLast = -1;           ///< index of the page that was in the area before
+    QString m_pageName;
+    QString m_choice;     ///< the link to be chosen when the dialog is shown
+    int m_shown = -1;     ///< index of the page in the area
+    int m_shownLast = -1; ///< index of the page that was in the area before
     QListWidget* m_list = nullptr;
     PageArea* m_area = nullptr;
     OfferLine* m_offerLine = nullptr;

@@ -37,6 +37,9 @@ class SettingsDialog(_Dialog):
 
     def __init__(self, application):
         super().__init__(application, self.title)
+        # They open on the page of last time.
+        if not self.window.all("table"):
+            self.window.find("list item", "Quick Links").click()
         self.table = self.window.find("table")
 
     def rows(self):

@@ -6,6 +6,7 @@
 import os
 from pathlib import Path
 
+from compositor import Compositor
 from display import save_active_window
 from letters import letters, scale_of
 from network import ModemManager, NetworkManager
@@ -53,6 +54,16 @@ class Pictures(SettingsScenario):
     def test_scaled(self):
         """A display of twice the density."""
         self.take_all("scaled-", QT_SCALE_FACTOR="2")
+
+    def test_wayland(self):
+        compositor = Compositor(self.folder / "weston.log")
+        self.addCleanup(compositor.close)
+        x = {name: os.environ.pop(name) for name in ("DISPLAY", "QT_QPA_PLATFORM")}
+        self.addCleanup(os.environ.update, x)
+        self.launch(**Compositor.environment)
+        # Told when the window has been painted.
+        self.wait_for_log("notification 258 sent")
+        compositor.save_screen_at_rest(FOLDER / "wayland.png")
 
     def test_styles(self):
         for style in ("adwaita", "adwaita-dark", "breeze"):

@@ -146,7 +146,7 @@ class Failures(SettingsScenario):
 
     def test_refusal_stands_on_the_window_and_says_why(self):
         addresses = {"Capitals": ("HTTP://EXAMPLE.ORG", "small letters"), "Blanks": ("  http://x ", "blanks"),
-                     "Bare": ("portal.example.org", "http://")}
+                     "Bare": ("portal.example.org", "\"http://\", \"https://\", \"ftp://\" or \"www.\"")}
         self.start_with(*(link(i, name, INTERNET, address) for i, (name, (address, _)) in enumerate(addresses.items())))
         # The page that the message would belong to.
         self.open_settings().close()
@@ -155,6 +155,7 @@ class Failures(SettingsScenario):
                 self.application.main_window(TITLE)
                 self.pick(name)
                 message = self.message_with(f"{name}: {address.rstrip()}", reason)
+                self.application.window("Not opened")
                 x, y, width, height = message.extents
                 left, top, window_width, window_height = self.window.extents
                 self.assertTrue(left < x + width // 2 < left + window_width, (message.extents, self.window.extents))

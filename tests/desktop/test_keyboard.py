@@ -5,7 +5,7 @@
 
 from display import press, windows_of_class, xdotool
 from links import INTERNET, link
-from scenario import main
+from scenario import TITLE, main
 from settings_dialog import LinkDialog, SettingsDialog
 from settings_scenario import SettingsScenario
 from waiting import wait_for
@@ -41,6 +41,13 @@ class Keyboard(SettingsScenario):
         press("ctrl+2")
         self.expect_opened("Third", "First", "Second")
 
+    def test_menu_by_its_letter(self):
+        self.application.main_window(TITLE)
+        press("alt+q")
+        wait_for(lambda: len(windows_of_class("vellumconnect")) > 1, "the menu")
+        press("Down", "Down", "Return")
+        self.expect_opened("Third")
+
     def test_table_of_the_settings(self):
         settings = self.open_settings()
         settings.select("First")
@@ -60,6 +67,22 @@ class Keyboard(SettingsScenario):
         press("Return")
         self.application.wait_until_gone(question)
         SettingsDialog(self.application).wait_for_links("Second", "Third")
+
+    def test_settings_begin_with_the_links_and_then_where_they_were_left(self):
+        settings = self.open_settings()
+        press("Down", "Return")
+        dialog = LinkDialog(self.application, LinkDialog.edit_title)
+        self.assertEqual(dialog.field("Name:").text, "Second")
+        press("Escape")
+        dialog.wait_until_gone()
+        settings.window.find("list item", "General").click()
+        press("Escape")
+        settings.wait_until_gone()
+        self.application.main_window(TITLE)
+        press("ctrl+comma")
+        page = self.application.window("Settings")
+        box = page.find("check box", "Start with the session")
+        wait_for(lambda: box.has_state("focused"), "the keyboard on the page")
 
     def test_double_click_edits(self):
         settings = self.open_settings()

@@ -78,6 +78,20 @@ class CommandLine(unittest.TestCase):
                 self.assertEqual(answer.stderr, f"vellumconnect: There is no folder \"{missing}\". Try --help.\n")
         self.assertEqual(self.files(), before)
 
+    def test_folder_without_plugins(self):
+        folder = self.home / "no plug-ins"
+        (folder / "Something").mkdir(parents=True)
+        answer = self.run_program("--plugin-dir", str(folder), "--list-links")
+        self.assertEqual((answer.returncode, answer.stdout), (0, "No quick links\n"))
+        self.assertEqual(answer.stderr, f"vellumconnect: There is no plug-in in the folder \"{folder}\".\n")
+
+    def test_folder_with_a_broken_plugin(self):
+        folder = self.home / "no plug-ins"
+        (folder / "Broken").mkdir(parents=True)
+        (folder / "Broken/libBroken.so").write_text("no library", encoding="ascii")
+        answer = self.run_program("--plugin-dir", str(folder), "--list-links")
+        self.assertRegex(answer.stderr, "^Plug-in refused: .*/libBroken.so: [^\n]*\n$")
+
     def test_help(self):
         answer = self.run_program("--help")
         self.assertEqual((answer.returncode, answer.stderr), (0, ""))

@@ -75,7 +75,7 @@ class Menu(Scenario):
     def test_address_without_scheme_is_refused(self):
         self.start_with(link(0, "Bare", INTERNET, "portal.example.org"))
         self.pick("Bare")
-        message = self.application.window("Quick Links")
+        message = self.application.window("Not opened")
         self.assertTrue(any("This address needs" in text for text in message.names("label")))
         self.assertEqual(message.names("push button"), ["OK", "Edit Link…"])
         press("Return")

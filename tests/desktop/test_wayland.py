@@ -8,12 +8,9 @@ from pathlib import Path
 
 from gi.repository import Gio, GLib
 
+from compositor import Compositor
 from links import APPLICATION, link, save
 from scenario import Scenario, main
-from session import Program
-from waiting import wait_for
-
-SOCKET = "wayland-of-the-test"
 
 
 class Wayland(Scenario):
@@ -22,15 +19,12 @@ class Wayland(Scenario):
         super().setUp()
         self.notes = self.make_application("My programs", "note pad")
         save(self.data, link(0, "Notes", APPLICATION, str(self.notes), startmobile=1))
-        compositor = Program(["weston", "--backend=headless-backend.so", "--idle-time=0", f"--socket={SOCKET}"],
-                             self.folder / "weston.log")
-        self.addCleanup(compositor.close)
-        wait_for(lambda: os.path.exists(os.path.join(os.environ["XDG_RUNTIME_DIR"], SOCKET)), "the compositor")
+        self.addCleanup(Compositor(self.folder / "weston.log").close)
         self.x = {name: os.environ.pop(name) for name in ("DISPLAY", "QT_QPA_PLATFORM")}
         self.addCleanup(os.environ.update, self.x)
 
     def test_starts_without_x(self):
-        self.launch(WAYLAND_DISPLAY=SOCKET)
+        self.launch(**Compositor.environment)
         # Told when the window has been painted.
         self.wait_for_log("notification 258 sent")
         # What it starts is not told how this program shows itself.

@@ -21,7 +21,7 @@ void AddressProblemTest::isNamed_data()
     QTest::addColumn<QString>("sentence");
     const QString none = "This link has no address:", blanks = "There are blanks before or behind this address:",
                   capitals = "The beginning of this address must be written in small letters:",
-                  beginning = "This address needs \"http://\" or \"https://\" at its beginning:",
+                  beginning = "This address needs \"http://\", \"https://\", \"ftp://\" or \"www.\" at its beginning:",
                   other = "Only Internet addresses (http, https and ftp) are opened. This is not one:";
     QTest::newRow("empty") << QString() << none;
     QTest::newRow("only blanks") << "  " << none;

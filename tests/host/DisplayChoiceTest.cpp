@@ -21,10 +21,14 @@ private Q_SLOTS:
     void init();
     void chooses_data();
     void chooses();
+    void noticesThatNobodyAnswers_data();
+    void noticesThatNobodyAnswers();
     void programSaysWhatIsMissing_data();
     void programSaysWhatIsMissing();
 
 private:
+    DisplayChoice choice(const Environment& environment, bool isInstalled, DisplayChoice::Connect connectTo) const;
+
     std::unique_ptr<QTemporaryDir> m_plugins; ///< of the toolkit
 };
 
@@ -60,7 +64,11 @@ void DisplayChoiceTest::chooses_data()
     QTest::newRow("nothing") << Environment{} << true << int(DisplayChoice::Missing) << own;
     QTest::newRow("empty names") << Environment{{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}} << true
                                  << int(DisplayChoice::Missing) << own;
-    QTest::newRow("asked for X") << Environment{asked("xcb"), wayland} << false << int(DisplayChoice::None) << own;
+    QTest::newRow("asked for X") << Environment{asked("xcb"), x, wayland} << true << int(DisplayChoice::None) << own;
+    QTest::newRow("asked for X, not there")
+        << Environment{asked("xcb"), wayland} << true << int(DisplayChoice::NoX) << own;
+    QTest::newRow("asked for X, empty name")
+        << Environment{asked("xcb:option"), {"DISPLAY", ""}} << true << int(DisplayChoice::NoX) << own;
     QTest::newRow("asked for none") << Environment{asked("offscreen")} << false << int(DisplayChoice::None) << own;
     QTest::newRow("asked for Wayland") << Environment{asked("wayland")} << true << int(DisplayChoice::None) << own;
     QTest::newRow("asked for Wayland, part missing")
@@ -69,19 +77,76 @@ void DisplayChoiceTest::chooses_data()
         << Environment{asked("wayland;xcb"), x} << false << int(DisplayChoice::None) << own;
 }
 
+using Connection = DisplayChoice::Connection;
+
+static Connection always(DisplayChoice::System)
+{
+    return std::make_shared<int>(0);
+}
+
+static Connection onlyX(DisplayChoice::System system)
+{
+    return system == DisplayChoice::X ? always(system) : nullptr;
+}
+
+static Connection onlyWayland(DisplayChoice::System system)
+{
+    return system == DisplayChoice::Wayland ? always(system) : nullptr;
+}
+
+/** With the toolkit's part for Wayland or without. */
+DisplayChoice DisplayChoiceTest::choice(const Environment& environment, bool isInstalled,
+                                        DisplayChoice::Connect connectTo) const
+{
+    QFile part(m_plugins->filePath("platforms/libqwayland-generic.so"));
+    if (isInstalled && !part.open(QIODevice::WriteOnly))
+        qFatal("no file can be made in %s", qPrintable(m_plugins->path()));
+    QProcessEnvironment given;
+    for (auto entry = environment.cbegin(); entry != environment.cend(); ++entry)
+        given.insert(entry.key(), entry.value());
+    return DisplayChoice::choose(given, {"/not/there", m_plugins->path()}, connectTo);
+}
+
 void DisplayChoiceTest::chooses()
 {
     QFETCH(Environment, environment);
     QFETCH(bool, isInstalled);
-    QFile part(m_plugins->filePath("platforms/libqwayland-generic.so"));
-    if (isInstalled)
-        QVERIFY(part.open(QIODevice::WriteOnly));
-    QProcessEnvironment given;
-    for (auto entry = environment.cbegin(); entry != environment.cend(); ++entry)
-        given.insert(entry.key(), entry.value());
-    const DisplayChoice display = DisplayChoice::choose(given, {"/not/there", m_plugins->path()});
+    const DisplayChoice display = choice(environment, isInstalled, always);
     QTEST(int(display.problem), "problem");
     QTEST(display.platform, "platform");
+}
+
+void DisplayChoiceTest::noticesThatNobodyAnswers_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<bool>("isInstalled");
+    QTest::addColumn<int>("system");
+    QTest::addColumn<QString>("name");
+    const Variable x("DISPLAY", "far:1"), wayland("WAYLAND_DISPLAY", "wayland-5"),
+        session("XDG_SESSION_TYPE", "wayland");
+    const Variable asksX("QT_QPA_PLATFORM", "xcb"), asksWayland("QT_QPA_PLATFORM", "wayland-egl;wayland");
+    const int ofX = DisplayChoice::X, ofWayland = DisplayChoice::Wayland;
+    QTest::newRow("X") << Environment{x} << true << ofX << "far:1";
+    QTest::newRow("asked for X") << Environment{x, wayland, asksX} << true << ofX << "far:1";
+    QTest::newRow("X on Wayland, part missing") << Environment{x, wayland} << false << ofX << "far:1";
+    QTest::newRow("Wayland") << Environment{wayland} << true << ofWayland << "wayland-5";
+    QTest::newRow("Wayland by its usual name") << Environment{session} << true << ofWayland << "wayland-0";
+    QTest::newRow("asked for Wayland") << Environment{x, wayland, asksWayland} << true << ofWayland << "wayland-5";
+}
+
+void DisplayChoiceTest::noticesThatNobodyAnswers()
+{
+    QFETCH(Environment, environment);
+    QFETCH(bool, isInstalled);
+    QFETCH(int, system);
+    QFETCH(QString, name);
+    const bool isX = system == DisplayChoice::X;
+    const DisplayChoice display = choice(environment, isInstalled, isX ? onlyWayland : onlyX);
+    QCOMPARE(int(display.problem), int(DisplayChoice::Dead));
+    QVERIFY2(display.error().contains('"' + name + '"'), qPrintable(display.error()));
+    const DisplayChoice other = choice(environment, isInstalled, isX ? onlyX : onlyWayland);
+    QCOMPARE(int(other.problem), int(DisplayChoice::None));
+    QVERIFY(other.connection);
 }
 
 void DisplayChoiceTest::programSaysWhatIsMissing_data()
@@ -92,10 +157,20 @@ void DisplayChoiceTest::programSaysWhatIsMissing_data()
     QTest::newRow("no display") << "LC_ALL"
                                 << "C.UTF-8"
                                 << "There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.";
+    QTest::newRow("X that does not answer") << "DISPLAY"
+                                            << ":65000"
+                                            << "The display \":65000\" does not answer.";
+    QTest::newRow("asked for X, not there") << "QT_QPA_PLATFORM"
+                                            << "xcb"
+                                            << "QT_QPA_PLATFORM asks for X, but DISPLAY is not set.";
     const QStringList folders = QCoreApplication::libraryPaths();
     for (const QString& folder : folders) {
-        if (!QDir(folder + "/platforms").entryList({"libqwayland*"}).isEmpty())
-            return;
+        if (QDir(folder + "/platforms").entryList({"libqwayland*"}).isEmpty())
+            continue;
+        QTest::newRow("Wayland that does not answer") << "WAYLAND_DISPLAY"
+                                                      << "wayland-of-nobody"
+                                                      << "The display \"wayland-of-nobody\" does not answer.";
+        return;
     }
     const QString package = QT_VERSION < 0x060000 ? "qtwayland5" : "qt6-wayland";
     const QString error = "On Wayland the package " + package + " is needed, which is not installed.";

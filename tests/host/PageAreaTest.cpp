@@ -3,7 +3,11 @@
 
 // The place of a settings page, and how a page stands in it.
 
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "PageArea.h"
@@ -24,6 +28,8 @@ private Q_SLOTS:
     void makesRoomForAPageThatGrows();
     void doesNotKeepAFormerPage();
     void doesWithoutAPageThatIsGone();
+    void letsTheKeyboardBegin_data();
+    void letsTheKeyboardBegin();
 };
 
 namespace
@@ -187,6 +193,43 @@ void PageAreaTest::doesWithoutAPageThatIsGone()
     delete page;
     area->resize(700, 650);
     QTRY_COMPARE(area->pageParent()->size(), QSize(700, 650));
+}
+
+void PageAreaTest::letsTheKeyboardBegin_data()
+{
+    QTest::addColumn<QString>("begin");
+    for (const char* begin : {"list", "field", "button"})
+        QTest::newRow(begin) << begin;
+}
+
+/** In the first control after tabs and those that do nothing. */
+void PageAreaTest::letsTheKeyboardBegin()
+{
+    QFETCH(QString, begin);
+    const auto area = shownArea();
+    QWidget* const page = new QWidget(area->pageParent());
+    QVBoxLayout* const column = new QVBoxLayout(page);
+    column->addWidget(new QTabWidget);
+    QListWidget* const list = new QListWidget;
+    QLineEdit* const field = new QLineEdit;
+    QPushButton* const button = new QPushButton;
+    const QList<QWidget*> controls{list, field, button};
+    const QStringList names{"list", "field", "button"};
+    for (int i = 0; i < controls.size(); ++i) {
+        controls.at(i)->setObjectName(names.at(i));
+        column->addWidget(controls.at(i));
+    }
+    if (begin == "list")
+        list->addItem("row");
+    field->setEnabled(begin != "button");
+    area->setPage(page);
+    page->show();
+    area->takeFocus();
+    QVERIFY(area->focusWidget());
+    QCOMPARE(area->focusWidget()->objectName(), begin);
+    area->setPage(nullptr);
+    area->takeFocus();
+    QCOMPARE(area->focusWidget()->objectName(), begin);
 }
 
 REGISTER_TEST(PageAreaTest)

@@ -3,6 +3,7 @@
 
 // The settings dialog, and what it asks of the plug-ins with a page in it.
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
@@ -35,6 +36,9 @@ private Q_SLOTS:
     void showsTheProgramsOwnPages();
     void growsByALineThatComesIn();
     void showsTheFirstPage();
+    void beginsWithThePageOfLastTime_data();
+    void beginsWithThePageOfLastTime();
+    void letsTheKeyboardBeInThePage();
     void leavesAPageForAnother();
     void growsToThePage();
     void doesNotGrowOverTheScreen();
@@ -215,6 +219,47 @@ void SettingsDialogTest::showsTheFirstPage()
     QCOMPARE(shownPage(), "Mail");
     for (const QLabel* label : m_dialog->findChildren<QLabel*>())
         QVERIFY(!label->isVisible());
+}
+
+void SettingsDialogTest::beginsWithThePageOfLastTime_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("row");
+    QTest::newRow("at the top") << "Mail" << 0;
+    QTest::newRow("of a plug-in") << "Links" << 1;
+    QTest::newRow("the program's own") << "GeneralPage" << 2;
+    QTest::newRow("not there any more") << "Silent" << 0;
+}
+
+void SettingsDialogTest::beginsWithThePageOfLastTime()
+{
+    QFETCH(QString, name);
+    QFETCH(int, row);
+    make(m_mail.get(), m_links.get());
+    m_dialog->addPage(new GeneralPage(false));
+    m_dialog->beginWith(name);
+    m_dialog->show();
+    QCOMPARE(list()->currentRow(), row);
+    QCOMPARE(int(takeEvents().size()), row < 2 ? 1 : 0);
+    QCOMPARE(m_dialog->pageName(), QStringList({"Mail", "Links", "GeneralPage"}).at(row));
+    // It is that of the last time when the dialog has been closed.
+    list()->setCurrentRow(1);
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(m_dialog->pageName(), "Links");
+}
+
+void SettingsDialogTest::letsTheKeyboardBeInThePage()
+{
+    make(m_mail.get());
+    m_dialog->addPage(new GeneralPage(false));
+    m_dialog->beginWith("GeneralPage");
+    m_dialog->show();
+    QVERIFY(qobject_cast<QCheckBox*>(m_dialog->focusWidget()));
+    // Whoever chooses pages by the keyboard goes on with that.
+    list()->setFocus();
+    list()->setCurrentRow(0);
+    list()->setCurrentRow(1);
+    QCOMPARE(m_dialog->focusWidget(), static_cast<QWidget*>(list()));
 }
 
 void SettingsDialogTest::leavesAPageForAnother()

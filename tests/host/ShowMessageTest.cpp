@@ -359,14 +359,16 @@ void ShowMessageTest::saysWhyALinkIsRefused()
     // The page of settings that were open before.
     QWidget page;
     const RefusedLink link;
-    QString text;
+    QString title, text;
     QWidget* parent = nullptr;
     whenMessageShows([&](QMessageBox* box) {
+        title = box->windowTitle();
         text = box->text();
         parent = box->parentWidget();
         box->close();
     });
     QCOMPARE(refuse(&page), int(QMessageBox::Ok));
+    QCOMPARE(title, "Not opened");
     QCOMPARE(text, "The beginning of this address must be written in small letters:\n\nMy Link: HTTP://EXAMPLE.ORG");
     QCOMPARE(parent, static_cast<QWidget*>(&window));
 }

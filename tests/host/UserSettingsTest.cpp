@@ -25,6 +25,7 @@ private Q_SLOTS:
     void knowsAddressesByTheirExactSpelling_data();
     void knowsAddressesByTheirExactSpelling();
     void keepsTheWindowsPlace();
+    void keepsThePageOfTheSettings();
     void keepsTheChoiceOfConnections();
     void brokenChoiceOfConnectionsIsByDefault();
     void removesALockThatWasLeft();
@@ -128,6 +129,19 @@ void UserSettingsTest::keepsTheWindowsPlace()
     UserSettings::setWindowPlace(place);
     QCOMPARE(UserSettings::windowPlace(), place);
     QCOMPARE(UserSettings::language(), QString());
+}
+
+void UserSettingsTest::keepsThePageOfTheSettings()
+{
+    const OwnFolder folder;
+    QCOMPARE(UserSettings::settingsPage(), "QuickLinkUIPlugin");
+    // What counts all the same need not be kept.
+    UserSettings::setSettingsPage("QuickLinkUIPlugin");
+    QVERIFY(!QFileInfo::exists(OwnFolder::file()));
+    UserSettings::setSettingsPage("GeneralPage");
+    QCOMPARE(UserSettings::settingsPage(), "GeneralPage");
+    UserSettings::setSettingsPage("QuickLinkUIPlugin");
+    QCOMPARE(UserSettings::settingsPage(), "QuickLinkUIPlugin");
 }
 
 void UserSettingsTest::keepsTheChoiceOfConnections()

@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QItemDelegate>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -344,6 +345,23 @@ QList<Place> placesOf(const QTableWidget* table)
     return places;
 }
 
+/** Whether a button is lower than it wants to be, or a button or field is not seen whole. */
+QString verdictOnControl(const QWidget* widget)
+{
+    const bool isButton = qobject_cast<const QAbstractButton*>(widget);
+    if (!isButton && !qobject_cast<const QLineEdit*>(widget) && !qobject_cast<const QComboBox*>(widget))
+        return QString();
+    const int lower = isButton ? widget->sizeHint().height() - widget->height() : 0;
+    const QSize hidden = widget->size() - widget->visibleRegion().boundingRect().size();
+    if (lower <= 0 && hidden.isNull())
+        return QString();
+    return QString("%1: %2 pixels too low, %3 by %4 out of sight")
+        .arg(nameOf(widget))
+        .arg(qMax(0, lower))
+        .arg(hidden.width())
+        .arg(hidden.height());
+}
+
 QList<Place> placesIn(const QWidget* widget)
 {
     if (const auto* const label = qobject_cast<const QLabel*>(widget))
@@ -382,6 +400,9 @@ QStringList cutTexts(QWidget* window)
         }
         if (const auto* const table = qobject_cast<const QTableWidget*>(widget))
             lines += verdictsOnRows(table);
+        const QString control = verdictOnControl(widget);
+        if (!control.isEmpty())
+            lines.append(control);
         QLabel* const label = qobject_cast<QLabel*>(widget);
         const QString wrapped = label && label->wordWrap() ? verdictOnWrapped(label) : QString();
         if (!wrapped.isEmpty())

@@ -166,9 +166,6 @@ void WidthsTest::dialogShowsItsTexts()
         windows.chooseType(type);
         QCoreApplication::processEvents();
         const QStringList cut = cutTexts(dialog);
-        // Not with Qt 6.
-        if (type == 1 && !cut.isEmpty())
-            QEXPECT_FAIL("hi, 8 points", "the upper edge of a mark, of a fifth of its ink", Continue);
         QVERIFY2(cut.isEmpty(), qPrintable(QString("type %1\n").arg(type) + cut.join('\n')));
     }
 }
