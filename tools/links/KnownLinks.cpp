@@ -21,12 +21,13 @@ static QString cut(const QString& name)
 /** Browsers write no address without a path. */
 static QString addressOf(const QuickLinkRecord& link)
 {
-    const QString address = LinkExchange::addressOf(link);
+    QString address = LinkExchange::addressOf(link);
     QUrl url(address);
-    if (url.host().isEmpty() || !url.path().isEmpty())
-        return address;
-    url.setPath(QStringLiteral("/"));
-    return QString::fromLatin1(url.toEncoded());
+    if (!url.host().isEmpty() && url.path().isEmpty()) {
+        url.setPath(QStringLiteral("/"));
+        address = QString::fromLatin1(url.toEncoded());
+    }
+    return address;
 }
 
 void KnownLinks::add(const QuickLinkRecord& link)
