@@ -3,6 +3,8 @@
 
 """vellumconnect-links beside the running program: what it changes goes through the program, and both never write at once."""
 
+import fcntl
+import hashlib
 import os
 import re
 import subprocess
@@ -206,6 +208,34 @@ class LinksTool(Scenario):
         self.start_reachable()
         self.ask_for("Add", "News", "internet", "www.example.org")
         self.expect_links("News")
+
+    def test_what_is_done_counts_whatever_the_answer(self):
+        """As with very many links, where the answer comes too late. Another program stands in for the slow one."""
+        save(self.data, PORTAL, LOST)
+        lock = self.enterContext(open(self.data / "lock", "wb"))
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        digest = hashlib.sha256(bytes(self.data.resolve())).hexdigest()[:16]
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        answers = [self.config.write_bytes, lambda content: None]
+
+        def answer(_bus, _caller, _path, _interface, _method, arguments, call):
+            answers.pop(0)(bytes(arguments[1]))
+            call.return_dbus_error("org.freedesktop.DBus.Error.NoReply", "too late")
+
+        node = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{INTERFACE}"><method name="Replace">
+            <arg type="ay" direction="in"/><arg type="ay" direction="in"/><arg type="b" direction="out"/>
+            </method></interface></node>""")
+        self.addCleanup(self.bus.unregister_object,
+                        self.bus.register_object(PATH, node.interfaces[0], answer, None, None))
+        self.addCleanup(Gio.bus_unown_name, Gio.bus_own_name_on_connection(
+            self.bus, f"com.norvik.vellumconnect.folder{digest}", Gio.BusNameOwnerFlags.NONE, None, None))
+        wait_for(lambda: not GLib.MainContext.default().iteration(False) and self.names_on_bus(), "the name")
+        for code, names in ((0, ["Axolotl"]), (1, ["Axolotl"])):
+            with subprocess.Popen([TOOL, "remove", "1", str(self.config)], stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL, env={**os.environ, **self.opened.environment}) as tool:
+                wait_for(lambda: not GLib.MainContext.default().iteration(False) and tool.poll() is not None, "the tool")
+            self.assertEqual(tool.returncode, code)
+            self.assertEqual([item["name"] for item in visible_links(self.data)], names)
 
     def test_first_link(self):
         self.start_reachable()

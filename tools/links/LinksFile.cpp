@@ -228,12 +228,15 @@ QString LinksFile::save()
     const QByteArray content = written(problem);
     if (!problem.isEmpty())
         return problem;
-    if (m_isInProgram && !RunningLinks::replace(m_userFolder, m_content, content))
-        return QStringLiteral("The program that runs with %1 does not take the change: its settings are open, or the "
-                              "links are others meanwhile.")
-            .arg(m_userFolder);
-    if (m_isInProgram)
-        return QString();
+    if (m_isInProgram) {
+        // With very many links the answer may come too late; what counts is the file.
+        const bool isDone =
+            RunningLinks::replace(m_userFolder, m_content, content) || LinkFile::look(m_path).content == content;
+        return isDone ? QString()
+                      : QStringLiteral("The program that runs with %1 does not take the change: its settings are open, "
+                                       "or the links are others meanwhile.")
+                            .arg(m_userFolder);
+    }
     const LinkHistory history(m_userFolder, historyFolder());
     const bool hasHistory = !m_userFolder.isEmpty() && (m_isOwn || history.exists());
     if (hasHistory && !m_content.isEmpty() && !history.keep(m_content))
