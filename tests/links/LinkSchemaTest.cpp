@@ -17,6 +17,7 @@ private Q_SLOTS:
     void explainedIsNotRepeated_data();
     void explainedIsNotRepeated();
     void severalSentencesAreOneFinding();
+    void checkAsksIt();
     void noSchema_data();
     void noSchema();
     void readsNothingElse_data();
@@ -99,6 +100,14 @@ void LinkSchemaTest::severalSentencesAreOneFinding()
     QVERIFY(objections.constFirst().sentence.startsWith("By the schema: "));
     QVERIFY(objections.constFirst().sentence.contains("; "));
     QVERIFY(!objections.constFirst().sentence.contains('\n'));
+}
+
+void LinkSchemaTest::checkAsksIt()
+{
+    QVERIFY(m_tool.write(m_tool.path("links.xml"), goodFile().replace("<Visible>1", "<Visible>1\r")));
+    const LinksTool::Answer answer = m_tool.run({"check", "links.xml"});
+    QCOMPARE(answer.code, 1);
+    QVERIFY2(answer.out.endsWith(" [schema-broken]\n"), qUtf8Printable(answer.out));
 }
 
 void LinkSchemaTest::noSchema_data()

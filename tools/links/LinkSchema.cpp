@@ -107,8 +107,6 @@ LinkSchema::LinkSchema(const QString& file)
     const QByteArray text = source.readAll();
     const Freed<xmlRelaxNGParserCtxt> context(xmlRelaxNGNewMemParserCtxt(text.constData(), int(text.size())),
                                               xmlRelaxNGFreeParserCtxt);
-    xmlRelaxNGSetParserStructuredErrors(
-        context.get(), [](void*, auto*) {}, nullptr);
     Freed<xmlRelaxNG> schema(xmlRelaxNGParse(context.get()), xmlRelaxNGFree);
     if (schema)
         m_rules = std::make_unique<Rules>(Rules{std::move(schema)});
