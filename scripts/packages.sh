@@ -16,8 +16,8 @@
 
 source "$(dirname "$0")/common.sh"
 
-run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n qtwayland5 libglib2.0-dev xdg-utils fonts-dejavu-core
-    xterm x11-apps)
+run=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttranslations5-l10n qtwayland5 libglib2.0-dev libxml2-dev xdg-utils
+    fonts-dejavu-core xterm x11-apps)
 demo=(python3 xvfb openbox xdotool imagemagick)
 benchmark=(libkf5bookmarks-dev libpugixml-dev valgrind strace)
 fuzz=(clang-14 libclang-rt-14-dev)

@@ -8,7 +8,9 @@
 #include <QStringList>
 
 class LinkKeeper;
+struct LinkRewrite;
 class MenuManager;
+class QDBusMessage;
 class RunningProgram;
 
 /**
@@ -37,11 +39,26 @@ public Q_SLOTS:
     /** Lets the file of the links be as in to, for a caller that has seen it as in from; see LinkKeeper::replace(). */
     bool Replace(const QByteArray& from, const QByteArray& to);
 
+    /**
+     * Adds a link behind the others. type is one of the words "internet", "e-mail" and "application". Where it is not
+     * added, the answer to call is one of the errors below com.norvik.vellumconnect.Error: Refused, where the dialog or
+     * a click would object to it, or Busy.
+     */
+    void Add(const QString& name, const QString& type, const QString& url, const QDBusMessage& call);
+
+    /**
+     * Removes a link, as the user may. Where it is not removed, the answer to call is one of these errors: NoSuchLink,
+     * Ambiguous where several have the name, NotAllowed where the link lacks the right, or Busy.
+     */
+    void Remove(const QString& name, const QDBusMessage& call);
+
 Q_SIGNALS:
     /** The links are others now, whoever changed them. */
     void Changed();
 
 private:
+    void change(const LinkRewrite& rewrite, const QDBusMessage& call);
+
     LinkKeeper& m_keeper;
     MenuManager& m_menu;
 };

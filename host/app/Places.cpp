@@ -22,6 +22,11 @@ QString Places::defaultsFolder()
     return fromProgram(QStringLiteral(VELLUM_BIN_TO_DATA "/defaults"));
 }
 
+QString Places::schemaFile()
+{
+    return fromProgram(QStringLiteral(VELLUM_BIN_TO_DATA "/config.rng"));
+}
+
 QStringList Places::operatorFolders()
 {
     QStringList chosen =

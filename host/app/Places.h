@@ -19,6 +19,9 @@ QString pluginFolder();
 /** The operator's defaults: plugins/<Name>/ with files for the user's folder of that name. */
 QString defaultsFolder();
 
+/** The schema of config.xml in RELAX NG. */
+QString schemaFile();
+
 /**
  * Where the operator of the computer has what is for all of its users, the more important folder last:
  * /usr/share/vellumconnect, which is for packages, and /etc/vellumconnect. Others where VELLUMCONNECT_OPERATOR_DIRS

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void init();
     void isHardened_data();
     void isHardened();
+    void programLiesAnywhere_data();
     void programLiesAnywhere();
 };
 
@@ -45,6 +46,7 @@ void HardeningTest::isHardened_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("program") << PROGRAM;
+    QTest::newRow("tool for links") << LINKS_TOOL;
     QTest::newRow("libcore") << LIBCORE;
     QTest::newRow("libsdk") << LIBSDK;
     QTest::newRow("quick links") << QUICK_LINKS;
@@ -60,9 +62,17 @@ void HardeningTest::isHardened()
     QVERIFY2(countLines(structure, {"GNU_STACK", "RW "}) == 1, "a stack that can be executed");
 }
 
+void HardeningTest::programLiesAnywhere_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("program") << PROGRAM;
+    QTest::newRow("tool for links") << LINKS_TOOL;
+}
+
 void HardeningTest::programLiesAnywhere()
 {
-    QVERIFY(countLines(structureOf(PROGRAM), {"FLAGS_1", "PIE"}) == 1);
+    QFETCH(QString, file);
+    QVERIFY(countLines(structureOf(file), {"FLAGS_1", "PIE"}) == 1);
 }
 
 REGISTER_TEST(HardeningTest)

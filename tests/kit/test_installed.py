@@ -5,6 +5,7 @@
 
 import os
 import re
+import subprocess
 import unittest
 from pathlib import Path
 from xml.etree import ElementTree
@@ -28,6 +29,13 @@ class Installed(unittest.TestCase):
             text = path.read_text(encoding="utf-8")
             for folder in (SOURCES, Path(os.environ["VELLUM_BUILD"]), PREFIX):
                 self.assertNotIn(str(folder) + "/", text, path)
+
+    @unittest.skipIf(os.environ["VELLUM_QT"] == "4", "there is no program for Qt 4")
+    def test_tool_finds_the_schema(self):
+        answer = subprocess.run([PREFIX / "bin/vellumconnect-links", "check", SOURCES / "samples/config.xml"],
+                                capture_output=True, text=True, timeout=60, check=False)
+        self.assertEqual(answer.stderr, "")
+        self.assertNotIn("schema", answer.stdout)
 
     @unittest.skipIf(os.environ["VELLUM_QT"] == "4", "there is no program for Qt 4")
     def test_summary_in_every_language(self):

@@ -15,6 +15,7 @@
 #include "CheckTable.h"
 #include "FindingsReport.h"
 #include "LinkFileCheck.h"
+#include "LinkSchema.h"
 #include "Test.h"
 
 class CheckTest : public QObject
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void agreesWithTheSchema();
     void documentedExampleIsGood();
     void damageHasALine();
+    void otherEncodingHasLines_data();
     void otherEncodingHasLines();
     void cannotBeRead_data();
     void cannotBeRead();
@@ -40,6 +42,7 @@ private Q_SLOTS:
 private:
     QString write(const QByteArray& content, const QString& name = "links.xml") const;
 
+    const LinkSchema m_schema{DOCUMENTS "/config.rng"};
     QTemporaryDir m_folder;
 };
 
@@ -82,7 +85,7 @@ void CheckTest::table()
 {
     QFETCH(int, index);
     const CheckedFile file = checkedFiles().at(index);
-    QCOMPARE(shown(LinkFileCheck::of(write(file.content)), file), file.findings);
+    QCOMPARE(shown(LinkFileCheck::of(write(file.content), &m_schema), file), file.findings);
 }
 
 void CheckTest::everyCodeIsInTheTable()
@@ -120,7 +123,7 @@ void CheckTest::agreesWithTheSchema()
     QStringList expected;
     for (const CheckedFile& file : files) {
         const QString path = write(file.content, QString("%1 %2").arg(paths.size()).arg(file.name));
-        const Findings findings = LinkFileCheck::of(path);
+        const Findings findings = LinkFileCheck::of(path, &m_schema);
         if (!isWellFormed(findings))
             continue;
         paths.append(path);
@@ -156,11 +159,25 @@ void CheckTest::damageHasALine()
     QCOMPARE(findings.constFirst().place.line, qint64(16));
 }
 
+void CheckTest::otherEncodingHasLines_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QString text = QString(goodFile()).replace("UTF-8", "UTF-16").replace("Root", "Write");
+    const QByteArray wide(reinterpret_cast<const char*>(text.utf16()), int(text.size()) * 2);
+    const QChar mark = QChar::ByteOrderMark;
+    QTest::newRow("UTF-16") << QByteArray(reinterpret_cast<const char*>(&mark), 2) + wide;
+    QTest::newRow("UTF-16 without a mark") << wide;
+    // What is many signs there would be few in UTF-8, and all places behind them others.
+    QTest::newRow("Latin-1") << goodFile()
+                                    .replace("UTF-8", "ISO-8859-1")
+                                    .replace("Portal", QByteArray("\xc3\xa9").repeated(20))
+                                    .replace("https://a.example/", "http://a/" + QByteArray("\xc3\xa9").repeated(100))
+                                    .replace("Root", "Write");
+}
+
 void CheckTest::otherEncodingHasLines()
 {
-    const QString text =
-        QChar(QChar::ByteOrderMark) + QString(goodFile()).replace("UTF-8", "UTF-16").replace("Root", "Write");
-    const QByteArray content(reinterpret_cast<const char*>(text.utf16()), int(text.size()) * 2);
+    QFETCH(QByteArray, content);
     const Findings findings = LinkFileCheck::of(write(content));
     QCOMPARE(findings.size(), 1);
     QCOMPARE(int(findings.constFirst().code), int(FindingCode::DuplicateName));

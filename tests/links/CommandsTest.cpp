@@ -47,6 +47,8 @@ private Q_SLOTS:
     void makesNoHistoryElsewhere();
     void doesNotReplaceARemovedFile();
     void startsWithPreparedLinks();
+    void tellsWhereAFileEnds();
+    void takesNoEndlessFile();
     void opens_data();
     void opens();
     void opensNothingThatIsAskedAbout();
@@ -71,6 +73,8 @@ void CommandsTest::wrongUsage_data()
                                  {"check", "--colour", "a"},
                                  {"list", "--format", "html"},
                                  {"list", "a", "b"},
+                                 {"list", ""},
+                                 {"remove", "Root", ""},
                                  {"export", "--format", "text"},
                                  {"import"},
                                  {"edit"},
@@ -364,6 +368,27 @@ void CommandsTest::startsWithPreparedLinks()
     QCOMPARE(tool.run({"add", "--name", "A", "--type", "e-mail", "--url", "mailto:"}).code, 0);
     QCOMPARE(LinksTool::fields(tool.ownFile()), (QStringList{"Portal", "Write", "Root", "A"}));
     QCOMPARE(QFile::permissions(tool.userFolder()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+void CommandsTest::tellsWhereAFileEnds()
+{
+    QByteArray others = "{\"links\":[";
+    const QByteArray address = "http://a.example/" + QByteArray(240, 'a');
+    for (int i = 0; i < 45000; ++i)
+        others += "{\"name\":\"" + QByteArray::number(i) + "\",\"type\":\"IDS_LINK_TYPE_INTERNET\",\"url\":\"" +
+                  address + "\"},";
+    QVERIFY(m_tool->write(m_tool->path("others.json"), others + "{}]}"));
+    const LinksTool::Answer answer = m_tool->run({"import", m_tool->path("others.json")});
+    QCOMPARE(answer.code, 1);
+    QVERIFY2(answer.error.contains("16777216 bytes"), qUtf8Printable(answer.error));
+    QCOMPARE(m_tool->read(m_tool->ownFile()), goodFile());
+}
+
+void CommandsTest::takesNoEndlessFile()
+{
+    const LinksTool::Answer answer = m_tool->run({"import", "/dev/zero"});
+    QCOMPARE(answer.code, 1);
+    QVERIFY2(answer.error.contains("larger"), qUtf8Printable(answer.error));
 }
 
 void CommandsTest::opens_data()

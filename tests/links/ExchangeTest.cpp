@@ -25,9 +25,14 @@ private Q_SLOTS:
     void readsABrowsersFile();
     void browsersFileGoesRound_data();
     void browsersFileGoesRound();
+    void readsWhatABrowserWrote();
+    void endsThatAreMissing_data();
+    void endsThatAreMissing();
     void readsFoldersOfXbel();
     void mergesByNameAndAddress();
+    void noPathIsTheRootOfAHost();
     void longNamesStayApart();
+    void manyOfOneNameAreNumbered();
     void leavesOutWhatWouldNotOpen();
     void refusesOtherFiles_data();
     void refusesOtherFiles();
@@ -142,6 +147,72 @@ void ExchangeTest::browsersFileGoesRound()
     QCOMPARE(LinksTool::fields(m_tool->ownFile(), &QuickLinkRecord::url), browsersAddresses);
 }
 
+/** By a browser itself: bookmarks/browser.html is what try_browser.py got from bookmarks/given.html. */
+void ExchangeTest::readsWhatABrowserWrote()
+{
+    const QByteArray content = m_tool->read(BOOKMARKS "/browser.html");
+    for (const char* const part :
+         {"This is an automatically generated file", "<H3 ", "<HR>", "TAGS=\"", "SHORTCUTURL=\"",
+          "ICON=\"data:image/png", "HREF=\"javascript:", "HREF=\"place:", "&amp;", "&#39;"})
+        QVERIFY2(content.contains(part), part);
+    const QStringList said = imported(content);
+    const QStringList names{
+        "Fish & \"Chips\" <1> it's",
+        "With keyword and tags",
+        QString::fromUtf8("Caf\xc3\xa9 \xf0\x9f\x98\x80 \xd0\x9f\xd1\x80\xd0\xb8\xd0\xb2\xd0\xb5\xd1\x82 "
+                          "\xe6\x97\xa5\xe6\x9c\xac \xd9\x85\xd8\xb1\xd8\xad\xd8\xa8\xd8\xa7"),
+        "Somebody",
+        QString::fromUtf8("https://caf\xc3\xa9.example/"),
+        "The root",
+        "Files",
+        "https://d.example/",
+        "A title that is much longer than any name of a qu",
+        "Twin",
+        "Twin (2)"};
+    const QStringList addresses{"https://a.example/find?b=c&d=%22e%22#f",
+                                "https://keyword.example/?q=%s",
+                                "http://b.example/",
+                                "mailto:someone@b.example?subject=a%20b",
+                                "https://xn--caf-dma.example/caf%C3%A9",
+                                "/",
+                                "ftp://files.example/pub/",
+                                "https://d.example/",
+                                "https://c.example/",
+                                "https://twin.example/1",
+                                "https://twin.example/2"};
+    QCOMPARE(LinksTool::fields(m_tool->ownFile()), names);
+    QCOMPARE(LinksTool::fields(m_tool->ownFile(), &QuickLinkRecord::url), addresses);
+    QCOMPARE(said.filter("Left out").size(), 2);
+    QVERIFY(said.filter("Left out \"A script\": ").size() == 1 &&
+            said.filter("Left out \"Most visited\": ").size() == 1);
+    QCOMPARE(int(LinkFileCheck::of(m_tool->ownFile()).size()), 0);
+    QCOMPARE(imported(m_tool->read(BOOKMARKS "/given.html")).filter("0 added, 11 there already, 2 left out").size(), 1);
+}
+
+void ExchangeTest::endsThatAreMissing_data()
+{
+    QTest::addColumn<QByteArray>("links");
+    QTest::addColumn<QStringList>("names");
+    const QByteArray link = "<a href=\"http://a.example/\">A</a>";
+    QTest::newRow("none") << link << QStringList{"A"};
+    QTest::newRow("the last one's") << link + "<a href=\"http://b.example/\">B" << QStringList{"A"};
+    QTest::newRow("one's in the middle") << "<a href=\"http://b.example/\">B" + link
+                                         << QStringList{"B<a href=\"http://a.example/\">A"};
+    // It is looked for once, and not from each of them.
+    QTest::newRow("all but one") << link + QByteArray("<a href=\"http://a.example/\">").repeated(300000)
+                                 << QStringList{"A"};
+    QTest::newRow("none, and a long title")
+        << "<a href=\"http://a.example/\">" + QByteArray("&amp;").repeated(300000) + "</a>"
+        << QStringList{QString(49, '&')};
+}
+
+void ExchangeTest::endsThatAreMissing()
+{
+    QFETCH(QByteArray, links);
+    imported("<!DOCTYPE NETSCAPE-Bookmark-file-1>" + links);
+    QTEST(LinksTool::fields(m_tool->ownFile()), "names");
+}
+
 void ExchangeTest::readsFoldersOfXbel()
 {
     imported("<xbel version=\"1.0\"><title>All</title><folder><title>Folder</title>"
@@ -165,6 +236,28 @@ void ExchangeTest::mergesByNameAndAddress()
              (QStringList{"Portal", "Write", "Root", "Portal (2)", "Other", "Portal (3)"}));
     QCOMPARE(imported(others).filter("0 added, 5 there already, 0 left out").size(), 1);
     QCOMPARE(int(LinkFileCheck::of(m_tool->ownFile()).size()), 0);
+}
+
+/** Browsers write it so. */
+void ExchangeTest::noPathIsTheRootOfAHost()
+{
+    QVERIFY(m_tool->write(m_tool->ownFile(), goodFile().replace("https://a.example/", "www.a.example")));
+    const QByteArray page = "<!DOCTYPE NETSCAPE-Bookmark-file-1><a href=\"http://www.a.example%1\">Portal</a>";
+    QCOMPARE(imported(QByteArray(page).replace("%1", "/")).filter("0 added, 1 there already").size(), 1);
+    QCOMPARE(imported(QByteArray(page).replace("%1", "/b")).filter("1 added, 0 there already").size(), 1);
+}
+
+void ExchangeTest::manyOfOneNameAreNumbered()
+{
+    QByteArray page = "<!DOCTYPE NETSCAPE-Bookmark-file-1>";
+    QStringList names{"A", "A (2)", "A (3)"};
+    for (int i = 0; i < 2000; ++i)
+        page += "<a href=\"http://a.example/" + QByteArray::number(i) + "\">A</a>";
+    imported(page);
+    const QStringList added = LinksTool::fields(m_tool->ownFile());
+    QCOMPARE(added.size(), 2000);
+    QCOMPARE(added.mid(0, 3), names);
+    QCOMPARE(added.constLast(), "A (2000)");
 }
 
 void ExchangeTest::longNamesStayApart()
@@ -197,6 +290,10 @@ void ExchangeTest::refusesOtherFiles_data()
     QTest::newRow("other JSON") << QByteArray("{\"a\":1}");
     QTest::newRow("another page") << QByteArray("<html><a href=\"http://a.example/\">a</a></html>");
     QTest::newRow("other XML") << goodFile();
+    QTest::newRow("XBEL that is more than its bytes") << "<!DOCTYPE xbel [<!ENTITY b \"" + QByteArray(4000, 'b') +
+                                                             "\">]><xbel><bookmark href=\"http://a.example/\"><title>" +
+                                                             QByteArray("&b;").repeated(10) +
+                                                             "</title></bookmark></xbel>";
     QTest::newRow("damaged XBEL") << QByteArray("<xbel><bookmark href=\"http://a.example/\"></xbel>");
 }
 

@@ -5,6 +5,13 @@
 
 #include <algorithm>
 
+void FindingsInFile::add(FindingCode code, const Place& place, const QString& sentence)
+{
+    m_findings.append({m_file, place, code, sentence});
+    if (FindingCodes::of(code).isOfSchema)
+        m_elements.insert(m_element);
+}
+
 Findings FindingsInFile::inOrder() const
 {
     Findings findings = m_findings;
@@ -47,7 +54,8 @@ const QList<FindingCodes::Row>& FindingCodes::all()
         {Code::AddressNeverOpened, "address-never-opened", "The address is itself a script or a page: it never opens.",
          false},
         {Code::RelativePath, "relative-path", "The path does not begin with \"/\": it is not opened.", false},
-        {Code::ProgramMissing, "program-missing", "There is no such program, file or folder on this computer.", false}};
+        {Code::ProgramMissing, "program-missing", "There is no such program, file or folder on this computer.", false},
+        {Code::SchemaBroken, "schema-broken", "The schema does not allow what stands here, for another reason.", true}};
     return rows;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QList>
+#include <QSet>
 #include <QString>
 
 /** What can be wrong with a file of links. The words of FindingCodes never change: scripts and reports go by them. */
@@ -34,7 +35,8 @@ enum class FindingCode {
     AddressLeadsNowhere,
     AddressNeverOpened,
     RelativePath,
-    ProgramMissing
+    ProgramMissing,
+    SchemaBroken
 };
 
 /** A place in a file. Both count from 1; a column is a unit of UTF-16. */
@@ -62,10 +64,13 @@ public:
     {
     }
 
-    void add(FindingCode code, const Place& place, const QString& sentence)
-    {
-        m_findings.append({m_file, place, code, sentence});
-    }
+    /** What is added from now on is about the element with this number, counted from 0 in the order of start tags. */
+    void setElement(int number) { m_element = number; }
+
+    void add(FindingCode code, const Place& place, const QString& sentence);
+
+    /** The numbers of the elements about whose structure something was added. */
+    const QSet<int>& elements() const { return m_elements; }
 
     /** By place; at one place in the order of adding. */
     Findings inOrder() const;
@@ -73,6 +78,8 @@ public:
 private:
     QString m_file;
     Findings m_findings;
+    QSet<int> m_elements;
+    int m_element = 0;
 };
 
 namespace FindingCodes

@@ -4,6 +4,9 @@
 #include "KnownLinks.h"
 
 #include <QRegularExpression>
+#include <QUrl>
+
+#include <algorithm>
 
 #include "DialogLengthLimits.h"
 #include "LinkExchange.h"
@@ -15,10 +18,22 @@ static QString cut(const QString& name)
     return name.left(DialogLengthLimits::longestName - 9);
 }
 
+/** Browsers write no address without a path. */
+static QString addressOf(const QuickLinkRecord& link)
+{
+    QString address = LinkExchange::addressOf(link);
+    QUrl url(address);
+    if (!url.host().isEmpty() && url.path().isEmpty()) {
+        url.setPath(QStringLiteral("/"));
+        address = QString::fromLatin1(url.toEncoded());
+    }
+    return address;
+}
+
 void KnownLinks::add(const QuickLinkRecord& link)
 {
     static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
-    const QString address = LinkExchange::addressOf(link);
+    const QString address = addressOf(link);
     m_names.insert(link.name);
     m_links.insert({link.name, address});
     m_links.insert({QString(link.name).remove(number), address});
@@ -26,14 +41,18 @@ void KnownLinks::add(const QuickLinkRecord& link)
 
 bool KnownLinks::contains(const QuickLinkRecord& link) const
 {
-    const QString address = LinkExchange::addressOf(link);
+    const QString address = addressOf(link);
     return m_links.contains({link.name, address}) || m_links.contains({cut(link.name), address});
 }
 
-QString KnownLinks::freeName(const QString& name) const
+QString KnownLinks::freeName(const QString& name)
 {
-    QString free = name;
-    for (int i = 2; m_names.contains(free); ++i)
-        free = QStringLiteral("%1 (%2)").arg(cut(name)).arg(i);
+    if (!m_names.contains(name))
+        return name;
+    QString free;
+    // A thousand links of one name are numbered in a row, not each from the beginning.
+    int& number = m_numbers[cut(name)];
+    for (number = std::max(number, 2); free.isEmpty() || m_names.contains(free); ++number)
+        free = QStringLiteral("%1 (%2)").arg(cut(name)).arg(number);
     return free;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHash>
 #include <QPair>
 #include <QSet>
 #include <QString>
@@ -20,9 +21,10 @@ public:
     bool contains(const QuickLinkRecord& link) const;
 
     /** The name, with a number behind it where another link has it; no longer than the dialog lets it be. */
-    QString freeName(const QString& name) const;
+    QString freeName(const QString& name);
 
 private:
     QSet<QString> m_names;
     QSet<QPair<QString, QString>> m_links; ///< names and addresses
+    QHash<QString, int> m_numbers;         ///< what freeName() tries next behind what is left of a name
 };

@@ -11,10 +11,12 @@
 #include "LinkEdits.h"
 #include "LinkExchange.h"
 #include "LinkFileCheck.h"
+#include "LinkSchema.h"
 #include "LinkStart.h"
 #include "LinkTexts.h"
 #include "LinkWords.h"
 #include "LinksFile.h"
+#include "Places.h"
 
 namespace
 {
@@ -25,10 +27,14 @@ QString formatOf(const LinkCall& call)
 
 LinkCall::Result check(const LinkCall& call)
 {
+    const LinkSchema schema(Places::schemaFile());
     Findings findings;
     for (const QString& file : call.words)
-        findings += LinkFileCheck::of(file);
+        findings += LinkFileCheck::of(file, &schema);
     LinkCall::print(FindingsReport::of(findings, formatOf(call)));
+    // Half a check is none to rely on.
+    if (!schema.problem().isEmpty())
+        return LinkCall::refuse(schema.problem());
     return findings.isEmpty() ? LinkCall::Done : LinkCall::NotDone;
 }
 
@@ -117,6 +123,9 @@ QString usageProblem(const Command& command, const LinkCall& call)
         return QStringLiteral("\"%1\" needs more words.").arg(QLatin1String(command.name));
     if (call.words.size() > command.most)
         return QStringLiteral("Unexpected argument \"%1\".").arg(call.words.constLast());
+    // As a variable of a shell that is not set: it must not stand for the user's own file.
+    if (call.words.contains(QString()))
+        return QStringLiteral("A word is empty.");
     if (!command.formats.isEmpty() && !command.formats.contains(formatOf(call)))
         return QStringLiteral("No such format: \"%1\".").arg(formatOf(call));
     if (!command.hasFields)

@@ -9,23 +9,22 @@
 #include "LinkCall.h"
 #include "LinkExchange.h"
 #include "LinkJudgement.h"
+#include "LinkObjection.h"
 #include "LinkWords.h"
 #include "LinksFile.h"
 #include "StoreText.h"
 
 namespace
 {
-/** What the dialog or a click would object to; empty for nothing. place is the link's among links, -1 for a new one. */
-QString objectionTo(const QuickLinkRecord& link, const QuickLinkRecordList& links, int place)
+/** Bytes of a file that is taken in. Browsers put the icons of pages into theirs. */
+const qint64 largestSource = qint64(256) * 1024 * 1024;
+
+QStringList namesOf(const QuickLinkRecordList& links)
 {
-    for (int i = 0; i < links.size(); ++i) {
-        if (i != place && links.at(i).name == link.name)
-            return QStringLiteral("There is a link \"%1\" already.").arg(link.name);
-    }
-    if (!LinkJudgement::ofType(link.type).isEmpty())
-        return LinkJudgement::ofType(link.type);
-    const QList<LinkJudgement::Problem> problems = LinkJudgement::of(link);
-    return problems.isEmpty() ? QString() : problems.constFirst().sentence;
+    QStringList names;
+    for (const QuickLinkRecord& link : links)
+        names.append(link.name);
+    return names;
 }
 
 /** Gives the link what the options say. The names of those that are another value now. */
@@ -111,7 +110,10 @@ LinkCall::Result LinkEdits::importLinks(const LinkCall& call)
     QuickLinkRecordList links;
     if (!source.open(QIODevice::ReadOnly))
         return LinkCall::refuse(QStringLiteral("%1 cannot be read: %2.").arg(call.word(0), source.errorString()));
-    if (!LinkExchange::from(source.readAll(), links))
+    const QByteArray content = source.read(largestSource + 1);
+    if (content.size() > largestSource)
+        return LinkCall::refuse(QStringLiteral("%1 is larger than any file of bookmarks.").arg(call.word(0)));
+    if (!LinkExchange::from(content, links))
         return LinkCall::refuse(
             QStringLiteral("%1 is no JSON of links, no bookmarks of a browser and no XBEL.").arg(call.word(0)));
     LinksFile file(call.word(1));
@@ -156,7 +158,7 @@ LinkCall::Result LinkEdits::add(const LinkCall& call)
         return LinkCall::refuse(problem);
     QuickLinkRecord link;
     setFields(link, call.line);
-    problem = objectionTo(link, file.links, -1);
+    problem = LinkObjection::to(link, namesOf(file.links));
     if (!problem.isEmpty())
         return LinkCall::refuse(problem);
     file.append(link);
@@ -175,7 +177,9 @@ LinkCall::Result LinkEdits::edit(const LinkCall& call)
         LinkCall::say(QStringLiteral("Nothing to change in %1.").arg(shown));
         return LinkCall::Done;
     }
-    const QString problem = objectionTo(chosen.link(), chosen.file.links, chosen.index);
+    QStringList others = namesOf(chosen.file.links);
+    others.removeAt(chosen.index);
+    const QString problem = LinkObjection::to(chosen.link(), others);
     if (!problem.isEmpty())
         return LinkCall::refuse(problem);
     return save(chosen.file, {QStringLiteral("Changed %1: %2.").arg(shown, changed.join(QStringLiteral(", ")))});

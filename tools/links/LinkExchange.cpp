@@ -98,7 +98,13 @@ bool fromJson(const QByteArray& content, QuickLinkRecordList& links)
 bool fromXbel(const QByteArray& content, QuickLinkRecordList& links)
 {
     QXmlStreamReader reader(content);
-    if (!reader.readNextStartElement() || reader.name() != QLatin1String("xbel"))
+    while (!reader.isStartElement() && !reader.atEnd()) {
+        reader.readNext();
+        // A few kilobytes of them could stand for gigabytes, and no bookmark needs any.
+        if (!reader.entityDeclarations().isEmpty())
+            return false;
+    }
+    if (reader.name() != QLatin1String("xbel"))
         return false;
     QuickLinkRecordList read;
     QString address;
@@ -153,18 +159,25 @@ QString withoutReferences(const QString& html)
 /** By the tags of the links alone: what is round them is no proper HTML, and differs from browser to browser. */
 bool fromHtml(const QByteArray& content, QuickLinkRecordList& links)
 {
-    static const QRegularExpression link(QStringLiteral("<a((?:\\s+[\\w-]+\\s*=\\s*\"[^\"]*\")*+)\\s*>(.*?)</a>"),
-                                         QRegularExpression::CaseInsensitiveOption |
-                                             QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression startTag(QStringLiteral("<a((?:\\s+[\\w-]+\\s*=\\s*\"[^\"]*\")*+)\\s*>"),
+                                             QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression address(QStringLiteral("\\shref\\s*=\\s*\"([^\"]*)\""),
                                             QRegularExpression::CaseInsensitiveOption);
     if (!content.contains("<!DOCTYPE NETSCAPE-Bookmark-file-1>"))
         return false;
-    QRegularExpressionMatchIterator matches = link.globalMatch(QString::fromUtf8(content));
-    while (matches.hasNext()) {
+    const QString html = QString::fromUtf8(content);
+    QRegularExpressionMatchIterator matches = startTag.globalMatch(html);
+    int end = 0; // of the link before
+    // A pattern for the whole of a link would look for an end that is missing once from each beginning.
+    while (matches.hasNext() && end >= 0) {
         const QRegularExpressionMatch match = matches.next();
-        links.append(ofBookmark(withoutReferences(address.match(match.captured(1)).captured(1)),
-                                withoutReferences(match.captured(2)).simplified()));
+        const int begin = int(match.capturedEnd());
+        if (begin <= end)
+            continue;
+        end = int(html.indexOf(QLatin1String("</a>"), begin, Qt::CaseInsensitive));
+        if (end >= 0)
+            links.append(ofBookmark(withoutReferences(address.match(match.captured(1)).captured(1)),
+                                    withoutReferences(html.mid(begin, end - begin)).simplified()));
     }
     return true;
 }

@@ -194,8 +194,8 @@ void LinksFile::append(QuickLinkRecord link)
     links.append(link);
 }
 
-/** The links as the store writes them; empty where it could not, as on a full disk. */
-QByteArray LinksFile::written()
+/** The links as the store writes them; empty, with the reason in problem, where it could not, as on a full disk. */
+QByteArray LinksFile::written(QString& problem)
 {
     const QTemporaryDir folder;
     storeFolder() = folder.path();
@@ -206,7 +206,15 @@ QByteArray LinksFile::written()
     QuickLinkXmlParse store;
     QuickLinkRecordList readBack;
     parse(file.content, store, readBack);
-    return file.isGood() && isSame(links, readBack) ? file.content : QByteArray();
+    if (file.isGood() && isSame(links, readBack))
+        return file.content;
+    const bool isTooLarge = file.condition == LinkFile::TooLarge;
+    problem =
+        isTooLarge
+            ? QStringLiteral("These are more links than a file holds, which has %1 bytes at most; %2 is as it was.")
+                  .arg(QString::number(LinkFile::largest), m_path)
+            : QStringLiteral("The links cannot be written; %1 is as it was.").arg(m_path);
+    return QByteArray();
 }
 
 QString LinksFile::historyFolder() const
@@ -216,15 +224,19 @@ QString LinksFile::historyFolder() const
 
 QString LinksFile::save()
 {
-    const QByteArray content = written();
-    if (content.isEmpty())
-        return QStringLiteral("The links cannot be written; %1 is as it was.").arg(m_path);
-    if (m_isInProgram && !RunningLinks::replace(m_userFolder, m_content, content))
-        return QStringLiteral("The program that runs with %1 does not take the change: its settings are open, or the "
-                              "links are others meanwhile.")
-            .arg(m_userFolder);
-    if (m_isInProgram)
-        return QString();
+    QString problem;
+    const QByteArray content = written(problem);
+    if (!problem.isEmpty())
+        return problem;
+    if (m_isInProgram) {
+        // With very many links the answer may come too late; what counts is the file.
+        const bool isDone =
+            RunningLinks::replace(m_userFolder, m_content, content) || LinkFile::look(m_path).content == content;
+        return isDone ? QString()
+                      : QStringLiteral("The program that runs with %1 does not take the change: its settings are open, "
+                                       "or the links are others meanwhile.")
+                            .arg(m_userFolder);
+    }
     const LinkHistory history(m_userFolder, historyFolder());
     const bool hasHistory = !m_userFolder.isEmpty() && (m_isOwn || history.exists());
     if (hasHistory && !m_content.isEmpty() && !history.keep(m_content))

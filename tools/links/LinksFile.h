@@ -60,7 +60,7 @@ public:
 private:
     QString load(bool mayBeMissing);
     QString lock();
-    QByteArray written();
+    QByteArray written(QString& problem);
     qlonglong nextId() const;
     void parse(const QByteArray& content, QuickLinkXmlParse& store, QuickLinkRecordList& to) const;
     QString historyFolder() const;

@@ -19,6 +19,12 @@ static int afterBlanks(const QString& text, int place)
     return place;
 }
 
+/** Whether a declared encoding is the usual one. */
+static bool isUtf8(const QString& encoding)
+{
+    return encoding.isEmpty() || encoding.compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0;
+}
+
 PlacedReader::PlacedReader(const QByteArray& content)
     : m_reader(withoutCarriageReturns(content))
 {
@@ -30,8 +36,11 @@ PlacedReader::PlacedReader(const QByteArray& content)
 bool PlacedReader::next()
 {
     m_place = end();
+    m_attributes.clear();
     const int from = std::max(0, int(m_reader.characterOffset()) - 2);
     m_reader.readNext();
+    if (m_reader.isStartDocument() && !isUtf8(m_reader.documentEncoding().toString()))
+        m_text.clear();
     if (m_reader.isStartElement())
         placeTag(from);
     return !m_reader.atEnd();
@@ -62,25 +71,31 @@ Place PlacedReader::end() const
 
 Place PlacedReader::placeOf(const QString& attribute) const
 {
-    if (m_tag < 0)
-        return m_place;
-    const QString tag = m_text.mid(m_tag, int(m_reader.characterOffset()) - m_tag);
-    int place = 0;
-    while (place < tag.size() && !tag.at(place).isSpace())
-        ++place;
-    for (place = afterBlanks(tag, place); place < tag.size(); place = afterBlanks(tag, place)) {
-        const int equals = int(tag.indexOf(QLatin1Char('='), place));
-        const int quote = equals < 0 ? -1 : afterBlanks(tag, equals + 1);
-        const int close = quote < 0 || quote >= tag.size() ? -1 : int(tag.indexOf(tag.at(quote), quote + 1));
+    if (m_attributes.isEmpty() && m_tag >= 0)
+        placeAttributes();
+    return m_attributes.value(attribute, m_place);
+}
+
+/** The reader has found the tag well-formed, so names, equals signs and quotation marks take turns. */
+void PlacedReader::placeAttributes() const
+{
+    const int end = std::min(int(m_reader.characterOffset()), int(m_text.size()));
+    Place place = m_place;
+    int counted = m_tag;
+    int at = m_tag;
+    while (at < end && !m_text.at(at).isSpace())
+        ++at;
+    for (at = afterBlanks(m_text, at); at < end; at = afterBlanks(m_text, at)) {
+        for (; counted < at; ++counted) {
+            const bool isLineEnd = m_text.at(counted) == QLatin1Char('\n');
+            place = isLineEnd ? Place{place.line + 1, 1} : Place{place.line, place.column + 1};
+        }
+        const int equals = int(m_text.indexOf(QLatin1Char('='), at));
+        const int quote = equals < 0 ? -1 : afterBlanks(m_text, equals + 1);
+        const int close = quote < 0 || quote >= end ? -1 : int(m_text.indexOf(m_text.at(quote), quote + 1));
         if (close < 0)
             break;
-        if (tag.mid(place, equals - place).trimmed() == attribute) {
-            const QString before = tag.left(place);
-            const int lineStart = int(before.lastIndexOf(QLatin1Char('\n')));
-            return {m_place.line + before.count(QLatin1Char('\n')),
-                    lineStart < 0 ? m_place.column + place : place - lineStart};
-        }
-        place = close + 1;
+        m_attributes.insert(m_text.mid(at, equals - at).trimmed(), place);
+        at = close + 1;
     }
-    return m_place;
 }

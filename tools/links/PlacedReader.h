@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QXmlStreamReader>
 
@@ -35,12 +36,14 @@ public:
 
 private:
     void placeTag(int from);
+    void placeAttributes() const;
 
     QString m_text; ///< what is read; empty where it is not UTF-8
     QXmlStreamReader m_reader;
     Place m_place;
-    int m_tag = -1;    ///< where the start tag begins in m_text
-    int m_counted = 0; ///< so far are the lines of m_text counted
+    mutable QHash<QString, Place> m_attributes; ///< of the start tag; filled when one is first asked for
+    int m_tag = -1;                             ///< where the start tag begins in m_text
+    int m_counted = 0;                          ///< so far are the lines of m_text counted
     int m_lineStart = 0;
     qint64 m_line = 1;
 };
