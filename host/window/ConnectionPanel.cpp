@@ -65,6 +65,11 @@ void ConnectionPanel::setKind(ConnectionKind kind)
     refresh();
 }
 
+QStringList ConnectionPanel::captions()
+{
+    return {tr("&Disconnect"), tr("Co&nnect")};
+}
+
 void ConnectionPanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -78,7 +83,7 @@ void ConnectionPanel::refresh()
     m_heading->setText(m_texts.state());
     m_hint->setText(m_texts.hint());
     m_hint->setVisible(!m_hint->text().isEmpty());
-    m_button->setText(state.isUp ? tr("&Disconnect") : tr("Co&nnect"));
+    m_button->setText(captions().at(state.isUp ? 0 : 1));
     m_button->setVisible(m_monitor.isManual());
     setRow(m_name, tr("Connection:"), state.name);
     setRow(m_device, tr("Device:"), state.device);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QStringList>
 
 #include "ConnectionTexts.h"
 
@@ -23,6 +24,9 @@ public:
 
     /** Takes the place of that kind. */
     void setKind(ConnectionKind kind);
+
+    /** What its button may say, in the language shown. */
+    static QStringList captions();
 
 protected:
     /** Follows a change of the language. */

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-#include "LinkName.h"
+#include "LinkLetters.h"
 
 namespace
 {
@@ -43,11 +43,18 @@ void LinkButtons::setActions(const QList<QAction*>& actions)
     m_buttons.clear();
     for (QAction* action : actions)
         m_buttons.append(newButton(action, content));
+    label();
     arrange(content);
     // Later: one of the former buttons may be what asked for the change.
     if (QWidget* const former = takeWidget())
         former->deleteLater();
     setWidget(content);
+}
+
+void LinkButtons::setOtherCaptions(const QStringList& captions)
+{
+    m_otherCaptions = captions;
+    label();
 }
 
 void LinkButtons::setFilter(const QString& text)
@@ -64,6 +71,18 @@ void LinkButtons::openFirst()
             button->click();
             return;
         }
+    }
+}
+
+void LinkButtons::label()
+{
+    LinkLetters letters(m_otherCaptions);
+    for (QPushButton* button : qAsConst(m_buttons)) {
+        const QFontMetrics metrics = button->fontMetrics();
+        // With room for an icon, which comes later.
+        const int width =
+            longestName * metrics.horizontalAdvance(QLatin1Char('m')) - button->iconSize().width() - iconGap;
+        button->setText(letters.marked(metrics.elidedText(button->accessibleName(), Qt::ElideRight, width)));
     }
 }
 
@@ -110,11 +129,7 @@ QPushButton* LinkButtons::newButton(QAction* action, QWidget* parent)
     QFont font = button->font();
     font.setPointSizeF(font.pointSizeF() + 1);
     button->setFont(font);
-    const QFontMetrics metrics(font);
-    // With room for an icon, which comes later.
-    const int width = longestName * metrics.horizontalAdvance(QLatin1Char('m')) - button->iconSize().width() - iconGap;
-    button->setText(LinkName::withAmpersands(metrics.elidedText(name, Qt::ElideRight, width)));
-    button->setMinimumHeight(3 * metrics.height());
+    button->setMinimumHeight(3 * QFontMetrics(font).height());
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setAccessibleName(name);
     // The tool tip is markup, which a screen reader would speak.

@@ -23,6 +23,9 @@ public:
     /** Has one button for each action, or a hint where there is none. The actions stay their owner's. */
     void setActions(const QList<QAction*>& actions);
 
+    /** What else the window has that is reached by Alt and a letter; see LinkLetters. */
+    void setOtherCaptions(const QStringList& captions);
+
     /** Shows only the buttons whose names have each word of text in them; all for an empty one. */
     void setFilter(const QString& text);
 
@@ -35,9 +38,11 @@ protected:
 
 private:
     QPushButton* newButton(QAction* action, QWidget* parent);
+    void label();
     void arrange(QWidget* content);
 
-    QStringList m_words; ///< of the filter
+    QStringList m_words;         ///< of the filter
+    QStringList m_otherCaptions; ///< of the window
     QList<QPushButton*> m_buttons;
     QLabel* m_hint = nullptr; ///< stands where no button shows
 };

@@ -11,8 +11,10 @@
 #include <QMessageBox>
 #include <QStatusBar>
 
+#include "ConnectionPanel.h"
 #include "LinkButtons.h"
 #include "MainWindow.h"
+#include "OfferLine.h"
 
 void MainWindow::buildMenus(QMenu* languageMenu)
 {
@@ -104,6 +106,11 @@ void MainWindow::setTexts()
     m_about->setText(tr("&About Vellum Connect"));
     m_linkHeading->setText(tr("Quick Links"));
     m_linkButtons->setAccessibleName(tr("Quick Links"));
+    QStringList captions = ConnectionPanel::captions() + OfferLine::captions();
+    const QList<QAction*> menus = menuBar()->actions();
+    for (const QAction* menu : menus)
+        captions.append(menu->text());
+    m_linkButtons->setOtherCaptions(captions);
     // In each language all menus are in sight.
     setMinimumWidth(menuBar()->sizeHint().width());
 }

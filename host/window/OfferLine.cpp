@@ -31,6 +31,11 @@ OfferLine::OfferLine()
     hide();
 }
 
+QStringList OfferLine::captions()
+{
+    return {tr("&Put Back"), tr("Leave &As It Is")};
+}
+
 void OfferLine::offer(const QString& text)
 {
     m_text->setText(text);
@@ -48,6 +53,7 @@ void OfferLine::changeEvent(QEvent* event)
 
 void OfferLine::setTexts()
 {
-    m_putBack->setText(tr("&Put Back"));
-    m_dismiss->setText(tr("Leave &As It Is"));
+    const QStringList texts = captions();
+    m_putBack->setText(texts.at(0));
+    m_dismiss->setText(texts.at(1));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QStringList>
 
 class QLabel;
 class QPushButton;
@@ -15,6 +16,9 @@ class OfferLine : public QFrame
 
 public:
     OfferLine();
+
+    /** What its buttons say, in the language shown. */
+    static QStringList captions();
 
     /** Says text, which is plain; empty hides the line. */
     void offer(const QString& text);

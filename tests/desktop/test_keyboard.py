@@ -41,6 +41,13 @@ class Keyboard(SettingsScenario):
         press("ctrl+2")
         self.expect_opened("Third", "First", "Second")
 
+    def test_alt_and_a_letter_open_a_link(self):
+        press("alt+s")
+        self.expect_opened("Second")
+        # The menus have the first two letters of the third.
+        press("alt+i")
+        self.expect_opened("Second", "Third")
+
     def test_menu_by_its_letter(self):
         self.application.main_window(TITLE)
         press("alt+q")

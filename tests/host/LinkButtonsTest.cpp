@@ -17,6 +17,7 @@ class LinkButtonsTest : public QObject
 
 private Q_SLOTS:
     void showsTheNameAsItStands();
+    void leavesLettersToTheWindow();
     void returnPressesAButton();
     void keepsThePressedButtonUntilLater();
     void followsTheIcon();
@@ -30,6 +31,15 @@ static QIcon redIcon()
     return QIcon(picture);
 }
 
+static QStringList textsOf(const LinkButtons& buttons)
+{
+    QStringList texts;
+    const QList<QPushButton*> all = buttons.findChildren<QPushButton*>();
+    for (const QPushButton* button : all)
+        texts.append(button->text());
+    return texts;
+}
+
 void LinkButtonsTest::showsTheNameAsItStands()
 {
     QAction action;
@@ -39,8 +49,20 @@ void LinkButtonsTest::showsTheNameAsItStands()
     const QPushButton* const button = buttons.findChild<QPushButton*>();
     QVERIFY(button);
     // One ampersand alone would underline the letter behind it.
-    QCOMPARE(button->text(), "R&&D");
+    QCOMPARE(button->text(), "&R&&D");
     QCOMPARE(button->accessibleName(), "R&D");
+}
+
+void LinkButtonsTest::leavesLettersToTheWindow()
+{
+    QAction first, second;
+    first.setData("Edit");
+    second.setData("Dial");
+    LinkButtons buttons;
+    buttons.setActions({&first, &second});
+    QCOMPARE(textsOf(buttons), QStringList({"&Edit", "&Dial"}));
+    buttons.setOtherCaptions({"&Edit"});
+    QCOMPARE(textsOf(buttons), QStringList({"E&dit", "D&ial"}));
 }
 
 void LinkButtonsTest::returnPressesAButton()

@@ -90,6 +90,14 @@ void MnemonicsTest::inMainWindow()
     monitor.start(nullptr);
     MainWindow window(new ConnectionPanel(monitor, ConnectionKind::Manual),
                       new LanguageMenu(catalogueLanguages(), QString()));
+    // Names with any letter that a menu may have, so that a link would take it.
+    QAction latin, cyrillic;
+    latin.setData("abcdefghijklmnopqrstuvwxyz");
+    cyrillic.setData(
+        QString::fromUtf8("\u0430\u0431\u0432\u0433\u0434\u0435\u0436\u0437\u0438\u043a\u043b\u043c\u043d\u043e\u043f"
+                          "\u0440\u0441\u0442\u0443\u0444\u0445\u0446\u0447\u0448\u0449\u044d\u044e\u044f"));
+    window.setLinks(
+        {&latin, &latin, &latin, &latin, &latin, &latin, &cyrillic, &cyrillic, &cyrillic, &cyrillic, &cyrillic});
     window.show();
     for (const bool isUp : {false, true}) {
         monitor.setManuallyUp(isUp);
