@@ -31,13 +31,18 @@ LinkGuard::LinkGuard(const QString& userFolder)
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_quiet, QOverload<>::of(&QTimer::start));
 }
 
+LinkFile LinkGuard::look() const
+{
+    return LinkFile::look(m_file, m_current.isEmpty() ? m_found : m_current);
+}
+
 void LinkGuard::watch()
 {
     keepLock();
     // That there is a history tells the next start that it is not the first.
     if (!m_isFirstStartRepeated)
         m_history.prepare();
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     if (file.isGood())
         take(file.content);
     m_stamp = FileStamp::of(m_file);
@@ -61,7 +66,7 @@ void LinkGuard::beforeUse(Use use)
     const FileStamp stamp = FileStamp::of(m_file);
     if (stamp != m_stamp) {
         // The plug-in does not know of this change, and what it writes will not have it.
-        const LinkFile file = LinkFile::look(m_file);
+        const LinkFile file = look();
         if (file.isGood() && file.content != m_current) {
             m_theirs = file.content;
             m_history.keep(file.content);
@@ -87,7 +92,7 @@ void LinkGuard::settle()
     const bool isUntouched = FileStamp::of(m_file) == m_stamp;
     if (isUntouched && !isOwn)
         return;
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     // Nobody had links, and nobody has.
     const bool isNothing = file.condition == LinkFile::Missing && m_current.isEmpty() && !isSaved;
     if (isNothing)
@@ -125,7 +130,7 @@ void LinkGuard::tellChange(const QByteArray& content, const QByteArray& theirs, 
 bool LinkGuard::finish()
 {
     settle();
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     return file.isGood() || m_current.isEmpty() || repair(file.condition, false).kind == Event::PutBack;
 }
 
