@@ -43,7 +43,7 @@ void LinkGuard::watch()
     if (!m_isFirstStartRepeated)
         m_history.prepare();
     const LinkFile file = look();
-    if (file.isGood())
+    if (file.isGood() && file.content != m_current)
         take(file.content);
     m_stamp = FileStamp::of(m_file);
     keepWatching();
@@ -150,6 +150,12 @@ void LinkGuard::take(const QByteArray& content)
     m_stamp = FileStamp::of(m_file);
     // Whoever wrote it did not wait, and at the next start a file of before would look as good as this one.
     DurableFile::syncFile(m_file);
+    keep(content);
+}
+
+/** The file holds content, and that is on the disk. */
+void LinkGuard::keep(const QByteArray& content)
+{
     const QByteArray before = std::exchange(m_current, content);
     if (!m_history.keep(content))
         qCWarning(guardLog, "the links cannot be kept in %s", qUtf8Printable(m_userFolder));
@@ -163,7 +169,8 @@ bool LinkGuard::goBackTo(const QByteArray& content)
         settle();
     if (content != m_current && !putBack(content))
         return false;
-    take(content);
+    m_stamp = FileStamp::of(m_file);
+    keep(content);
     return true;
 }
 

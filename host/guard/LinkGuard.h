@@ -133,6 +133,7 @@ private:
     void tellChange(const QByteArray& content, const QByteArray& theirs, bool isOwn);
     void keepWatching();
     void take(const QByteArray& content);
+    void keep(const QByteArray& content);
     Event withoutFile(bool wasInterrupted);
     Event withoutHistory(const LinkFile& file);
     Event repair(LinkFile::Condition condition, bool isSetAside);
