@@ -98,7 +98,12 @@ none() {
 }
 
 check_scripts() {
-    shellcheck -x -P scripts scripts/*.sh .ci/run debian/tests/operators-links debian/tests/build-examples
+    shellcheck -x -P scripts scripts/*.sh .ci/run debian/tests/operators-links debian/tests/build-examples \
+        examples/fleet/roles/vellumconnect/files/layers-that-count
+}
+
+check_role() {
+    (cd examples/fleet && yamllint --strict . && ansible-lint --offline --strict --nocolor -q playbook.yml roles)
 }
 
 # A path of one machine works on no other. "someone" is the made-up user of the tests. No name needs quoting in a shell.
@@ -113,7 +118,7 @@ check_paths() {
 
 status=0
 logged build/lint-prepare.log prepare || fail "configuring for the lint tools failed, see above"
-for check in format sources tidy clazy licences scripts paths; do
+for check in format sources tidy clazy licences scripts role paths; do
     if logged "build/lint-$check.log" "check_$check"; then
         say "lint: $check: ok"
     else

@@ -3,13 +3,14 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the Debian 12 packages that a purpose needs and that are missing; says nothing when none is.
-# Usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|test|qt4
+# Usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|fleet|test|qt4
 #   run        build with Qt 5 and start the program
 #   demo       and show it on a virtual display
 #   benchmark  and measure it
 #   fuzz       build with clang for scripts/fuzz.sh
 #   package    make the Debian packages and look at them with scripts/package.sh
 #   try        and try them with scripts/try-packages.sh
+#   fleet      and try the example of a fleet with scripts/try-fleet.sh
 #   test       and build with Qt 6, run every test, and check format, lint and licences
 #   qt4        what a given toolkit of Qt 4.8 needs, 64-bit and 32-bit
 # Where each package is for: docs/dependencies.md
@@ -27,7 +28,7 @@ test=(qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-noto
     iproute2 libcurl3-gnutls libgudev-1.0-0 libjansson4 libmbim-glib4 libmm-glib0 libndp0 libnm0 libpolkit-gobject-1-0 libpsl5
     libqmi-glib5 libqrtr-glib0 libreadline8
     libxml2-utils groff-base
-    clang-format-14 clang-tidy-14 clazy reuse shellcheck abigail-tools)
+    clang-format-14 clang-tidy-14 clazy reuse shellcheck ansible-lint yamllint abigail-tools)
 qt4=(xvfb xauth libx11-dev libxext-dev libxrender-dev libfontconfig1-dev libfreetype6-dev libsm-dev libice-dev libxrandr-dev
     libxi-dev libxcursor-dev libdbus-1-dev zlib1g-dev g++-multilib xz-utils)
 
@@ -41,9 +42,10 @@ benchmark) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}") ;;
 fuzz) wanted=("${run[@]}" "${fuzz[@]}") ;;
 package) wanted=("${run[@]}" "${package[@]}") ;;
 try) wanted=("${run[@]}" "${package[@]}" debootstrap) ;;
+fleet) wanted=("${run[@]}" "${package[@]}" debootstrap ansible config-package-dev) ;;
 test) wanted=("${run[@]}" "${demo[@]}" "${benchmark[@]}" "${fuzz[@]}" "${package[@]}" "${test[@]}") ;;
 qt4) wanted=("${qt4[@]}") ;;
-*) fail "usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|test|qt4" ;;
+*) fail "usage: scripts/packages.sh run|demo|benchmark|fuzz|package|try|fleet|test|qt4" ;;
 esac
 
 is_installed() {

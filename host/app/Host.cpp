@@ -131,7 +131,7 @@ bool Host::endLinks()
 
 void Host::takeOverLinks()
 {
-    const QByteArray content = LinkFile::look(m_linkKeeper.guard().file()).content;
+    const QByteArray content = m_linkKeeper.guard().look().content;
     m_linkOpener.takeOver(LinkSchemes::of(content));
     m_links = LinkAddresses(content);
 }

@@ -27,7 +27,7 @@ void LinkKeeper::seed()
         m_layers.forget();
     if (m_layers.isIdle())
         return;
-    const QByteArray links = linksOf(LinkFile::look(m_guard.file()));
+    const QByteArray links = linksOf(m_guard.look());
     if (!links.isEmpty())
         m_layers.seed(links, [this](const QByteArray& content) { return m_guard.startWith(content); });
 }
@@ -48,7 +48,7 @@ void LinkKeeper::followLayers()
     m_layersRetry.stop();
     if (m_isUnprepared)
         return;
-    const LinkFile file = LinkFile::look(m_guard.file());
+    const LinkFile file = m_guard.look();
     const bool isTaken = file.isGood() ? file.content == m_guard.current() : m_guard.current().isEmpty();
     if (isPluginBusy() || m_settings || !isTaken) {
         m_layersRetry.start();

@@ -11,7 +11,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "LinkItems.h"
 #include "LinkWalk.h"
 
 namespace
@@ -33,7 +32,7 @@ bool readAll(int descriptor, QByteArray& content)
     return file.error() == QFileDevice::NoError;
 }
 
-LinkFile lookInto(int descriptor)
+LinkFile readWhole(int descriptor)
 {
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
@@ -43,11 +42,13 @@ LinkFile lookInto(int descriptor)
         return inCondition(LinkFile::Unreadable);
     if (status.st_size > LinkFile::largest || content.size() > LinkFile::largest)
         return inCondition(LinkFile::TooLarge);
-    return LinkFile::ofContent(content);
+    LinkFile file = inCondition(LinkFile::Good);
+    file.content = content;
+    return file;
 }
 } // namespace
 
-LinkFile LinkFile::look(const QString& path)
+LinkFile LinkFile::read(const QString& path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
@@ -62,17 +63,26 @@ LinkFile LinkFile::look(const QString& path)
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
         return inCondition(errno == ENOENT ? Missing : Unreadable);
-    LinkFile file = lookInto(descriptor);
+    LinkFile file = readWhole(descriptor);
     ::close(descriptor);
     return file;
 }
 
-LinkFile LinkFile::ofContent(const QByteArray& content)
+LinkFile LinkFile::look(const QString& path, const QByteArray& known)
+{
+    const LinkFile file = read(path);
+    const bool isKnown = !known.isEmpty() && file.content == known;
+    return file.isGood() && !isKnown ? ofContent(file.content) : file;
+}
+
+LinkFile LinkFile::ofContent(const QByteArray& content, QList<LinkItems::Fields>* links)
 {
     LinkFile file;
     file.content = content;
     LinkWalk walk(content, LinkWalk::AsThePlugin);
     while (walk.next()) {
+        if (links && walk.isAtLink())
+            links->append(walk.link());
     }
     if (walk.isTooLarge())
         return inCondition(TooLarge);

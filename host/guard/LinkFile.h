@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "LinkItems.h"
+
 /** What a look at the file with the links found. The look changes nothing and never waits for anybody. */
 struct LinkFile {
     enum Condition {
@@ -27,11 +29,20 @@ struct LinkFile {
 
     bool isGood() const { return condition == Good; }
 
-    /** Looks at the file path. */
-    static LinkFile look(const QString& path);
+    /** What the file path holds, not looked into: Good where that could be read. */
+    static LinkFile read(const QString& path);
 
-    /** Looks at what such a file would hold. */
-    static LinkFile ofContent(const QByteArray& content);
+    /**
+     * Looks at the file path. What is the same as known, which was found to be good or is empty, is not looked into
+     * again.
+     */
+    static LinkFile look(const QString& path, const QByteArray& known = QByteArray());
+
+    /**
+     * Looks at what such a file would hold. Adds to links, where given, those that it shows; of damaged content those
+     * before the damage.
+     */
+    static LinkFile ofContent(const QByteArray& content, QList<LinkItems::Fields>* links = nullptr);
 
     /** A good file without links. */
     static QByteArray withoutLinks();

@@ -31,14 +31,19 @@ LinkGuard::LinkGuard(const QString& userFolder)
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_quiet, QOverload<>::of(&QTimer::start));
 }
 
+LinkFile LinkGuard::look() const
+{
+    return LinkFile::look(m_file, m_current.isEmpty() ? m_found : m_current);
+}
+
 void LinkGuard::watch()
 {
     keepLock();
     // That there is a history tells the next start that it is not the first.
     if (!m_isFirstStartRepeated)
         m_history.prepare();
-    const LinkFile file = LinkFile::look(m_file);
-    if (file.isGood())
+    const LinkFile file = look();
+    if (file.isGood() && file.content != m_current)
         take(file.content);
     m_stamp = FileStamp::of(m_file);
     keepWatching();
@@ -61,7 +66,7 @@ void LinkGuard::beforeUse(Use use)
     const FileStamp stamp = FileStamp::of(m_file);
     if (stamp != m_stamp) {
         // The plug-in does not know of this change, and what it writes will not have it.
-        const LinkFile file = LinkFile::look(m_file);
+        const LinkFile file = look();
         if (file.isGood() && file.content != m_current) {
             m_theirs = file.content;
             m_history.keep(file.content);
@@ -87,7 +92,7 @@ void LinkGuard::settle()
     const bool isUntouched = FileStamp::of(m_file) == m_stamp;
     if (isUntouched && !isOwn)
         return;
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     // Nobody had links, and nobody has.
     const bool isNothing = file.condition == LinkFile::Missing && m_current.isEmpty() && !isSaved;
     if (isNothing)
@@ -125,7 +130,7 @@ void LinkGuard::tellChange(const QByteArray& content, const QByteArray& theirs, 
 bool LinkGuard::finish()
 {
     settle();
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     return file.isGood() || m_current.isEmpty() || repair(file.condition, false).kind == Event::PutBack;
 }
 
@@ -145,6 +150,12 @@ void LinkGuard::take(const QByteArray& content)
     m_stamp = FileStamp::of(m_file);
     // Whoever wrote it did not wait, and at the next start a file of before would look as good as this one.
     DurableFile::syncFile(m_file);
+    keep(content);
+}
+
+/** The file holds content, and that is on the disk. */
+void LinkGuard::keep(const QByteArray& content)
+{
     const QByteArray before = std::exchange(m_current, content);
     if (!m_history.keep(content))
         qCWarning(guardLog, "the links cannot be kept in %s", qUtf8Printable(m_userFolder));
@@ -158,7 +169,8 @@ bool LinkGuard::goBackTo(const QByteArray& content)
         settle();
     if (content != m_current && !putBack(content))
         return false;
-    take(content);
+    m_stamp = FileStamp::of(m_file);
+    keep(content);
     return true;
 }
 

@@ -54,6 +54,9 @@ public:
     /** The newest good state that the file was seen in; empty where there was none. */
     const QByteArray& current() const { return m_current; }
 
+    /** The file as it is now. */
+    LinkFile look() const;
+
     /** The states that the links were in. */
     const LinkHistory& history() const { return m_history; }
 
@@ -130,6 +133,7 @@ private:
     void tellChange(const QByteArray& content, const QByteArray& theirs, bool isOwn);
     void keepWatching();
     void take(const QByteArray& content);
+    void keep(const QByteArray& content);
     Event withoutFile(bool wasInterrupted);
     Event withoutHistory(const LinkFile& file);
     Event repair(LinkFile::Condition condition, bool isSetAside);
@@ -143,6 +147,7 @@ private:
     QString m_file;
     LinkHistory m_history;
     QByteArray m_current; ///< the newest good state; empty for none
+    QByteArray m_found;   ///< what start() found, if that is good
     QByteArray m_gone;    ///< what bringBack() puts in place
     QByteArray m_theirs;  ///< what the plug-in is writing over without knowing it
     FileStamp m_stamp;    ///< of the file when it was looked at last

@@ -14,9 +14,11 @@
 
 LinkGuard::Event LinkGuard::start(bool wasInterrupted)
 {
-    const LinkFile file = LinkFile::look(m_file);
-    if (file.isGood())
+    const LinkFile file = look();
+    if (file.isGood()) {
+        m_found = file.content;
         return Event();
+    }
     if (file.condition == LinkFile::Missing)
         return withoutFile(wasInterrupted);
     return m_history.newestGood().isNull() ? withoutHistory(file) : repair(file.condition, true);
@@ -25,7 +27,7 @@ LinkGuard::Event LinkGuard::start(bool wasInterrupted)
 bool LinkGuard::startWith(const QByteArray& content)
 {
     // Another program may have written it since the last run, so that nobody has kept it yet.
-    const LinkFile file = LinkFile::look(m_file);
+    const LinkFile file = look();
     return (!file.isGood() || m_history.keep(file.content)) && goBackTo(content);
 }
 

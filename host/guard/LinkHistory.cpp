@@ -58,7 +58,8 @@ bool LinkHistory::keep(const QByteArray& content) const
         return false;
     const QList<State> kept = states();
     const QString identity = identityOf(content);
-    if (!kept.isEmpty() && kept.constFirst().identity == identity && contentOf(kept.constFirst()) == content)
+    if (!kept.isEmpty() && kept.constFirst().identity == identity &&
+        LinkFile::read(kept.constFirst().file).content == content)
         return true;
     // The newest stays the newest, also when the clock was put back.
     QDateTime time = QDateTime::currentDateTimeUtc();

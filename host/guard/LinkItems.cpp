@@ -6,24 +6,13 @@
 #include "LinkRewrite.h"
 #include "LinkWalk.h"
 
-namespace
-{
-LinkItems::Fields fieldsOf(const QXmlStreamAttributes& attributes)
-{
-    LinkItems::Fields fields;
-    for (const QXmlStreamAttribute& attribute : attributes)
-        fields.insert(attribute.qualifiedName().toString(), attribute.value().toString());
-    return fields;
-}
-} // namespace
-
 QList<LinkItems::Fields> LinkItems::of(const QByteArray& content)
 {
     QList<Fields> items;
     LinkWalk walk(content, LinkWalk::AsThePlugin);
     while (walk.next()) {
         if (walk.isAtLink())
-            items.append(fieldsOf(walk.reader().attributes()));
+            items.append(walk.link());
     }
     return items;
 }

@@ -37,3 +37,12 @@ bool LinkWalk::isAtLink() const
     return m_isInMenu && m_reader.isStartElement() && m_reader.name() == QLatin1String("item") &&
            m_reader.attributes().value(QLatin1String("visible")) == QLatin1String("1");
 }
+
+LinkItems::Fields LinkWalk::link() const
+{
+    LinkItems::Fields fields;
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    for (const QXmlStreamAttribute& attribute : attributes)
+        fields.insert(attribute.qualifiedName().toString(), attribute.value().toString());
+    return fields;
+}

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QXmlStreamReader>
 
+#include "LinkItems.h"
+
 /** Goes through what a file of links holds, and knows which of its elements are links that are shown. */
 class LinkWalk
 {
@@ -26,6 +28,9 @@ public:
 
     /** Whether the walk is at the start of a link that is shown. */
     bool isAtLink() const;
+
+    /** What the link there says of itself. */
+    LinkItems::Fields link() const;
 
     /** Whether the content is too large with what its entities stand for; the walk ended there. */
     bool isTooLarge() const { return m_isTooLarge; }

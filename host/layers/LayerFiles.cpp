@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include <unistd.h>
 
@@ -64,14 +65,16 @@ LayerFiles LayerFiles::read(const QStringList& folders)
     files.isUnknown = std::any_of(folders.begin(), folders.end(), &isClosed);
     const QMap<QString, QString> layers = layersIn(folders);
     for (auto layer = layers.cbegin(); layer != layers.cend(); ++layer) {
-        const LinkFile file = LinkFile::look(*layer);
+        LinkFile file = LinkFile::read(*layer);
+        QList<LinkItems::Fields> items;
+        if (file.isGood())
+            file = LinkFile::ofContent(file.content, &items);
         files.paths.append(*layer);
         if (!file.isGood() && !isMask(*layer, file))
             files.unreadable.append(layer.key());
         if (!file.isGood())
             continue;
-        const QList<LinkItems::Fields> items = LinkItems::of(file.content);
-        for (const LinkItems::Fields& item : items)
+        for (const LinkItems::Fields& item : std::as_const(items))
             files.links.append(linkOf(layer.key(), item));
     }
     return files;

@@ -34,7 +34,8 @@ static QByteArray rewritten(const QByteArray& content, const LinkRewrite& links,
 {
     const QByteArray made = links.applied(content);
     const int wanted = count - int(links.removed.size()) + int(links.added.size());
-    const bool isGood = LinkFile::ofContent(made).isGood() && int(LinkItems::of(made).size()) == wanted;
+    QList<LinkItems::Fields> found;
+    const bool isGood = LinkFile::ofContent(made, &found).isGood() && int(found.size()) == wanted;
     return isGood ? made : QByteArray();
 }
 

@@ -3,12 +3,12 @@
 
 #include "SeedRecord.h"
 
-#include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 #include "DurableFile.h"
 #include "LayersLog.h"
 #include "LinkFile.h"
+#include "LinkWalk.h"
 
 static const QString layerName = QStringLiteral("layer");
 static const QString usersName = QStringLiteral("users");
@@ -29,19 +29,18 @@ static GivenLink linkOf(const QXmlStreamAttributes& attributes)
 QList<GivenLink> SeedRecord::read(const QString& file)
 {
     QList<GivenLink> given;
-    const LinkFile found = LinkFile::look(file);
+    const LinkFile found = LinkFile::read(file);
     if (found.condition == LinkFile::Missing)
         return given;
-    QXmlStreamReader reader(found.content);
-    while (found.isGood() && !reader.atEnd()) {
-        if (reader.readNextStartElement() && reader.name() == QLatin1String("link")) {
-            given.append(linkOf(reader.attributes()));
-            reader.skipCurrentElement();
-        }
+    LinkWalk walk(found.content, LinkWalk::EveryToken);
+    while (walk.next()) {
+        if (walk.reader().isStartElement() && walk.reader().name() == QLatin1String("link"))
+            given.append(linkOf(walk.reader().attributes()));
     }
-    if (!found.isGood())
-        qCWarning(layersLog, "%s is no good; the operator's links count as new", qUtf8Printable(file));
-    return given;
+    if (found.isGood() && !walk.reader().hasError() && !walk.isTooLarge())
+        return given;
+    qCWarning(layersLog, "%s is no good; the operator's links count as new", qUtf8Printable(file));
+    return {};
 }
 
 bool SeedRecord::write(const QString& file, const QList<GivenLink>& given)

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void unreadable();
     void tooLarge();
     void damagedLine();
+    void looksOnlyIntoWhatIsUnknown();
+    void addsTheLinks();
     void names_data();
     void names();
     void stampTellsAChange();
@@ -122,6 +124,26 @@ void LinkFileTest::tooLarge()
 void LinkFileTest::damagedLine()
 {
     QCOMPARE(LinkFile::ofContent("<a>\n<b>\n</c>\n</a>").line, qint64(3));
+}
+
+/** What is told to be good counts as that without a look, so that a look shows. */
+void LinkFileTest::looksOnlyIntoWhatIsUnknown()
+{
+    const GuardedFolder folder;
+    QVERIFY(folder.write("<a>"));
+    QCOMPARE(LinkFile::look(folder.file(), "<a>").condition, LinkFile::Good);
+    QCOMPARE(LinkFile::look(folder.file(), "<b>").condition, LinkFile::Damaged);
+    QVERIFY(folder.write(QByteArray()));
+    QCOMPARE(LinkFile::look(folder.file(), QByteArray()).condition, LinkFile::Empty);
+}
+
+void LinkFileTest::addsTheLinks()
+{
+    const QByteArray content = GuardedFolder::links({"A", "B"});
+    QList<LinkItems::Fields> links;
+    QVERIFY(LinkFile::ofContent(content, &links).isGood());
+    QCOMPARE(links, LinkItems::of(content));
+    QCOMPARE(int(links.size()), 2);
 }
 
 void LinkFileTest::names_data()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void newestStaysNewestWhenTheClockGoesBack();
     void forItsUserAlone();
     void whatWasChangedIsNotGood();
+    void whatWasChangedIsKeptAgain();
     void otherFilesAreNoStates_data();
     void otherFilesAreNoStates();
     void folderThatLeadsOutside();
@@ -124,6 +125,15 @@ void LinkHistoryTest::whatWasChangedIsNotGood()
     QVERIFY(GuardedFolder::writeTo(states.at(0).file, state(4)));
     QVERIFY(GuardedFolder::writeTo(states.at(1).file, state(2).left(30)));
     QVERIFY(LinkHistory::contentOf(states.at(0)).isEmpty());
+    QCOMPARE(LinkHistory::contentOf(history().newestGood()), state(1));
+}
+
+void LinkHistoryTest::whatWasChangedIsKeptAgain()
+{
+    QVERIFY(history().keep(state(1)));
+    QVERIFY(GuardedFolder::writeTo(history().states().constFirst().file, state(2)));
+    QVERIFY(history().newestGood().isNull());
+    QVERIFY(history().keep(state(1)));
     QCOMPARE(LinkHistory::contentOf(history().newestGood()), state(1));
 }
 
