@@ -2,10 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The Vellum Connect authors
 # SPDX-License-Identifier: MIT
 
-# Tries examples/fleet/ on three systems in folders, with nothing but Debian to begin with, by the commands of its README: the role
-# installs packages, links and settings, changes nothing when it runs again, reports what a started program shows, and
-# refuses links that are no good before it changes anything; the configuration package gives its links and settings, and
-# leaves nothing when it is purged. For root, since a system in a folder is entered by chroot.
+# Tries examples/fleet/ on three systems in folders, with nothing but Debian to begin with, by the commands of its README: the
+# role installs packages, links and settings, changes nothing when it runs again, reports what a started program shows,
+# and refuses links that are no good before it changes anything; the configuration package gives its links and settings,
+# and leaves nothing when it is purged. For root, since a system in a folder is entered by chroot.
 # Usage: sudo scripts/try-fleet.sh [--mirror ADDRESS]
 #   --mirror ADDRESS  takes Debian from there; by default from where this system takes it
 # Everything lies below build/fleet/, which is made anew.
