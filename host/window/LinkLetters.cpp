@@ -4,7 +4,6 @@
 #include "LinkLetters.h"
 
 #include <QKeySequence>
-#include <QStringList>
 
 #include "LinkName.h"
 

@@ -4,9 +4,7 @@
 #pragma once
 
 #include <QSet>
-#include <QString>
-
-class QStringList;
+#include <QStringList>
 
 /** The letters that open links together with Alt: one out of each name, no letter twice, as far as letters go. */
 class LinkLetters

@@ -231,6 +231,8 @@ QList<CheckedFile> links()
         {"no right to delete", with("delete=\"1\" ", ""), {"missing-attribute <item id=\"0\""}},
         {"no right to edit", with("edit=\"1\" ", ""), {"missing-attribute <item id=\"0\""}},
         {"no visible", with(" visible=\"1\"", ""), {"missing-attribute <item id=\"0\"", "hidden-link <item id=\"0\""}},
+        {"a key, as operators give", with("id=\"0\" name=\"P", "id=\"0\" key=\"p\" name=\"P"), {}},
+        {"a key of another element", with("<menu", "<menu key=\"p\""), {"unknown-attribute key="}},
         {"unknown attribute", with("url=\"https", "icon=\"a\" url=\"https"), {"unknown-attribute icon="}},
         {"attribute of another case",
          with("para=\"\"", "Para=\"\""),

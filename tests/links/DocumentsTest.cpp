@@ -17,6 +17,7 @@ private Q_SLOTS:
     void commandsRun_data();
     void commandsRun();
     void shownFindingIsReal();
+    void shownLayerIsGood();
     void pagesAreWellFormed_data();
     void pagesAreWellFormed();
     void everyCodeIsExplained();
@@ -81,6 +82,17 @@ void DocumentsTest::shownFindingIsReal()
     QVERIFY(tool.write(tool.path("links.xml"), goodFile().replace("E-MAIL", "E_MAIL")));
     const QString said = tool.run({"check", "links.xml"}).out;
     QVERIFY2(textOf("operators.md").contains("```\n" + said + "```\n"), qUtf8Printable(said));
+}
+
+void DocumentsTest::shownLayerIsGood()
+{
+    const LinksTool tool;
+    const QStringList lines = linesBetween(textOf("operators.md"), "```xml", "```");
+    QVERIFY(lines.size() > 5);
+    QVERIFY(tool.write(tool.path("links.xml"), lines.join('\n').toUtf8()));
+    const LinksTool::Answer answer = tool.run({"check", "links.xml"});
+    QCOMPARE(answer.out + answer.error, QString());
+    QCOMPARE(answer.code, 0);
 }
 
 void DocumentsTest::pagesAreWellFormed_data()

@@ -130,17 +130,18 @@ void StructureCheck::checkAttributes(const Rule* rule, int index)
     } else {
         for (const LinkAttributes::Attribute& attribute : LinkAttributes::all)
             known.append(QLatin1String(attribute.name));
-        checkNames(known);
+        // By it an operator's link stays the same under another name.
+        checkNames(known, QStringLiteral("key"));
     }
 }
 
-/** That the attributes are these. */
-void StructureCheck::checkNames(const QStringList& known)
+/** That the attributes are these; one more may be. */
+void StructureCheck::checkNames(const QStringList& known, const QString& optional)
 {
     const QXmlStreamAttributes present = m_reader.reader().attributes();
     for (const QXmlStreamAttribute& attribute : present) {
         const QString name = attribute.qualifiedName().toString();
-        if (!known.contains(name))
+        if (!known.contains(name) && name != optional)
             m_found.add(FindingCode::UnknownAttribute, m_reader.placeOf(name),
                         QStringLiteral("%1 has no attribute %2.")
                             .arg(quoted(m_reader.reader().qualifiedName().toString()), quoted(name)));

@@ -50,7 +50,7 @@ private:
     const ElementRules::Rule* placeElement(const QString& name, const QString& shown);
     void placeChild(const ElementRules::Rule* rule, const QString& shown);
     void checkAttributes(const ElementRules::Rule* rule, int index);
-    void checkNames(const QStringList& known);
+    void checkNames(const QStringList& known, const QString& optional = QString());
     void checkValue(const char* attribute, const char* value);
     void text();
     void end();
