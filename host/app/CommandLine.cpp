@@ -51,6 +51,9 @@ public:
             if (parser.isSet(option) && parser.value(option).isEmpty())
                 return tr("Empty value after \"--%1\".").arg(option.names().constFirst());
         }
+        const QFileInfo data(parser.value(dataFolder));
+        if (parser.isSet(dataFolder) && data.exists() && !data.isDir())
+            return tr("There is no folder \"%1\".").arg(parser.value(dataFolder));
         if (parser.isSet(pluginFolder) && !QFileInfo(parser.value(pluginFolder)).isDir())
             return tr("There is no folder \"%1\".").arg(parser.value(pluginFolder));
         if (parser.isSet(connection) && !ConnectionChoice::kinds().contains(parser.value(connection)))

@@ -52,7 +52,7 @@ FolderPrivacy::Result closeFolder(int descriptor, const QString& folder)
         return leaveOpen(folder, "it belongs to another user");
     if (!isOnlyOurs(folder))
         return leaveOpen(folder, "it holds other things as well");
-    if (::fchmod(descriptor, S_IRWXU) != 0)
+    if (::fchmod(descriptor, status.st_mode & S_IRWXU) != 0)
         return leaveOpen(folder, "its rights cannot be changed");
     qCInfo(folderLog, "%s was open to other users, and is no longer", qUtf8Printable(folder));
     return FolderPrivacy::Private;

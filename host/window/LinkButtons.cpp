@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "LinkButton.h"
 #include "LinkLetters.h"
 
 namespace
@@ -125,7 +126,7 @@ bool LinkButtons::eventFilter(QObject* object, QEvent* event)
 QPushButton* LinkButtons::newButton(QAction* action, QWidget* parent)
 {
     const QString name = action->data().toString();
-    QPushButton* const button = new QPushButton(parent);
+    QPushButton* const button = new LinkButton(parent);
     QFont font = button->font();
     font.setPointSizeF(font.pointSizeF() + 1);
     button->setFont(font);

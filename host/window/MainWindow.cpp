@@ -6,6 +6,7 @@
 #include "MainWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -140,6 +141,9 @@ void MainWindow::changeEvent(QEvent* event)
 /** What no button and no field took. */
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
+    // What an open menu did not take comes here as well.
+    if (QApplication::activePopupWidget())
+        return QMainWindow::keyPressEvent(event);
     const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint() &&
                         !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (event->key() == Qt::Key_Escape) {

@@ -32,6 +32,13 @@ class Find(Scenario):
         self.expect("Customer 3", "Customer 13", "Customer 23", "Customer 30")
         self.assertEqual(self.opened.calls(), [["mailto:30@example.org"]])
 
+    def test_keys_of_an_open_menu_find_nothing(self):
+        menu = self.open_menu("Edit")
+        xdotool("type", "3")
+        self.close_menu(menu)
+        self.expect(*NAMES)
+        self.assertEqual(self.window.find("text", "Find a quick link").text, "")
+
     def test_control_and_f(self):
         menu = self.open_menu("Edit")
         self.assertIn("Find a Quick Link", menu.names("menu item"))

@@ -61,6 +61,7 @@ void FolderPrivacyTest::rights_data()
     QTest::addColumn<uint>("after");
     QTest::newRow("private") << 0700U << 0700U;
     QTest::newRow("usual") << 0755U << 0700U;
+    QTest::newRow("not to be written to") << 0555U << 0500U;
     QTest::newRow("open to all") << 0777U << 0700U;
     QTest::newRow("group reads") << 0740U << 0700U;
     QTest::newRow("others pass") << 0701U << 0700U;

@@ -139,6 +139,7 @@ void CommandLineTest::refusesInOneLine_data()
     QTest::newRow("no value") << QStringList{"--language"} << "--language";
     QTest::newRow("empty value") << QStringList{"--data-dir="} << "--data-dir";
     QTest::newRow("empty kind") << QStringList{"--connection="} << "\"--connection\"";
+    QTest::newRow("no folder of data") << QStringList{"--data-dir=/dev/null"} << "\"/dev/null\"";
     QTest::newRow("no such folder of plug-ins") << QStringList{"--plugin-dir=/not/there"} << "\"/not/there\"";
     QTest::newRow("no folder of plug-ins") << QStringList{"--plugin-dir=/dev/null"} << "\"/dev/null\"";
     QTest::newRow("no such kind") << QStringList{"--connection=Any"} << "\"Any\"";

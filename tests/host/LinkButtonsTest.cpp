@@ -22,6 +22,9 @@ private Q_SLOTS:
     void keepsThePressedButtonUntilLater();
     void followsTheIcon();
     void staysAsWideWithAnIcon();
+    void nameStandsBesideTheIcon_data();
+    void nameStandsBesideTheIcon();
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 };
 
 static QIcon redIcon()
@@ -38,6 +41,19 @@ static QStringList textsOf(const LinkButtons& buttons)
     for (const QPushButton* button : all)
         texts.append(button->text());
     return texts;
+}
+
+/** Where pixels of a picture are of such a colour. */
+static QRect partOf(const QImage& picture, bool (*isMeant)(const QColor& color))
+{
+    QRect part;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (isMeant(picture.pixelColor(x, y)))
+                part |= QRect(x, y, 1, 1);
+        }
+    }
+    return part;
 }
 
 void LinkButtonsTest::showsTheNameAsItStands()
@@ -127,6 +143,38 @@ void LinkButtonsTest::staysAsWideWithAnIcon()
     const int widest = bare.sizeHint().width() - metrics.horizontalAdvance(text) + 17 * metrics.horizontalAdvance('m');
     QVERIFY2(button->sizeHint().width() <= widest,
              qPrintable(QString("%1 > %2").arg(button->sizeHint().width()).arg(widest)));
+}
+
+void LinkButtonsTest::nameStandsBesideTheIcon_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("from left to right") << Qt::LeftToRight;
+    QTest::newRow("from right to left") << Qt::RightToLeft;
+}
+
+void LinkButtonsTest::nameStandsBesideTheIcon()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QAction action;
+    action.setData("Portal");
+    action.setIcon(redIcon());
+    LinkButtons buttons;
+    QGuiApplication::setLayoutDirection(direction);
+    buttons.setActions({&action});
+    buttons.resize(900, 100);
+    buttons.show();
+    QPushButton* const button = buttons.findChild<QPushButton*>();
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::ButtonText, Qt::blue);
+    button->setPalette(palette);
+    const QImage picture = button->grab().toImage();
+    const QRect icon = partOf(picture, [](const QColor& color) { return color == Qt::red; });
+    const QRect name = partOf(picture, [](const QColor& color) { return color.blue() > color.green() + 100; });
+    QVERIFY(icon.isValid() && name.isValid());
+    const int between = direction == Qt::LeftToRight ? name.left() - icon.right() : icon.left() - name.right();
+    QVERIFY2(between > 0 && between < 10, qPrintable(QString::number(between)));
+    const int middle = icon.united(name).center().x();
+    QVERIFY2(qAbs(middle - picture.width() / 2) < 10, qPrintable(QString::number(middle)));
 }
 
 REGISTER_TEST(LinkButtonsTest)
