@@ -52,7 +52,7 @@ sanitized_tests() {
     ASAN_OPTIONS=detect_leaks=1:fast_unwind_on_malloc=0:$checks:suppressions=$PWD/tests/sanitizers/asan.supp \
         LSAN_OPTIONS=suppressions=$PWD/build/$label.supp:print_suppressions=0 \
         UBSAN_OPTIONS=print_stacktrace=1 \
-        JOBS=2 ctest_in asan "$log" -L "$label"
+        JOBS=3 ctest_in asan "$log" -L "$label"
 }
 
 # beside COMMAND COMMAND: both at once, where one of them waits or has work for one processor only.
@@ -163,7 +163,7 @@ if [[ $quick == no ]]; then
     step "sanitizers: unit tests" sanitized_tests unit build/test-asan.log 10 lsan.supp
     step "sanitizers: desktop; Debian packages" beside sanitized_desktop scripts/package.sh
     # The same inputs at each run: what is new is looked for by hand, for longer.
-    step "fuzzing" env SEED=1 scripts/fuzz.sh 30
+    step "fuzzing" env SEED=1 scripts/fuzz.sh 10
     step "mutants: a handful" scripts/mutants.sh --handful
     step "instructions and heap; format and lint" beside instructions_and_heap scripts/lint.sh
 fi

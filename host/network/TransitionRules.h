@@ -74,7 +74,7 @@ private:
 
     Phase m_phase = Phase::Unseen;
     Gap m_gap = Gap::Network;
-    QString m_id; ///< of the connection that is, or last was, up
+    QString m_id;              ///< of the connection that is, or last was, up
     bool m_isComingUp = false; ///< a connection is
     bool m_isAsleep = false;
     qint64 m_wokeUp = -wakeUpLimit;
